@@ -1,0 +1,81 @@
+#!/usr/bin/env python3
+"""Holds every source to the one list of rooms, cmake/RoomList.cmake: a room includes itself and what its
+line links (and what those link). src/ sees the standard library besides, nothing else."""
+
+import re
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+ROOM_LINE = re.compile(r"vorlane_room\(\s*(\w+)\s+([\w/]+)(?:\s+LINKS\s+([\w\s]+?))?(?:\s+SYSTEM\s+[^)]*)?\)")
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
+# Headers of the C++ standard library have no dot; these few of C's are in it by their old names or are
+# POSIX, which the desk may use.
+POSIX = {"fcntl.h", "unistd.h", "sys/stat.h", "sys/types.h", "sys/uio.h", "sys/wait.h", "dirent.h", "errno.h",
+         "spawn.h", "poll.h", "signal.h", "limits.h", "stdlib.h", "pwd.h", "sys/resource.h", "termios.h"}
+
+
+def rooms():
+    text = (ROOT / "cmake/RoomList.cmake").read_text()
+    found = {}
+    for name, folder, links in ROOM_LINE.findall(text):
+        found[name] = (folder, links.split())
+    return found
+
+
+def reachable(table, name):
+    seen, queue = set(), [name]
+    while queue:
+        room = queue.pop()
+        if room not in seen:
+            seen.add(room)
+            queue += table[room][1]
+    return seen
+
+
+def header_prefix(folder):
+    """How an include of a room's header begins: "basic/" for src/basic, "desk/dxf/" for desk/dxf."""
+    return folder.removeprefix("src/") + "/"
+
+
+def faults():
+    table = rooms()
+    prefixes = {header_prefix(folder): name for name, (folder, _) in table.items()}
+    for name, (folder, links) in table.items():
+        for link in links:
+            if name in reachable(table, link):
+                yield f"cmake/RoomList.cmake: {name} and {link} include each other"
+        allowed = reachable(table, name)
+        for source in sorted((ROOT / folder).glob("*")):
+            if source.suffix not in (".h", ".cpp"):
+                continue
+            text = source.read_text(encoding="utf-8")
+            for mark, header in INCLUDE.findall(text):
+                line = text[: text.find(header)].count("\n") + 1
+                where = f"{source.relative_to(ROOT)}:{line}"
+                if mark == '"':
+                    room = next((r for p, r in prefixes.items() if header.startswith(p)), None)
+                    if room is None:
+                        yield f'{where}: "{header}" is in no room (includes are written from the root of the rooms)'
+                    elif room not in allowed:
+                        yield f"{where}: {name} may not include {room} ({header})"
+                elif "." in header or "/" in header:
+                    qt_or_windows = folder.startswith(("faces/qt", "faces/win32", "desk/window", "windows"))
+                    if not qt_or_windows and not (folder.startswith("desk/") and header in POSIX):
+                        yield f"{where}: <{header}> is not of the standard library"
+    known = {folder for folder, _ in table.values()}
+    for top in ("src", "desk", "faces"):
+        for folder in sorted((ROOT / top).iterdir()):
+            if folder.is_dir() and any(folder.iterdir()) and str(folder.relative_to(ROOT)) not in known:
+                yield f"{folder.relative_to(ROOT)}: no room of that folder in cmake/RoomList.cmake"
+
+
+def main():
+    found = list(faults())
+    for fault in found:
+        print(fault)
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
