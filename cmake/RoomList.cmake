@@ -19,3 +19,5 @@ vorlane_room(model desk/model LINKS drawing host)
 vorlane_room(lisp desk/lisp LINKS host)
 vorlane_room(shell desk/shell LINKS entry model lisp)
 vorlane_room(console desk/console LINKS shell text_face)
+
+vorlane_program(vorlane-console desk/console console)

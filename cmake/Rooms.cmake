@@ -26,3 +26,12 @@ function(vorlane_room name folder)
     endif()
     set_property(GLOBAL APPEND PROPERTY VORLANE_ROOMS ${name})
 endfunction()
+
+# A program: the main.cpp of a room, linked with that room. The binary lies at the top of the build folder.
+function(vorlane_program name folder room)
+    if(EXISTS ${PROJECT_SOURCE_DIR}/${folder}/main.cpp)
+        add_executable(${name} ${PROJECT_SOURCE_DIR}/${folder}/main.cpp)
+        target_link_libraries(${name} PRIVATE ${room})
+        set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+    endif()
+endfunction()
