@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace session {
+
+/// What a write does with an entry that is there already.
+enum class Overwrite {
+    Always,     ///< every line of the key is replaced
+    EmptyOnly,  ///< only lines with nothing behind the "=": a written default never displaces a text
+};
+
+/// The shared steps of the settings and the language files: reads (`mode` 0), writes (-1) or gives the last
+/// value (other modes) of `key` in `file`. Keys match without regard to case and to blanks round them; the
+/// first value that isn't empty is read. An empty key gives an empty text and leaves the file alone.
+std::string entryValue(const std::string& key, const std::string& file, std::int16_t mode,
+                       const std::string& value, Overwrite overwrite);
+
+}  // namespace session
