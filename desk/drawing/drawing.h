@@ -1,0 +1,210 @@
+#pragma once
+
+#include "desk/drawing/block_table.h"
+#include "desk/drawing/entity_data.h"
+#include "desk/drawing/errors.h"
+#include "desk/drawing/header_variables.h"
+#include "desk/drawing/ids.h"
+#include "desk/drawing/layer_table.h"
+#include "desk/drawing/selection.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace dxf {
+struct Finding;
+struct Format;
+class TagReader;
+}  // namespace dxf
+
+namespace drawing {
+
+class Store;
+struct Record;
+
+/// How a file's faults are taken: Strict raises on what Lenient repairs or lives with.
+enum class Reading { Strict, Lenient };
+
+/// The parts of a main entity: attributes of an INSERT, vertices of a POLYLINE, its SEQEND at the end. A
+/// range of entity numbers.
+struct PartRange {
+    EntityId first = 0;
+    std::uint32_t count = 0;
+};
+
+/// What bringing a drawing in as a block did.
+struct ImportResult {
+    BlockId block = kNoBlock;
+    bool redefined = false;               ///< a block of that name was there and has the new content now
+    std::vector<std::string> kept;        ///< nested blocks of which the drawing keeps its own definition
+    std::vector<std::string> leftBehind;  ///< what couldn't be carried, a line each, with handle and reason
+};
+
+/// A drawing: a DXF file as ranges of its bytes, of which only what is changed gets bytes of its own. An
+/// unchanged drawing is saved as it was, to the byte.
+///
+/// Members that take an entity raise kObjectErased where it is erased. Edits and deletions raise kLockedLayer
+/// for an entity on a locked layer. Points are world coordinates, angles radians, unless the name says
+/// otherwise.
+class Drawing {
+  public:
+    /// Reads a file. Raises dxf::ReadError ("file:line: what") for what can't be read.
+    static std::unique_ptr<Drawing> open(const std::string& path, Reading reading = Reading::Lenient);
+    /// The same from bytes; `name` stands for the file in messages.
+    static std::unique_ptr<Drawing> parse(std::string bytes, const std::string& name,
+                                          Reading reading = Reading::Lenient);
+    ~Drawing();
+    Drawing(const Drawing&) = delete;
+    Drawing& operator=(const Drawing&) = delete;
+
+    /// The file that was opened or last saved to.
+    const std::string& path() const { return path_; }
+    /// What lenient reading repaired or lived with.
+    const std::vector<dxf::Finding>& findings() const;
+    const dxf::Format& format() const;
+    /// Writes the drawing: a new file beside the old one, renamed over it. Raises kDiskFull and its like; the
+    /// old file then stays as it was.
+    void save(const std::string& path);
+    /// The pieces that `save` writes, in order. They live until the next change.
+    std::vector<std::string_view> pieces() const;
+    /// Whether something was changed since opening or the last save.
+    bool isModified() const;
+    /// Counts changes; what was derived from the drawing is out of date when it differs.
+    std::uint64_t revision() const { return revision_; }
+
+    const HeaderVariables& header() const { return header_; }
+    const LayerTable& layers() const { return layers_; }
+    const BlockTable& blocks() const { return blocks_; }
+    BlockId modelSpace() const { return blocks_.modelSpace(); }
+    /// Number of entities of a block or space that aren't erased.
+    std::size_t entityCount(BlockId block) const;
+    /// Walks the main entities of a block or space that aren't erased, in drawing order, until `visit`
+    /// returns false. Entities added meanwhile are walked too.
+    template <typename Visit>
+    void forEachEntity(BlockId block, Visit&& visit) const {
+        for (std::size_t i = 0; i < blocks_[block].entities.size(); ++i) {
+            const EntityId id = blocks_[block].entities[i];
+            if (!isErased(id) && !visit(id)) return;
+        }
+    }
+
+    // One entity.
+
+    bool isErased(EntityId id) const;
+    /// Raises kObjectErased where it is erased.
+    void requireAlive(EntityId id) const;
+    /// The entity's type as the file spells it, "INSERT".
+    std::string_view type(EntityId id) const;
+    NameId typeId(EntityId id) const;
+    /// The class name in the host, "AcDbBlockReference"; for a type that the host doesn't know its last
+    /// subclass marker.
+    std::string objectName(EntityId id) const;
+    Handle handle(EntityId id) const;
+    /// The object of a handle that isn't erased, entity or not; kNoEntity if there is none.
+    EntityId byHandle(Handle handle) const;
+    /// The block or space that the entity (or the entity that it is a part of) stands in; kNoBlock for table
+    /// entries and objects.
+    BlockId owner(EntityId id) const;
+    /// The entity that a part belongs to, the entity itself if it is none.
+    EntityId mainEntity(EntityId id) const;
+    PartRange parts(EntityId id) const;
+    /// The attribute references of an INSERT in the block's order; empty for others.
+    std::vector<EntityId> attributes(EntityId id) const;
+
+    /// The entity's tags as bytes of the file's format, its parts not among them.
+    std::string_view bytes(EntityId id) const;
+    dxf::TagReader tags(EntityId id) const;
+
+    const Layer& layer(EntityId id) const;
+    std::string_view layerName(EntityId id) const;
+    bool isOnLockedLayer(EntityId id) const;
+    /// Whether it can be seen: not invisible (60), its layer neither off nor frozen.
+    bool isDisplayed(EntityId id) const;
+    CommonData common(EntityId id) const;
+    /// A block reference; raises kNotApplicable for another type.
+    InsertData insert(EntityId id) const;
+    /// An ATTRIB or ATTDEF; raises kNotApplicable for another type.
+    AttribData attribute(EntityId id) const;
+    /// The name (group 2) of a reference as the block's definition spells it; of another entity its group 2.
+    std::string name(EntityId id) const;
+
+    // Edits. Each keeps every other tag's bytes as they stand.
+
+    /// Sets a block reference's insertion point, scale factors (raising kInvalidInput for 0) and rotation.
+    /// Its attributes move with it.
+    void setInsertionPoint(EntityId id, const Point3& point);
+    void setScale(EntityId id, const Vector3& scale);
+    void setRotation(EntityId id, double radians);
+    /// Group 60. A reference's attributes follow.
+    void setVisible(EntityId id, bool visible);
+    /// The text of an attribute, group 1; of a multi-line one its embedded text too.
+    void setAttributeText(EntityId id, std::string_view text);
+    /// Sets the first group of that code behind the subclass marker (empty: before any), adding it where
+    /// absent.
+    void setText(EntityId id, int code, std::string_view subclass, std::string_view value);
+    void setNumber(EntityId id, int code, std::string_view subclass, double value);
+    void setInteger(EntityId id, int code, std::string_view subclass, std::int64_t value);
+
+    /// Deletes an entity with its parts and what it hard-owns (extension dictionary).
+    void erase(EntityId id);
+
+    // New entities. They go to the end of model space with the current layer, colour, linetype and so on.
+
+    /// A reference of a block, with attribute references made from the block's attribute definitions that
+    /// aren't constant. Raises kInvalidInput for a scale of 0 and for a block that is a space, kKeyNotFound
+    /// for an erased one.
+    EntityId insertBlock(BlockId block, const Point3& point, const Vector3& scale, double rotation);
+    EntityId addLine(const Point3& start, const Point3& end);
+
+    /// Brings a whole drawing's model space in as block `name` with its $INSBASE as base point, with nested
+    /// blocks, layers, text styles, linetypes and dimension styles that are missing here. A block of that
+    /// name gets the new content.
+    ImportResult importBlock(const Drawing& source, const std::string& name);
+
+    // Selection.
+
+    /// The main entities of all spaces (layouts too, block definitions not) that pass the filter, in drawing
+    /// order.
+    std::vector<EntityId> select(const Filter& filter) const;
+    bool passes(EntityId id, const Filter& filter) const;
+
+    // Undo. An edit outside a step is a step of its own; steps nest, the outermost counts.
+
+    void beginStep();
+    void endStep();
+    bool canUndo() const;
+    /// Restores the drawing of before the last step, handle seed and bytes included. False if there is none.
+    bool undo();
+
+    /// The inside, for the room's own files.
+    Store& store() { return *store_; }
+    const Store& store() const { return *store_; }
+
+  private:
+    friend class Opener;
+    friend class Importer;
+    Drawing();
+
+    std::string path_;
+    std::unique_ptr<Store> store_;
+    HeaderVariables header_;
+    LayerTable layers_;
+    BlockTable blocks_;
+    std::uint64_t revision_ = 0;
+};
+
+/// Runs a stretch of edits as one undo step.
+class UndoStep {
+  public:
+    explicit UndoStep(Drawing& drawing) : drawing_(drawing) { drawing_.beginStep(); }
+    ~UndoStep() { drawing_.endStep(); }
+    UndoStep(const UndoStep&) = delete;
+    UndoStep& operator=(const UndoStep&) = delete;
+
+  private:
+    Drawing& drawing_;
+};
+
+}  // namespace drawing

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "desk/drawing/ids.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace drawing {
+
+/// A layer as far as picks and edits ask for it.
+struct Layer {
+    std::string name;             ///< as the drawing spells it
+    EntityId record = kNoEntity;  ///< its LAYER; kNoEntity for a layer that only entities name
+    int color = 7;                ///< absolute value of group 62
+    bool frozen = false;          ///< group 70, bit 1
+    bool locked = false;          ///< group 70, bit 4
+    bool off = false;             ///< group 62 is negative
+};
+
+/// The layers by their interned names.
+class LayerTable {
+  public:
+    /// The layer of a name; a thawed, unlocked one that is on where the table lacks it.
+    const Layer& operator[](NameId name) const;
+    const std::vector<Layer>& all() const { return layers_; }
+    bool contains(NameId name) const;
+    void add(NameId name, Layer layer);
+    void remove(NameId name);
+
+  private:
+    std::vector<Layer> layers_;
+    std::vector<std::uint32_t> byName_;  ///< index + 1 of a layer by name, 0 for none
+    Layer missing_;
+};
+
+}  // namespace drawing
