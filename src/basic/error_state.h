@@ -1,9 +1,9 @@
 #pragma once
 
+#include "basic/error.h"
+
 #include <string>
 #include <utility>
-
-#include "basic/error.h"
 
 namespace basic {
 

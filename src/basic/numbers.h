@@ -1,10 +1,10 @@
 #pragma once
 
+#include "basic/variant.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "basic/variant.h"
 
 namespace basic {
 
@@ -40,7 +40,7 @@ double toDouble(const Variant& value, const Regional& regional);
 
 /// The number that stops at the first foreign character: blanks are passed over, the decimal separator is a
 /// point whatever the regional settings, an exponent is taken, and a text that begins with no number
-/// gives 0.
+/// gives 0. "&H" and "&O" begin a hexadecimal and an octal number. Raises kOverflow beyond a 64-bit float.
 double leadingNumber(std::string_view text);
 
 /// Rounded to 16 bits, a half going to the even neighbour. Raises kOverflow outside -32,768 to 32,767.
@@ -49,8 +49,9 @@ std::int16_t toInt16(double value);
 std::int32_t toInt32(double value);
 
 /// `value` under a numeric picture of at least one whole digit and exactly `decimals` decimals (0 to 15),
-/// rounded with a half going away from zero on the decimal text of up to 15 digits, so 2.675 with two decimals
-/// gives 2.68; no thousands separator. With `bareSeparator` the separator stands even without decimals.
+/// rounded with a half going away from zero on the decimal text of up to 15 digits, so 2.675 with two
+/// decimals gives 2.68; no thousands separator. With `bareSeparator` the separator stands even without
+/// decimals.
 std::string toPicture(double value, int decimals, const Regional& regional, bool bareSeparator = false);
 
 }  // namespace basic

@@ -5,7 +5,8 @@
 
 namespace basic {
 
-// Texts inside the program are UTF-8. An ill-formed byte counts as one character of its own and is kept.
+// Texts inside the program are UTF-8. An ill-formed byte counts as one character of its own and is kept: it
+// is given out as U+DC00 plus its value, and appending that gives the byte again.
 
 /// The next character of `text` at `position`, which moves behind it.
 char32_t nextCharacter(std::string_view text, std::size_t& position);
@@ -15,6 +16,8 @@ void appendCharacter(std::string& text, char32_t character);
 /// Capitals and small letters of the Latin, Greek and Cyrillic alphabets, the rest unchanged.
 std::string toUpper(std::string_view text);
 std::string toLower(std::string_view text);
+/// The character that stands for both cases of a letter when case doesn't count.
+char32_t foldCase(char32_t character);
 /// Without the blanks (character 32) at both ends.
 std::string_view trim(std::string_view text);
 

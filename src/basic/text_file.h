@@ -12,13 +12,13 @@ namespace basic {
 /// Failures raise kBadFileName, kFileNotFound, kPathNotFound, kPathFileAccess (a folder), kPermissionDenied,
 /// kDiskFull or kDeviceError.
 
-/// Reads line by line. A line ends at a carriage return or at carriage return and line feed; a lone line feed is
-/// part of the line.
+/// Reads line by line. A line ends at a carriage return or at carriage return and line feed; a lone line feed
+/// is part of the line.
 class TextReader {
   public:
     explicit TextReader(const std::string& path);
     bool atEnd() const { return position_ >= bytes_.size(); }
-    /// The next line as UTF-8, without its end. Past the end raises error 62.
+    /// The next line as UTF-8, without its end. Past the end raises kInputPastEnd.
     std::string readLine();
 
   private:
@@ -35,6 +35,7 @@ class TextWriter {
     TextWriter(const TextWriter&) = delete;
     TextWriter& operator=(const TextWriter&) = delete;
 
+    /// Raises kBadFileName after `close`.
     void writeLine(std::string_view text);
     /// Flushes and closes, raising what writing raises. The destructor closes without a word.
     void close();

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "basic/error.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
-
-#include "basic/error.h"
 
 namespace basic {
 
@@ -24,9 +24,9 @@ struct Missing {
 };
 
 class Variant;
-using Array = std::vector<Variant>;         ///< array of variants, from 0
-using Doubles = std::vector<double>;        ///< array of 64-bit floats, from 0; a point has three
-using Shorts = std::vector<std::int16_t>;   ///< array of 16-bit integers, from 0; a filter's group codes
+using Array = std::vector<Variant>;        ///< array of variants, from 0
+using Doubles = std::vector<double>;       ///< array of 64-bit floats, from 0; a point has three
+using Shorts = std::vector<std::int16_t>;  ///< array of 16-bit integers, from 0; a filter's group codes
 
 /// A value as it crosses the host's border. Arrays are shared and never changed once they are in a variant;
 /// an object variant without an object is "nothing".
@@ -45,8 +45,8 @@ class Variant {
     Variant(const char* value) : value_(std::string(value)) {}
     Variant(ObjectRef value) : value_(std::move(value)) {}
     template <typename T>
-        requires std::is_base_of_v<Referable, T>
-    Variant(std::shared_ptr<T> value) : value_(ObjectRef(std::move(value))) {}
+    requires std::is_base_of_v<Referable, T> Variant(std::shared_ptr<T> value)
+        : value_(ObjectRef(std::move(value))) {}
     Variant(Array value) : value_(std::make_shared<const Array>(std::move(value))) {}
     Variant(Doubles value) : value_(std::make_shared<const Doubles>(std::move(value))) {}
     Variant(Shorts value) : value_(std::make_shared<const Shorts>(std::move(value))) {}
