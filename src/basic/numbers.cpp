@@ -41,7 +41,7 @@ bool isPlainWhole(double value) { return std::abs(value) < 1e15 && value == std:
 std::string wholeText(std::int64_t value) {
     char buffer[24];
     const char* end = std::to_chars(std::begin(buffer), std::end(buffer), value).ptr;
-    return {buffer, end};
+    return std::string(static_cast<const char*>(buffer), end);
 }
 
 template <typename Integer>
