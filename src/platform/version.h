@@ -13,6 +13,6 @@ struct VersionResource {
     std::string_view companyName;
 };
 
-inline constexpr VersionResource kVersion{"Vorlane", 1, 0, "Copyright \u00A9", "Merovane"};
+inline constexpr VersionResource kVersion{"Vorlane", 1, 0, "Copyright \u00A9 2026", "Merovane"};
 
 }  // namespace platform

@@ -1,0 +1,132 @@
+#include "session/entry_file.h"
+
+#include "basic/error.h"
+#include "basic/text.h"
+#include "basic/text_file.h"
+
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace session {
+namespace {
+
+namespace fs = std::filesystem;
+using basic::TextReader;
+using basic::TextWriter;
+
+/// A key as lines are compared with it: in capitals, with its "=".
+struct Wanted {
+    explicit Wanted(std::string_view key) : text(basic::toUpper(key) + "=") {
+        for (std::size_t position = 0; position < text.size(); ++length) basic::nextCharacter(text, position);
+    }
+
+    std::string text;
+    std::size_t length = 0;  ///< in characters
+};
+
+/// The rest of a line behind the key and its "=", nothing for a line that doesn't begin so. The "=" is part
+/// of the comparison, so that a key never matches a longer one.
+std::optional<std::string_view> valueOf(std::string_view line, const Wanted& wanted) {
+    std::size_t position = 0;
+    for (std::size_t count = 0; count < wanted.length; ++count) {
+        if (position >= line.size()) return std::nullopt;
+        basic::nextCharacter(line, position);
+    }
+    if (line[position - 1] != '=' || basic::toUpper(line.substr(0, position)) != wanted.text)
+        return std::nullopt;
+    return line.substr(position);
+}
+
+/// Whether the file's last line lacks its end, so that a line appended to it would run on from it.
+bool endsUnfinished(const std::string& path) {
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    if (!file || file.tellg() <= 0) return false;
+    file.seekg(-1, std::ios::end);
+    const int last = file.get();
+    return last != '\n' && last != '\r';
+}
+
+void appendLine(const std::string& path, const std::string& line) {
+    const bool unfinished = endsUnfinished(path);
+    TextWriter writer(path, TextWriter::Mode::Append);
+    if (unfinished) writer.writeLine("");
+    writer.writeLine(line);
+    writer.close();
+}
+
+void writeLines(const std::string& path, const std::vector<std::string>& lines) {
+    TextWriter writer(path, TextWriter::Mode::Replace);
+    for (const std::string& line : lines) writer.writeLine(line);
+    writer.close();
+}
+
+/// Writes all lines to a file beside the old one and puts it in the old one's place, so that a full disk
+/// doesn't cost the old lines. Where nothing can be put beside it or in its place, the file itself is
+/// written.
+void rewrite(const std::string& path, const std::vector<std::string>& lines) {
+    TextWriter(path, TextWriter::Mode::Append).close();  // refused here, if it may not be written at all
+    std::error_code failure;
+    const fs::path target = fs::canonical(path, failure);
+    const std::string beside = target.string() + "~";
+    if (failure || fs::exists(beside, failure)) return writeLines(path, lines);
+    try {
+        TextWriter(beside, TextWriter::Mode::Replace).close();
+    } catch (const basic::Error&) {
+        return writeLines(path, lines);
+    }
+    try {
+        writeLines(beside, lines);
+    } catch (...) {
+        fs::remove(beside, failure);
+        throw;
+    }
+    fs::permissions(beside, fs::status(target, failure).permissions(), failure);
+    fs::rename(beside, target, failure);
+    if (failure) {
+        fs::remove(beside, failure);
+        writeLines(path, lines);
+    }
+}
+
+}  // namespace
+
+std::string entryValue(const std::string& key, const std::string& file, std::int16_t mode,
+                       const std::string& value, Overwrite overwrite) {
+    if (key.empty()) return {};
+    const std::string trimmed(basic::trim(key));
+    const Wanted wanted(trimmed);
+    const bool writing = mode == -1;
+    const std::string entry = trimmed + "=" + value;
+
+    std::string result;
+    std::vector<std::string> lines;
+    bool found = false;
+    {
+        TextReader reader(file);
+        std::int32_t count = 0;
+        // Reading stops at the first value that isn't empty: a bare "key=" lets a later line of the key
+        // speak.
+        while (!reader.atEnd() && (result.empty() || mode != 0)) {
+            std::string line = reader.readLine();
+            if (++count > std::numeric_limits<std::int16_t>::max()) throw basic::Error(basic::kOverflow);
+            if (const auto rest = valueOf(line, wanted)) {
+                found = true;
+                result = *rest;
+                if (writing && (overwrite == Overwrite::Always || result.empty())) line = entry;
+            }
+            if (writing) lines.push_back(std::move(line));
+        }
+    }
+    if (!writing) return result;
+    if (found)
+        rewrite(file, lines);
+    else
+        appendLine(file, entry);
+    return value;
+}
+
+}  // namespace session
