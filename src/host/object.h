@@ -1,11 +1,11 @@
 #pragma once
 
+#include "basic/variant.h"
+
 #include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
-
-#include "basic/variant.h"
 
 namespace host {
 
@@ -22,8 +22,8 @@ class Object : public basic::Referable {
     virtual void set(std::string_view member, const Variant& value) = 0;
     virtual Variant call(std::string_view member, Arguments& arguments) = 0;
 
-    /// Walks a collection in its own order until `visit` returns false. An object that is no collection raises
-    /// kNoSuchMember.
+    /// Walks a collection in its own order until `visit` returns false. An object that is no collection
+    /// raises kNoSuchMember.
     virtual void enumerate(const std::function<bool(const Variant&)>& visit) = 0;
 
     /// Call with arguments of which none comes back.
@@ -32,8 +32,8 @@ class Object : public basic::Referable {
 
 using ObjectPtr = std::shared_ptr<Object>;
 
-/// The object that a variant holds. Raises kObjectNotSet for nothing or an empty variant, kObjectRequired for any
-/// other value.
+/// The object that a variant holds. Raises kObjectNotSet for nothing or an empty variant, kObjectRequired for
+/// any other value.
 ObjectPtr asObject(const Variant& value);
 
 }  // namespace host
