@@ -9,6 +9,8 @@ class Label : public Control {
   public:
     Label(Form& form, std::string name) : Control(form, std::move(name), Kind::Label) {}
     std::function<void()> onClick;
+    /// The user's click.
+    void press() { raise(onClick); }
 };
 
 /// A box with a caption around other controls.

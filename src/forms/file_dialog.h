@@ -1,13 +1,12 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/screen.h"
 
 #include <string>
 #include <vector>
 
 namespace forms {
-
-class Screen;
 
 /// The file dialog as a control: never drawn on the form, with none of the common properties.
 class FileDialog : public Control {
@@ -21,32 +20,39 @@ class FileDialog : public Control {
     };
 
     /// Pairs of label and patterns, all parted by "|", patterns of one label by ";".
-    const std::string& filter() const { return filter_; }
-    void setFilter(std::string_view filter) { filter_ = filter; }
+    const std::string& filter() const { return state_.filter; }
+    void setFilter(std::string_view filter) { state_.filter = filter; }
     std::vector<FilterEntry> filterEntries() const;
 
     /// The title; while it is empty, the face shows its own.
-    const std::string& dialogTitle() const { return dialogTitle_; }
-    void setDialogTitle(std::string_view title) { dialogTitle_ = title; }
-    /// 4 hides the read-only box, which our faces have none of; it asks neither for an overwrite question nor
+    const std::string& dialogTitle() const { return state_.dialogTitle; }
+    void setDialogTitle(std::string_view title) { state_.dialogTitle = title; }
+    /// 4 hides the read-only box, which no face of ours draws; it asks neither for an overwrite question nor
     /// for a test that the file exists.
-    int flags() const { return flags_; }
-    void setFlags(int flags) { flags_ = flags; }
-    const std::string& initDir() const { return initDir_; }
-    void setInitDir(std::string_view folder) { initDir_ = folder; }
+    int flags() const { return state_.flags; }
+    void setFlags(int flags) { state_.flags = flags; }
+    /// The folder that the dialog starts in; empty for the current one.
+    const std::string& initDir() const { return state_.initDir; }
+    void setInitDir(std::string_view folder) { state_.initDir = folder; }
     /// The path that was chosen last. A cancelled dialog leaves it as it was.
-    const std::string& fileName() const { return fileName_; }
-    void setFileName(std::string_view path) { fileName_ = path; }
+    const std::string& fileName() const { return state_.fileName; }
+    void setFileName(std::string_view path) { state_.fileName = path; }
 
     void showOpen(Screen& screen);
     void showSave(Screen& screen);
 
-    void keepDesign() override {}
+    void keepDesign() override;
     void restoreDesign() override;
 
   private:
-    std::string filter_, dialogTitle_, initDir_, fileName_;
-    int flags_ = 0;
+    struct State {
+        std::string filter, dialogTitle, initDir, fileName;
+        int flags = 0;
+    };
+    void run(Screen& screen, FileDialogMode mode);
+
+    State state_;
+    State design_;
 };
 
 }  // namespace forms

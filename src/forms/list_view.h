@@ -123,7 +123,7 @@ class ListView : public Control {
     bool hideSelection_ = true;
 
     std::vector<ColumnHeader> designHeaders_;
-    std::vector<std::vector<std::string>> designRows_;
+    std::deque<ListItem> designRows_;
     bool designHideSelection_ = true;
 };
 

@@ -49,7 +49,7 @@ class ListControl : public Control {
         int listIndex = -1;
     };
 
-    using Control::Control;
+    ListControl(Form& form, std::string name, Kind kind) : Control(form, std::move(name), kind) {}
     /// Makes an entry current without an event.
     virtual void moveTo(int index);
 

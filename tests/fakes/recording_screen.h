@@ -1,0 +1,97 @@
+#pragma once
+
+#include "forms/acts.h"
+#include "forms/file_dialog.h"
+#include "forms/form.h"
+#include "forms/screen.h"
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace fakes {
+
+/// A screen without a face: it runs the queued acts on whatever form is up, gives the queued answers and logs
+/// everything that a face would show. Running out of acts or answers is a test's mistake and raises
+/// std::logic_error, which no handler swallows.
+class RecordingScreen : public forms::Screen {
+  public:
+    std::deque<std::function<void(forms::Form&)>> acts;
+    std::deque<forms::Answer> answers;  ///< for boxes with a choice; a box with OK alone needs none
+    std::deque<std::optional<std::string>> paths;
+    std::vector<std::string> log;
+    std::vector<forms::MessageBox> boxes;
+    std::vector<int> helpContexts;
+    int changes = 0;
+
+    // The common acts by control name, in the order in which they are to run.
+    void click(std::string name) {
+        acts.push_back(
+            [name](forms::Form& form) { forms::acts::click(forms::acts::controlNamed(form, name)); });
+    }
+    void type(std::string name, std::string text) {
+        acts.push_back([name, text](forms::Form& form) {
+            forms::acts::type(forms::acts::controlNamed(form, name), text);
+        });
+    }
+    void choose(std::string name, std::string text) {
+        acts.push_back([name, text](forms::Form& form) {
+            forms::acts::chooseText(forms::acts::controlNamed(form, name), text);
+        });
+    }
+    void choose(std::string name, int index) {
+        acts.push_back([name, index](forms::Form& form) {
+            forms::acts::chooseIndex(forms::acts::controlNamed(form, name), index);
+        });
+    }
+    void key(std::string name, forms::Key key) {
+        acts.push_back(
+            [name, key](forms::Form& form) { forms::acts::key(forms::acts::controlNamed(form, name), key); });
+    }
+    void closeBox() {
+        acts.push_back([](forms::Form& form) { forms::acts::closeBox(form); });
+    }
+
+    void runModal(forms::Form& form) override {
+        log.push_back("show " + form.name());
+        while (form.visible()) {
+            if (acts.empty()) throw std::logic_error("no act left for " + form.name());
+            const auto act = std::move(acts.front());
+            acts.pop_front();
+            act(form);
+        }
+    }
+    void hidden(forms::Form& form) override { log.push_back("hide " + form.name()); }
+    void changed(forms::Form&) override { ++changes; }
+    void changed(forms::Control&) override { ++changes; }
+
+    forms::Answer messageBox(const forms::MessageBox& box) override {
+        boxes.push_back(box);
+        log.push_back("box \"" + box.title + "\": " + box.text);
+        if (box.buttons == forms::MessageBox::Buttons::Ok) return forms::Answer::Ok;
+        return next(answers, "answer for " + box.text);
+    }
+    std::optional<std::string> fileDialog(const forms::FileDialog& dialog,
+                                          forms::FileDialogMode mode) override {
+        log.push_back((mode == forms::FileDialogMode::Open ? "open " : "save ") + dialog.name());
+        return next(paths, "path for " + dialog.name());
+    }
+    void reportFailure(std::int32_t number, const std::string& description) override {
+        log.push_back("failure " + std::to_string(number) + ": " + description);
+    }
+    void showHelp(int context) override { helpContexts.push_back(context); }
+
+  private:
+    template <typename Value>
+    static Value next(std::deque<Value>& queue, const std::string& what) {
+        if (queue.empty()) throw std::logic_error("no " + what);
+        Value value = std::move(queue.front());
+        queue.pop_front();
+        return value;
+    }
+};
+
+}  // namespace fakes
