@@ -18,6 +18,8 @@ class Encoding {
     static bool isKnown(std::string_view codePageName);
 
     bool isUtf8() const { return table_ == nullptr; }
+    /// Whether the same bytes mean the same text.
+    bool sameAs(const Encoding& other) const { return name_ == other.name_; }
 
     /// Text bytes of a file as UTF-8, with the escapes \U+XXXX and \M+nXXXX taken as their characters (but
     /// those of control characters stay). Bytes that stand for nothing are kept. Control escapes such as ^J
@@ -33,6 +35,7 @@ class Encoding {
     struct Table;  ///< both directions of one code page
 
   private:
+    std::string_view name_ = "UTF-8";  ///< the converter's name
     std::shared_ptr<const Table> table_;
 };
 

@@ -88,7 +88,7 @@ class Scanner {
     Event structure(Tag& tag);
     Event betweenSections(Tag& tag);
     Event beginSection(Tag& tag);
-    Event endSection(Tag& tag, std::size_t bodyEnd, std::size_t end);
+    Event endSection(std::size_t bodyEnd, std::size_t end);
     Event outOfGroups(TagReader::Step step, Tag& tag);
     Event finish(Tag& tag);
     void oddCode(const Tag& tag);

@@ -32,7 +32,8 @@ struct Tag {
 
     /// The value as a number; blanks around it are passed over. Raises kTypeMismatch for a text that is none.
     double number() const;
-    /// The value as a whole number. Raises kTypeMismatch for a text that is none, kOverflow beyond 64 bits.
+    /// The value as a whole number. Raises kTypeMismatch for a text that is none, kOverflow for a number with
+    /// a fraction or beyond 64 bits.
     std::int64_t integer() const;
     /// The value as a handle; 0 for a text that is none.
     Handle handle() const;

@@ -41,6 +41,7 @@ class TagWriter {
 
   private:
     void code(int code);
+    void endText();
     void chunk(int code, std::string_view data);
 
     const Format& format_;
