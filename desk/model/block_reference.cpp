@@ -1,0 +1,92 @@
+#include "desk/model/block_reference.h"
+
+namespace model {
+
+const drawing::InsertData& BlockReference::data() const {
+    if (revision_ != drawing().revision()) {
+        data_ = drawing().insert(id_);
+        revision_ = drawing().revision();
+    }
+    return data_;
+}
+
+Variant BlockReference::name() const { return data().name; }
+
+Variant BlockReference::insertionPoint() const { return fromPoint(data().insertion); }
+void BlockReference::setInsertionPoint(const Variant& value) {
+    edit().setInsertionPoint(id_, toPoint(*context_, value));
+}
+
+Variant BlockReference::xScaleFactor() const { return data().placement.scale.x; }
+Variant BlockReference::yScaleFactor() const { return data().placement.scale.y; }
+Variant BlockReference::zScaleFactor() const { return data().placement.scale.z; }
+
+void BlockReference::setXScaleFactor(const Variant& value) {
+    const drawing::Vector3 scale = data().placement.scale;
+    edit().setScale(id_, {toNumber(*context_, value), scale.y, scale.z});
+}
+void BlockReference::setYScaleFactor(const Variant& value) {
+    const drawing::Vector3 scale = data().placement.scale;
+    edit().setScale(id_, {scale.x, toNumber(*context_, value), scale.z});
+}
+void BlockReference::setZScaleFactor(const Variant& value) {
+    const drawing::Vector3 scale = data().placement.scale;
+    edit().setScale(id_, {scale.x, scale.y, toNumber(*context_, value)});
+}
+
+Variant BlockReference::rotation() const { return data().placement.rotation; }
+void BlockReference::setRotation(const Variant& value) {
+    edit().setRotation(id_, toNumber(*context_, value));
+}
+
+Variant BlockReference::hasAttributes() const {
+    if (!drawing().attributes(id_).empty()) return true;
+    const drawing::BlockId block = data().block;
+    return block != drawing::kNoBlock && drawing().blocks()[block].hasConstantAttributes;
+}
+
+Variant BlockReference::getAttributes(Arguments& arguments) {
+    requireCount(arguments, 0, 0, "GetAttributes");
+    drawing().requireAlive(id_);
+    basic::Array attributes;
+    const std::vector<drawing::EntityId> ids = drawing().attributes(id_);
+    attributes.reserve(ids.size());
+    for (const drawing::EntityId id : ids) {
+        attributes.emplace_back(std::make_shared<AttributeReference>(context_, id));
+    }
+    return attributes;
+}
+
+const MemberTable& BlockReference::members() const {
+    using B = BlockReference;
+    static const MemberTable table(
+        {
+            property<&B::name>("Name"),
+            property<&B::insertionPoint, &B::setInsertionPoint>("InsertionPoint"),
+            property<&B::xScaleFactor, &B::setXScaleFactor>("XScaleFactor"),
+            property<&B::yScaleFactor, &B::setYScaleFactor>("YScaleFactor"),
+            property<&B::zScaleFactor, &B::setZScaleFactor>("ZScaleFactor"),
+            property<&B::rotation, &B::setRotation>("Rotation"),
+            property<&B::hasAttributes>("HasAttributes"),
+            method<&B::getAttributes>("GetAttributes"),
+        },
+        &Entity::table());
+    return table;
+}
+
+Variant AttributeReference::tagString() const { return drawing().attribute(id_).tag; }
+Variant AttributeReference::textString() const { return drawing().attribute(id_).text; }
+
+void AttributeReference::setTextString(const Variant& value) {
+    edit().setAttributeText(id_, basic::toText(value, context_->environment->regional));
+}
+
+const MemberTable& AttributeReference::members() const {
+    using A = AttributeReference;
+    static const MemberTable table(
+        {property<&A::tagString>("TagString"), property<&A::textString, &A::setTextString>("TextString")},
+        &Entity::table());
+    return table;
+}
+
+}  // namespace model
