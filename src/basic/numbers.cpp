@@ -106,6 +106,8 @@ std::string toText(double value, const Regional& regional) {
 
 std::string toText(float value, const Regional& regional) { return realText(value, kFloatDigits, regional); }
 
+std::string toText(std::int32_t value, const Regional&) { return wholeText(value); }
+
 std::string toText(const Variant& value, const Regional& regional) {
     switch (value.kind()) {
         case Variant::Kind::Text:

@@ -24,6 +24,8 @@ struct Regional {
 std::string toText(double value, const Regional& regional);
 /// The same for a 32-bit float, with 7 digits.
 std::string toText(float value, const Regional& regional);
+/// A whole number as its digits.
+std::string toText(std::int32_t value, const Regional& regional);
 /// Any variant of text, number, Boolean ("True", "False") or empty; raises kTypeMismatch for the others.
 std::string toText(const Variant& value, const Regional& regional);
 
@@ -35,6 +37,13 @@ bool isNumeric(std::string_view text, const Regional& regional);
 /// kOverflow beyond a 64-bit float. Under a decimal point a comma counts as a thousands separator
 /// wherever it stands among the whole digits: "12,5" is 125.
 double toDouble(std::string_view text, const Regional& regional);
+// Strings would be ambiguous between a view and a variant.
+inline double toDouble(const std::string& text, const Regional& regional) {
+    return toDouble(std::string_view(text), regional);
+}
+inline double toDouble(const char* text, const Regional& regional) {
+    return toDouble(std::string_view(text), regional);
+}
 /// Any variant: text by the rule above, numbers as they are, a Boolean as -1 or 0, empty as 0.
 double toDouble(const Variant& value, const Regional& regional);
 
