@@ -32,12 +32,12 @@ void LoadLanguages(Session& session) {
 }
 
 void SetLanguage(Session& session, const std::string& Name) {
-    basic::ErrorState error;
     const auto& list = session.LngList;
+    if (list.empty()) return;
     auto found = std::find_if(list.begin(), list.end(), [&](const LngRecord& l) { return l.Name == Name; });
     if (found == list.end()) found = list.begin();
-    if (list.empty()) return;
     session.CurLng = *found;
+    basic::ErrorState error;
     error.skip([&] { session::writeSetting(session, "Lng", found->Name); });
 }
 
@@ -58,7 +58,7 @@ std::string LngFormat(const Session& session, const std::string& Key, const basi
     std::string result = basic::replaceAll(text, "\\\\", "\r\n");
     for (std::size_t n = 0; n < Args.size(); ++n) {
         const std::string value = basic::toText(Args[n], session.platform().regional());
-        result = basic::replaceAll(result, "{" + std::to_string(n) + "}", value);
+        result = basic::replaceAll(result, std::string("{").append(std::to_string(n)).append("}"), value);
     }
     return result;
 }

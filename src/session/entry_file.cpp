@@ -4,6 +4,7 @@
 #include "basic/text.h"
 #include "basic/text_file.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <limits>
@@ -41,13 +42,16 @@ std::optional<std::string_view> valueOf(std::string_view line, const Wanted& wan
     return line.substr(position);
 }
 
-/// Whether the file's last line lacks its end, so that a line appended to it would run on from it.
+/// Whether the file's last line lacks its end, so that a line appended to it would run on from it. A lone
+/// line feed ends no line.
 bool endsUnfinished(const std::string& path) {
     std::ifstream file(path, std::ios::binary | std::ios::ate);
-    if (!file || file.tellg() <= 0) return false;
-    file.seekg(-1, std::ios::end);
-    const int last = file.get();
-    return last != '\n' && last != '\r';
+    const std::streamoff size = file.tellg();
+    if (size <= 0) return false;
+    std::string tail(static_cast<std::size_t>(std::min<std::streamoff>(size, 2)), ' ');
+    file.seekg(-static_cast<std::streamoff>(tail.size()), std::ios::end);
+    file.read(tail.data(), static_cast<std::streamsize>(tail.size()));
+    return tail.back() != '\r' && tail != "\r\n";
 }
 
 void appendLine(const std::string& path, const std::string& line) {
@@ -105,6 +109,7 @@ std::string entryValue(const std::string& key, const std::string& file, std::int
     std::string result;
     std::vector<std::string> lines;
     bool found = false;
+    bool changed = false;
     {
         TextReader reader(file);
         std::int32_t count = 0;
@@ -116,16 +121,17 @@ std::string entryValue(const std::string& key, const std::string& file, std::int
             if (const auto rest = valueOf(line, wanted)) {
                 found = true;
                 result = *rest;
-                if (writing && (overwrite == Overwrite::Always || result.empty())) line = entry;
+                if (writing && line != entry && (overwrite == Overwrite::Always || result.empty())) {
+                    line = entry;
+                    changed = true;
+                }
             }
             if (writing) lines.push_back(std::move(line));
         }
     }
     if (!writing) return result;
-    if (found)
-        rewrite(file, lines);
-    else
-        appendLine(file, entry);
+    if (!found) appendLine(file, entry);
+    if (changed) rewrite(file, lines);  // lines that say it already aren't written again
     return value;
 }
 

@@ -13,7 +13,8 @@ enum class Overwrite {
 
 /// The shared steps of the settings and the language files: reads (`mode` 0), writes (-1) or gives the last
 /// value (other modes) of `key` in `file`. Keys match without regard to case and to blanks round them; the
-/// first value that isn't empty is read. An empty key gives an empty text and leaves the file alone.
+/// first value that isn't empty is read. An empty key gives an empty text and leaves the file alone, as
+/// does a write of what stands there already.
 std::string entryValue(const std::string& key, const std::string& file, std::int16_t mode,
                        const std::string& value, Overwrite overwrite);
 
