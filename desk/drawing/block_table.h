@@ -16,9 +16,10 @@ struct Block {
     std::string name;        ///< as the drawing spells it
     std::string layoutName;  ///< name of the layout that stands behind a space; empty for other blocks
     std::string xrefPath;    ///< group 1 of BLOCK
-    Handle handle = 0;       ///< of the block record, the owner of the block's entities; 0 in R12
-    Point3 basePoint;        ///< groups 10, 20, 30 of BLOCK
-    int flags = 0;           ///< group 70 of BLOCK
+    NameId nameId = kNoName;
+    Handle handle = 0;  ///< of the block record, the owner of the block's entities; 0 in R12
+    Point3 basePoint;   ///< groups 10, 20, 30 of BLOCK
+    int flags = 0;      ///< group 70 of BLOCK
     bool isModelSpace = false;
     bool isPaperSpace = false;   ///< any layout's space
     bool isActiveSpace = false;  ///< its entities stand in the ENTITIES section
@@ -54,6 +55,8 @@ class BlockTable {
 
     /// A definition by name without regard to case, kNoBlock if there is none.
     BlockId find(std::string_view name) const;
+    /// The same by interned name, for the many references.
+    BlockId ofName(NameId name) const { return name < ofName_.size() ? ofName_[name] : kNoBlock; }
     BlockId modelSpace() const { return modelSpace_; }
     /// The paper space whose entities stand in the ENTITIES section.
     BlockId paperSpace() const { return paperSpace_; }
@@ -65,8 +68,11 @@ class BlockTable {
     void setErased(BlockId id, bool erased);
 
   private:
+    void enterName(NameId name, BlockId id);
+
     std::vector<Block> blocks_;
     std::unordered_map<std::string, BlockId, basic::NameHash, basic::NameEqual> byName_;
+    std::vector<BlockId> ofName_;
     BlockId modelSpace_ = kNoBlock;
     BlockId paperSpace_ = kNoBlock;
 };

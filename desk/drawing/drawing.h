@@ -16,6 +16,7 @@
 namespace dxf {
 struct Finding;
 struct Format;
+class Source;
 class TagReader;
 }  // namespace dxf
 
@@ -53,7 +54,7 @@ class Drawing {
     /// Reads a file. Raises dxf::ReadError ("file:line: what") for what can't be read.
     static std::unique_ptr<Drawing> open(const std::string& path, Reading reading = Reading::Lenient);
     /// The same from bytes; `name` stands for the file in messages.
-    static std::unique_ptr<Drawing> parse(std::string bytes, const std::string& name,
+    static std::unique_ptr<Drawing> parse(std::string_view bytes, const std::string& name,
                                           Reading reading = Reading::Lenient);
     ~Drawing();
     Drawing(const Drawing&) = delete;
@@ -97,7 +98,6 @@ class Drawing {
     void requireAlive(EntityId id) const;
     /// The entity's type as the file spells it, "INSERT".
     std::string_view type(EntityId id) const;
-    NameId typeId(EntityId id) const;
     /// The class name in the host, "AcDbBlockReference"; for a type that the host doesn't know its last
     /// subclass marker.
     std::string objectName(EntityId id) const;
@@ -125,6 +125,11 @@ class Drawing {
     CommonData common(EntityId id) const;
     /// A block reference; raises kNotApplicable for another type.
     InsertData insert(EntityId id) const;
+    /// Where a block reference stands, for those who need nothing else.
+    Placement placement(EntityId id) const;
+    /// The tag and the text of an attribute alone.
+    std::string attributeTag(EntityId id) const;
+    std::string attributeText(EntityId id) const;
     /// An ATTRIB or ATTDEF; raises kNotApplicable for another type.
     AttribData attribute(EntityId id) const;
     /// The name (group 2) of a reference as the block's definition spells it; of another entity its group 2.
@@ -185,7 +190,9 @@ class Drawing {
   private:
     friend class Opener;
     friend class Importer;
-    Drawing();
+    explicit Drawing(dxf::Source source);
+    /// Raises kObjectErased or kLockedLayer.
+    void requireEditable(EntityId id) const;
 
     std::string path_;
     std::unique_ptr<Store> store_;

@@ -3,6 +3,7 @@
 #include "basic/error.h"
 
 #include <cstdint>
+#include <string>
 
 namespace drawing {
 
@@ -15,8 +16,7 @@ enum HostError : std::int32_t {
     kNotApplicable = -2145386494,  ///< the object is not of the kind that the operation asks for
 };
 
-/// A failure with its standard description, such as "Object was erased", and what it is about.
-[[noreturn]] void raise(HostError number, const char* subject = nullptr);
-[[noreturn]] void raise(HostError number, const std::string& subject);
+/// Raises a failure with its standard description, such as "Object was erased", and what it is about.
+[[noreturn]] void raise(HostError number, const std::string& subject = {});
 
 }  // namespace drawing

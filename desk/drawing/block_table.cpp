@@ -1,0 +1,47 @@
+#include "desk/drawing/block_table.h"
+
+#include "basic/text.h"
+
+namespace drawing {
+
+BlockId BlockTable::find(std::string_view name) const {
+    const auto found = byName_.find(basic::toLower(name));
+    return found == byName_.end() ? kNoBlock : found->second;
+}
+
+BlockId BlockTable::add(Block block) {
+    const auto id = static_cast<BlockId>(blocks_.size());
+    if (byName_.try_emplace(basic::toLower(block.name), id).second) enterName(block.nameId, id);
+    blocks_.push_back(std::move(block));
+    return id;
+}
+
+void BlockTable::enterName(NameId name, BlockId id) {
+    if (name == kNoName) return;
+    if (name >= ofName_.size()) ofName_.resize(name + 1, kNoBlock);
+    ofName_[name] = id;
+}
+
+void BlockTable::setSpaces(BlockId model, BlockId paper) {
+    modelSpace_ = model;
+    paperSpace_ = paper;
+    // The names of R12, under which older files and scripts know the spaces.
+    byName_.try_emplace("$model_space", model);
+    byName_.try_emplace("$paper_space", paper);
+}
+
+void BlockTable::setErased(BlockId id, bool erased) {
+    Block& block = blocks_[id];
+    block.isErased = erased;
+    const std::string name = basic::toLower(block.name);
+    if (!erased) {
+        if (byName_.try_emplace(name, id).second) enterName(block.nameId, id);
+        return;
+    }
+    const auto found = byName_.find(name);
+    if (found == byName_.end() || found->second != id) return;
+    byName_.erase(found);
+    enterName(block.nameId, kNoBlock);
+}
+
+}  // namespace drawing

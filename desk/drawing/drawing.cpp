@@ -1,0 +1,138 @@
+#include "desk/drawing/drawing.h"
+
+#include "desk/drawing/class_names.h"
+#include "desk/drawing/opener.h"
+#include "desk/drawing/store.h"
+#include "desk/dxf/file.h"
+
+#include <algorithm>
+#include <span>
+
+namespace drawing {
+
+namespace {
+
+dxf::Mode modeOf(Reading reading) {
+    return reading == Reading::Strict ? dxf::Mode::Strict : dxf::Mode::Lenient;
+}
+
+}  // namespace
+
+Drawing::Drawing(dxf::Source source) : store_(std::make_unique<Store>(std::move(source))) {}
+Drawing::~Drawing() = default;
+
+std::unique_ptr<Drawing> Drawing::open(const std::string& path, Reading reading) {
+    return Opener(dxf::Source::open(path), modeOf(reading)).open();
+}
+
+std::unique_ptr<Drawing> Drawing::parse(std::string_view bytes, const std::string& name, Reading reading) {
+    return Opener(dxf::Source::fromBytes(bytes, name), modeOf(reading)).open();
+}
+
+const std::vector<dxf::Finding>& Drawing::findings() const { return store_->findings.list(); }
+const dxf::Format& Drawing::format() const { return store_->format(); }
+
+std::size_t Drawing::entityCount(BlockId block) const {
+    const std::vector<EntityId>& all = blocks_[block].entities;
+    return static_cast<std::size_t>(
+        std::count_if(all.begin(), all.end(), [this](EntityId id) { return !isErased(id); }));
+}
+
+bool Drawing::isErased(EntityId id) const { return store_->isErased(id); }
+
+void Drawing::requireAlive(EntityId id) const {
+    if (id >= store_->count() || isErased(id)) raise(kObjectErased);
+}
+
+std::string_view Drawing::type(EntityId id) const {
+    requireAlive(id);
+    return store_->typeName(store_->record(id).type);
+}
+
+std::string Drawing::objectName(EntityId id) const {
+    requireAlive(id);
+    const Record& record = store_->record(id);
+    const std::string_view type = store_->typeName(record.type);
+    int flags = 0;
+    int columns = 1;
+    std::string marker = "AcDbEntity";
+    dxf::TagReader reader = tags(id);
+    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
+        if (tag.code == 70 && flags == 0) flags = static_cast<int>(tag.integerOr(0));
+        if (tag.code == 71) columns = static_cast<int>(tag.integerOr(1));
+        if (tag.code == 100) marker = tag.text();
+    }
+    if (record.type == kInsert) return flags > 1 || columns > 1 ? "AcDbMInsertBlock" : "AcDbBlockReference";
+    if (record.type == kPolyline) return std::string(polylineClass(flags));
+    if (type == "DIMENSION") return std::string(dimensionClass(flags));
+    const EntityClass* known = entityClass(type);
+    return known != nullptr ? std::string(known->className) : marker;
+}
+
+Handle Drawing::handle(EntityId id) const {
+    requireAlive(id);
+    return store_->record(id).handle;
+}
+
+EntityId Drawing::byHandle(Handle handle) const {
+    const EntityId id = store_->handles.find(handle);
+    return id == kNoEntity || isErased(id) ? kNoEntity : id;
+}
+
+BlockId Drawing::owner(EntityId id) const {
+    const Record& record = store_->record(mainEntity(id));
+    return record.owner;
+}
+
+EntityId Drawing::mainEntity(EntityId id) const {
+    requireAlive(id);
+    const Record& record = store_->record(id);
+    return record.has(kPart) ? record.owner : id;
+}
+
+PartRange Drawing::parts(EntityId id) const {
+    requireAlive(id);
+    return {id + 1, store_->record(id).parts};
+}
+
+std::vector<EntityId> Drawing::attributes(EntityId id) const {
+    requireAlive(id);
+    std::vector<EntityId> found;
+    for (EntityId part = id + 1; part <= id + store_->record(id).parts; ++part) {
+        if (store_->record(part).type == kAttrib) found.push_back(part);
+    }
+    return found;
+}
+
+std::string_view Drawing::bytes(EntityId id) const {
+    requireAlive(id);
+    return store_->record(id).view();
+}
+
+dxf::TagReader Drawing::tags(EntityId id) const { return store_->reader(bytes(id)); }
+
+const Layer& Drawing::layer(EntityId id) const {
+    requireAlive(id);
+    return layers_[store_->record(id).layer];
+}
+
+std::string_view Drawing::layerName(EntityId id) const {
+    const Layer& known = layer(id);
+    const NameId name = store_->record(id).layer;
+    if (known.name.empty()) return name == kNoName ? "0" : std::string_view(store_->names.text(name));
+    return known.name;
+}
+
+bool Drawing::isOnLockedLayer(EntityId id) const { return layer(id).locked; }
+
+bool Drawing::isDisplayed(EntityId id) const {
+    const Layer& known = layer(id);
+    return !known.off && !known.frozen && !store_->record(id).has(kInvisible);
+}
+
+void Drawing::requireEditable(EntityId id) const {
+    requireAlive(id);
+    if (isOnLockedLayer(id)) raise(kLockedLayer, std::string(layerName(id)));
+}
+
+}  // namespace drawing

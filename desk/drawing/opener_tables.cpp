@@ -1,0 +1,239 @@
+#include "basic/text.h"
+#include "desk/drawing/opener.h"
+
+#include <algorithm>
+
+namespace drawing {
+
+namespace {
+
+bool isModelName(std::string_view name) {
+    return basic::NameEqual{}(name, "*Model_Space") || basic::NameEqual{}(name, "$MODEL_SPACE");
+}
+
+/// The paper space whose entities stand in the ENTITIES section.
+bool isActivePaperName(std::string_view name) {
+    return basic::NameEqual{}(name, "*Paper_Space") || basic::NameEqual{}(name, "$PAPER_SPACE");
+}
+
+bool isPaperName(std::string_view name) {
+    return isActivePaperName(name) || basic::NameEqual{}(name.substr(0, 12), "*Paper_Space");
+}
+
+/// Marks a block as the space that its name says it is. The names of R12 become today's, as the host shows
+/// them.
+void classify(Block& block) {
+    block.isModelSpace = isModelName(block.name);
+    block.isPaperSpace = isPaperName(block.name);
+    block.isActiveSpace = block.isModelSpace || isActivePaperName(block.name);
+    if (block.isModelSpace) block.name = "*Model_Space";
+    if (block.isPaperSpace && block.isActiveSpace) block.name = "*Paper_Space";
+}
+
+}  // namespace
+
+void Opener::readTables() {
+    drawing_->path_ = store_.source().path();
+    drawing_->header_.setFormat(&store_.format());
+    readEntries();
+    addSpaces();
+    for (EntityId id = 0; id < store_.count(); ++id) {
+        const Record& record = store_.record(id);
+        if (!record.has(kTableEntry)) continue;
+        if (record.type == kBlockRecord) addBlockRecord(id);
+        if (record.type == kLayerEntry) addLayer(id);
+    }
+    for (const BlockRange& range : blockRanges_) addBlock(range);
+    for (EntityId id : layouts_) readLayout(id);
+    BlockTable& blocks = drawing_->blocks_;
+    blocks.setSpaces(blocks.find("*Model_Space"), blocks.find("*Paper_Space"));
+    for (const BlockRange& range : blockRanges_) {
+        const BlockId block = blocks.ofName(store_.record(range.begin).name);
+        if (block != kNoBlock && blocks[block].begin == range.begin) fillBlock(block, range);
+    }
+    fillSpaces();
+}
+
+void Opener::readEntries() {
+    Handle highest = 0;
+    for (EntityId id = 0; id < store_.count(); ++id) {
+        const Handle handle = store_.record(id).handle;
+        if (handle == 0) continue;
+        highest = std::max(highest, handle);
+        if (store_.handles.add(handle, id)) continue;
+        report(id, "the handle is taken by an earlier object, which keeps it");
+    }
+    const bool declared = drawing_->header_.integer("$HANDLING").value_or(highest != 0 ? 1 : 0) != 0;
+    store_.startHandles(store_.fileSeed, store_.format().hasSubclasses() || declared);
+    if (store_.fileSeed != 0 && store_.fileSeed <= highest) {
+        scanner_.report(store_.seedValue.begin, store_.fileSeed, "$HANDSEED isn't above the highest handle");
+    }
+}
+
+void Opener::addSpaces() {
+    bool model = false;
+    bool paper = false;
+    const auto note = [&](EntityId id) {
+        const std::string& name = store_.names.text(store_.record(id).name);
+        model = model || isModelName(name);
+        paper = paper || isActivePaperName(name);
+    };
+    for (EntityId id = 0; id < store_.count(); ++id) {
+        const Record& record = store_.record(id);
+        if (record.has(kTableEntry) && record.type == kBlockRecord) note(id);
+    }
+    for (const BlockRange& range : blockRanges_) note(range.begin);
+    for (const char* name : {"*Model_Space", "*Paper_Space"}) {
+        if (isModelName(name) ? model : paper) continue;
+        Block space;
+        space.name = name;
+        space.nameId = store_.names.intern(name);
+        classify(space);
+        drawing_->blocks_.add(std::move(space));
+    }
+}
+
+void Opener::addBlockRecord(EntityId id) {
+    Block block;
+    block.nameId = store_.record(id).name;
+    block.handle = store_.record(id).handle;
+    block.record = id;
+    dxf::TagReader reader = store_.reader(id);
+    for (dxf::Tag tag; reader.next(tag);) {
+        if (tag.code == 2) block.name = tag.text();
+    }
+    if (drawing_->blocks_.find(block.name) != kNoBlock) {
+        report(id, "a second block record of the name " + block.name);
+        return;
+    }
+    classify(block);
+    drawing_->blocks_.add(std::move(block));
+}
+
+void Opener::addBlock(const BlockRange& range) {
+    Block content;
+    bool named = false;
+    dxf::TagReader reader = store_.reader(range.begin);
+    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
+        switch (tag.code) {
+            case 1:
+                content.xrefPath = tag.text();
+                break;
+            case 2:
+                if (!named) content.name = tag.text();
+                named = true;
+                break;
+            case 10:
+                content.basePoint.x = tag.numberOr(0);
+                break;
+            case 20:
+                content.basePoint.y = tag.numberOr(0);
+                break;
+            case 30:
+                content.basePoint.z = tag.numberOr(0);
+                break;
+            case 70:
+                content.flags = static_cast<int>(tag.integerOr(0));
+                break;
+            default:
+                break;
+        }
+    }
+    classify(content);
+    content.nameId = store_.record(range.begin).name;
+    BlockTable& blocks = drawing_->blocks_;
+    BlockId id = blocks.find(content.name);
+    if (id == kNoBlock) {
+        if (store_.format().hasSubclasses())
+            report(range.begin, "the block has no block record: " + content.name);
+        id = blocks.add(content);
+    } else if (blocks[id].begin != kNoEntity) {
+        report(range.begin, "a second definition of the block " + content.name + ", which isn't used");
+        return;
+    }
+    Block& block = blocks[id];
+    block.xrefPath = std::move(content.xrefPath);
+    block.basePoint = content.basePoint;
+    block.flags = content.flags;
+    block.begin = range.begin;
+    block.end = range.end;
+}
+
+void Opener::addLayer(EntityId id) {
+    Layer layer;
+    layer.record = id;
+    dxf::TagReader reader = store_.reader(id);
+    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
+        if (tag.code == 2) layer.name = tag.text();
+        if (tag.code == 62) {
+            layer.color = static_cast<int>(std::abs(tag.integerOr(7)));
+            layer.off = tag.integerOr(7) < 0;
+        }
+        if (tag.code == 70) {
+            layer.frozen = (tag.integerOr(0) & 1) != 0;
+            layer.locked = (tag.integerOr(0) & 4) != 0;
+        }
+    }
+    drawing_->layers_.add(store_.record(id).name, std::move(layer));
+}
+
+void Opener::readLayout(EntityId id) {
+    std::string name;
+    Handle space = 0;
+    bool inLayout = false;
+    dxf::TagReader reader = store_.reader(id);
+    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
+        if (tag.code == 100) inLayout = tag.raw == "AcDbLayout";
+        if (inLayout && tag.code == 1) name = tag.text();
+        if (inLayout && tag.code == 330) space = tag.handle();
+    }
+    for (BlockId block = 0; space != 0 && block < drawing_->blocks_.size(); ++block) {
+        Block& candidate = drawing_->blocks_[block];
+        if (candidate.handle != space) continue;
+        candidate.layoutName = name;
+        if (!candidate.isModelSpace) candidate.isPaperSpace = true;
+    }
+}
+
+void Opener::fillBlock(BlockId block, const BlockRange& range) {
+    for (EntityId id = range.begin + 1; id < range.last; ++id) addToBlock(block, id);
+}
+
+void Opener::fillSpaces() {
+    const BlockTable& blocks = drawing_->blocks_;
+    for (const EntityRange& range : entityRanges_) {
+        for (EntityId id = range.first; id < range.last; ++id) {
+            addToBlock(store_.record(id).has(kPaperSpace) ? blocks.paperSpace() : blocks.modelSpace(), id);
+        }
+    }
+}
+
+void Opener::addToBlock(BlockId id, EntityId entity) {
+    Record& record = store_.whileReading(entity);
+    if (record.has(kPart) || record.has(kStray)) return;
+    Block& block = drawing_->blocks_[id];
+    record.owner = id;
+    block.entities.push_back(entity);
+    if (block.isLayout()) {
+        store_.indexName(entity);
+        if (record.type == kInsert && drawing_->blocks_.ofName(record.name) == kNoBlock) {
+            report(entity,
+                   "a reference of a block that the drawing lacks: " + store_.names.text(record.name));
+        }
+    } else if (record.type == kAttDef) {
+        dxf::TagReader reader = store_.reader(entity);
+        int flags = 0;
+        bool inAttribute = !store_.format().hasSubclasses();
+        for (dxf::Tag tag; reader.next(tag) && tag.code != 101 && tag.code < 1000;) {
+            if (tag.code == 100) inAttribute = tag.raw == "AcDbAttributeDefinition";
+            if (inAttribute && tag.code == 70) flags = static_cast<int>(tag.integerOr(0));
+        }
+        if ((flags & 2) != 0) {
+            block.hasConstantAttributes = true;
+        } else {
+            block.attributeDefinitions.push_back(entity);
+        }
+    }
+}
+
+}  // namespace drawing

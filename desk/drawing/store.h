@@ -1,0 +1,139 @@
+#pragma once
+
+#include "desk/drawing/block_table.h"
+#include "desk/drawing/byte_arena.h"
+#include "desk/drawing/handle_index.h"
+#include "desk/drawing/layer_table.h"
+#include "desk/drawing/name_table.h"
+#include "desk/drawing/record.h"
+#include "desk/dxf/findings.h"
+#include "desk/dxf/scanner.h"
+#include "desk/dxf/source.h"
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace drawing {
+
+/// The old state of what one undo step changes.
+struct StepLog {
+    EntityId firstNew = 0;  ///< records from here on were made in the step
+    Handle nextHandle = 0;
+    std::size_t additions = 0;  ///< Store::additions before the step
+    std::vector<std::pair<EntityId, Record>> records;
+    std::vector<std::pair<BlockId, Block>> blocks;  ///< changed ones
+    std::size_t blockCount = 0;
+    std::vector<NameId> layers;  ///< added ones
+
+    bool isEmpty(EntityId recordCount) const {
+        return records.empty() && blocks.empty() && layers.empty() && firstNew == recordCount;
+    }
+};
+
+/// A record that was made outside the spaces, and where in the file it goes.
+struct Addition {
+    std::size_t offset;
+    EntityId id;
+};
+
+/// A range of the file's bytes.
+struct FileRange {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
+/// The drawing's bytes and records. The first `fileCount` records stand in the order of the file.
+class Store {
+  public:
+    explicit Store(dxf::Source source);
+
+    const dxf::Source& source() const { return source_; }
+    const dxf::Format& format() const { return source_.format(); }
+    const dxf::Encoding& encoding() const { return source_.format().encoding; }
+    /// Bytes of this drawing as a source of groups.
+    dxf::TagSource tags(std::string_view bytes) const { return {bytes, &source_.format(), source_.path()}; }
+    dxf::TagReader reader(std::string_view bytes) const {
+        return dxf::TagReader(tags(bytes), 0, bytes.size());
+    }
+    dxf::TagReader reader(EntityId id) const { return reader(records_[id].view()); }
+
+    EntityId count() const { return static_cast<EntityId>(records_.size()); }
+    EntityId fileCount() const { return fileCount_; }
+    const Record& record(EntityId id) const { return records_[id]; }
+    bool isErased(EntityId id) const {
+        const Record& record = records_[id];
+        return record.has(kErased) || (record.has(kPart) && records_[record.owner].has(kErased));
+    }
+    /// The range of the file that a record had when the file was read.
+    FileRange fileRange(EntityId id) const;
+
+    /// Adds a record while the file is read; its bytes stay where they are.
+    EntityId addFromFile(const Record& record);
+    void endOfFile() { fileCount_ = count(); }
+    Record& whileReading(EntityId id) { return records_[id]; }
+
+    /// A record for change: its old state goes into the open undo step.
+    Record& change(EntityId id);
+    /// New bytes for a record. Bytes that the open step made itself are given up at once, older ones are kept
+    /// for undo.
+    void setBytes(EntityId id, std::string_view bytes);
+    /// Gives up the bytes of a record for good: one that the open step made and that is erased again, or that
+    /// is undone.
+    void dropBytes(EntityId id);
+    /// A new record with a copy of its bytes. A handle is entered into the index.
+    EntityId add(Record record, std::string_view bytes);
+
+    /// The number of a type, kNoType if no record has it.
+    std::uint16_t findType(std::string_view name) const;
+    std::uint16_t internType(std::string_view name);
+    std::string_view typeName(std::uint16_t type) const { return types_.text(type); }
+
+    /// A handle that no object has; 0 where the drawing has no handles.
+    Handle takeHandle() { return usesHandles_ ? nextHandle_++ : 0; }
+    void setNextHandle(Handle next) { nextHandle_ = next; }
+    bool usesHandles() const { return usesHandles_; }
+    Handle nextHandle() const { return nextHandle_; }
+    /// Handles begin at `seed` or behind the highest one met.
+    void startHandles(Handle seed, bool use);
+
+    /// Entities of a name (group 2) in the spaces, in drawing order; erased ones may be among them.
+    const std::vector<EntityId>& named(NameId name) const;
+    void indexName(EntityId id);
+    void unindexName(EntityId id);
+
+    // Steps.
+    bool stepIsOpen() const { return depth_ > 0; }
+    StepLog& step() { return steps_.back(); }
+    bool isNewInStep(EntityId id) const { return stepIsOpen() && id >= steps_.back().firstNew; }
+
+    dxf::Findings findings;
+    dxf::Outline outline;
+    NameTable names;
+    HandleIndex handles;
+    std::vector<Addition> additions;
+    FileRange seedValue;       ///< the group of $HANDSEED's value; empty where the file has none
+    Handle fileSeed = 0;       ///< its value in the file
+    std::string currentStyle;  ///< groups that new entities get behind their layer: colour, linetype, ...
+    NameId currentLayer = kNoName;
+
+  private:
+    friend class Drawing;
+
+    dxf::Source source_;
+    std::vector<Record> records_;
+    EntityId fileCount_ = 0;
+    NameTable types_;
+    ByteArena arena_;
+    std::vector<std::vector<EntityId>> named_;
+    std::unordered_map<EntityId, FileRange> originals_;  ///< file ranges of changed records
+    Handle nextHandle_ = 1;
+    Handle highestHandle_ = 0;
+    bool usesHandles_ = true;
+    std::vector<StepLog> steps_;
+    int depth_ = 0;
+};
+
+}  // namespace drawing
