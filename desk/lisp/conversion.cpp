@@ -1,0 +1,197 @@
+#include "desk/lisp/conversion.h"
+
+#include "desk/lisp/error.h"
+
+#include <algorithm>
+
+namespace lisp {
+
+namespace {
+
+using basic::Variant;
+
+/// A value of Lisp on its way through automation, which can do nothing with it but hand it back.
+class LispObject : public host::Object {
+  public:
+    explicit LispObject(Value value) : value_(std::move(value)) {}
+    const Value& value() const { return value_; }
+
+    Variant get(std::string_view) override { throw basic::Error(basic::kNoSuchMember); }
+    void set(std::string_view, const Variant&) override { throw basic::Error(basic::kNoSuchMember); }
+    Variant call(std::string_view, host::Arguments&) override { throw basic::Error(basic::kNoSuchMember); }
+    void enumerate(const std::function<bool(const Variant&)>&) override {
+        throw basic::Error(basic::kNoSuchMember);
+    }
+
+  private:
+    Value value_;
+};
+
+Value wrap(std::int32_t type, Value content) {
+    return Value(std::make_shared<const VariantBox>(VariantBox{type, std::move(content)}));
+}
+
+Value objectFrom(const Variant& value) {
+    if (value.isNothing()) return {};
+    if (const auto lisp = std::dynamic_pointer_cast<LispObject>(value.object())) return lisp->value();
+    return Value(std::make_shared<ObjectBox>(ObjectBox{host::asObject(value)}));
+}
+
+/// An element of an array of variants: a variant itself, an array within too.
+Value elementFrom(Interpreter& lisp, const Variant& element) {
+    if (element.is(Variant::Kind::Int16)) return wrap(kVtInteger, Value(std::int32_t{element.integer()}));
+    const Value value = fromHost(lisp, element, Shape::Bridged);
+    if (value.cons() || value.symbol() || value.subr() || value.usubr())
+        return value;  // back from automation
+    return value.variant() ? value : makeVariant(value);
+}
+
+Value arrayFrom(Interpreter& lisp, const Variant& value) {
+    auto array = std::make_shared<SafeArray>();
+    if (value.is(Variant::Kind::Doubles)) {
+        array->type = kVtDouble;
+        for (const double item : value.doubles()) array->elements.emplace_back(item);
+    } else if (value.is(Variant::Kind::Shorts)) {
+        array->type = kVtInteger;
+        for (const std::int16_t item : value.shorts()) array->elements.emplace_back(std::int32_t{item});
+    } else {
+        for (const Variant& item : value.array()) array->elements.push_back(elementFrom(lisp, item));
+    }
+    return wrap(kVtArray + array->type, Value(std::move(array)));
+}
+
+Value listFrom(Interpreter& lisp, const Variant& value) {
+    ListBuilder list;
+    if (value.is(Variant::Kind::Doubles)) {
+        for (const double item : value.doubles()) list.add(item);
+    } else if (value.is(Variant::Kind::Shorts)) {
+        for (const std::int16_t item : value.shorts()) list.add(std::int32_t{item});
+    } else {
+        for (const Variant& item : value.array()) list.add(fromHost(lisp, item, Shape::Plain));
+    }
+    return list.take();
+}
+
+Variant arrayTo(const SafeArray& array, Lists lists) {
+    if (array.type == kVtDouble || array.type == kVtSingle) {
+        basic::Doubles doubles;
+        for (const Value& item : array.elements) doubles.push_back(item.number());
+        return doubles;
+    }
+    if (array.type == kVtInteger) {
+        basic::Shorts shorts;
+        for (const Value& item : array.elements) shorts.push_back(static_cast<std::int16_t>(*item.integer()));
+        return shorts;
+    }
+    basic::Array variants;
+    for (const Value& item : array.elements) variants.push_back(toHost(item, lists));
+    return variants;
+}
+
+Variant listTo(const Value& list) {
+    const std::vector<Value> items = listItems(list);
+    if (std::all_of(items.begin(), items.end(), [](const Value& item) { return item.isNumber(); })) {
+        basic::Doubles doubles;
+        for (const Value& item : items) doubles.push_back(item.number());
+        return doubles;
+    }
+    basic::Array variants;
+    for (const Value& item : items) variants.push_back(toHost(item, Lists::AsArrays));
+    return variants;
+}
+
+Variant symbolTo(const Value& value, Lists lists) {
+    const Symbol& symbol = *value.symbol();
+    if (symbol.isConstant) return symbol.name != ":VLAX-FALSE";
+    if (lists == Lists::AsArrays) throw badArgumentType("variantp", value);
+    return std::make_shared<LispObject>(value);
+}
+
+}  // namespace
+
+Value fromHost(Interpreter& lisp, const Variant& value, Shape shape) {
+    switch (value.kind()) {
+        case Variant::Kind::Empty:
+        case Variant::Kind::Missing:
+            return {};
+        case Variant::Kind::Boolean: {
+            if (shape == Shape::Plain) return Value(std::int32_t{value.boolean() ? -1 : 0});
+            const SymbolTable& symbols = lisp.symbols();
+            Value truth(value.boolean() ? symbols.vlaTrue() : symbols.vlaFalse());
+            return shape == Shape::Bridged ? wrap(kVtBoolean, std::move(truth)) : truth;
+        }
+        case Variant::Kind::Int16:
+        case Variant::Kind::Int32:
+            return Value(value.integer());
+        case Variant::Kind::Double:
+            return Value(value.number());
+        case Variant::Kind::Text:
+            return Value(value.text());
+        case Variant::Kind::Object:
+            return objectFrom(value);
+        case Variant::Kind::Array:
+        case Variant::Kind::Doubles:
+        case Variant::Kind::Shorts:
+            return shape == Shape::Plain ? listFrom(lisp, value) : arrayFrom(lisp, value);
+    }
+    return {};
+}
+
+Variant toHost(const Value& value, Lists lists) {
+    switch (value.kind()) {
+        case Value::Kind::Nil:
+            return {};
+        case Value::Kind::Integer:
+            return *value.integer();
+        case Value::Kind::Real:
+            return *value.real();
+        case Value::Kind::Text:
+            return *value.text();
+        case Value::Kind::Symbol:
+            return symbolTo(value, lists);
+        case Value::Kind::Variant: {
+            const VariantBox& box = *value.variant();
+            if (box.type == kVtInteger) return static_cast<std::int16_t>(*box.content.integer());
+            return toHost(box.content, lists);
+        }
+        case Value::Kind::SafeArray:
+            return arrayTo(*value.safeArray(), lists);
+        case Value::Kind::Object:
+            if (!value.object()->object) throw LispError("object was released");
+            return value.object()->object;
+        default:
+            break;
+    }
+    if (lists == Lists::AsObjects) return std::make_shared<LispObject>(value);
+    if (value.cons() != nullptr) return listTo(value);
+    throw badArgumentType("variantp", value);
+}
+
+Value makeVariant(const Value& value) {
+    switch (value.kind()) {
+        case Value::Kind::Nil:
+            return wrap(kVtEmpty, {});
+        case Value::Kind::Integer:
+            return wrap(kVtLong, value);
+        case Value::Kind::Real:
+            return wrap(kVtDouble, value);
+        case Value::Kind::Text:
+            return wrap(kVtString, value);
+        case Value::Kind::Object:
+            return wrap(kVtObject, value);
+        case Value::Kind::Variant:
+            return value;
+        case Value::Kind::SafeArray: {
+            const SafeArray& array = *value.safeArray();  // a variant has an array of its own
+            return wrap(kVtArray + array.type, Value(std::make_shared<SafeArray>(array)));
+        }
+        case Value::Kind::Symbol:
+            if (value.symbol()->name.starts_with(":VLAX-")) return wrap(kVtBoolean, value);
+            break;
+        default:
+            break;
+    }
+    throw badArgumentType("variantp", value);
+}
+
+}  // namespace lisp

@@ -1,0 +1,80 @@
+#include "desk/lisp/value.h"
+
+#include "desk/lisp/error.h"
+
+namespace lisp {
+
+bool Value::isSoleOwnerOfCell() const {
+    const auto* cell = std::get_if<std::shared_ptr<const Cons>>(&data_);
+    return cell != nullptr && cell->use_count() == 1;
+}
+
+Cons::~Cons() {
+    if (!first.isSoleOwnerOfCell() && !rest.isSoleOwnerOfCell()) return;
+    // Cells that die with this one are emptied before they go, so that no destructor calls another in depth.
+    std::vector<Value> dying;
+    const auto takeChildren = [&dying](const Cons& cell) {
+        if (cell.first.isSoleOwnerOfCell()) dying.push_back(std::move(cell.first));
+        if (cell.rest.isSoleOwnerOfCell()) dying.push_back(std::move(cell.rest));
+    };
+    takeChildren(*this);
+    while (!dying.empty()) {
+        const Value cell = std::move(dying.back());
+        dying.pop_back();
+        takeChildren(*cell.cons());
+    }
+}
+
+Value cons(Value first, Value rest) {
+    return Value(std::make_shared<const Cons>(std::move(first), std::move(rest)));
+}
+
+Value makeList(std::vector<Value> items, Value tail) {
+    Value list = std::move(tail);
+    for (auto item = items.rbegin(); item != items.rend(); ++item)
+        list = cons(std::move(*item), std::move(list));
+    return list;
+}
+
+std::vector<Value> listItems(const Value& list) {
+    std::vector<Value> items;
+    const Value* rest = &list;
+    while (const Cons* cell = rest->cons()) {
+        items.push_back(cell->first);
+        rest = &cell->rest;
+    }
+    if (rest->isTrue()) throw badArgumentType("listp", list);
+    return items;
+}
+
+const char* typeName(const Value& value) {
+    switch (value.kind()) {
+        case Value::Kind::Nil:
+            return "";
+        case Value::Kind::Integer:
+            return "INT";
+        case Value::Kind::Real:
+            return "REAL";
+        case Value::Kind::Text:
+            return "STR";
+        case Value::Kind::Symbol:
+            return "SYM";
+        case Value::Kind::Cons:
+            return "LIST";
+        case Value::Kind::Subr:
+            return "SUBR";
+        case Value::Kind::Usubr:
+            return "USUBR";
+        case Value::Kind::Variant:
+            return "VARIANT";
+        case Value::Kind::SafeArray:
+            return "SAFEARRAY";
+        case Value::Kind::Object:
+            return "VLA-OBJECT";
+        case Value::Kind::Caught:
+            return "VL-CATCH-ALL-APPLY-ERROR";
+    }
+    return "";
+}
+
+}  // namespace lisp
