@@ -40,7 +40,9 @@ fs::path nativePath(const std::string& path) {
         case ENAMETOOLONG:
             throw Error(kBadFileName);
         case ENOSPC:
+#ifdef EDQUOT  // not every system has quotas
         case EDQUOT:
+#endif
         case EFBIG:
             throw Error(kDiskFull);
         default:

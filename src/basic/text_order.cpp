@@ -1,5 +1,7 @@
 #include "basic/text.h"
 
+#include <algorithm>
+
 namespace basic {
 
 namespace {
@@ -108,9 +110,24 @@ class Weights {
     Weight pending_;
 };
 
+/// How many bytes at the start may be left out of a comparison: equal ASCII characters, but for the last one,
+/// which may have an accent behind it.
+std::size_t equalStart(std::string_view left, std::string_view right) {
+    const std::size_t limit = std::min(left.size(), right.size());
+    std::size_t length = 0;
+    while (length < limit && left[length] == right[length] &&
+           static_cast<unsigned char>(left[length]) < 0x80) {
+        ++length;
+    }
+    return length > 0 ? length - 1 : 0;
+}
+
 }  // namespace
 
 int compareText(std::string_view left, std::string_view right) {
+    const std::size_t start = equalStart(left, right);
+    left.remove_prefix(start);
+    right.remove_prefix(start);
     Weights leftWeights(left), rightWeights(right);
     int byAccent = 0;
     for (;;) {

@@ -1,0 +1,133 @@
+#include "basic/text_file.h"
+
+#include "basic/error.h"
+#include "tests/fakes/temp_folder.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <unistd.h>
+
+namespace basic {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Lays root's rights down as long as it lives, since root may read everything.
+class CommonUser {
+  public:
+    CommonUser() { change(kNobody); }
+    ~CommonUser() { change(0); }
+
+  private:
+    static constexpr uid_t kNobody = 65534;
+    void change(uid_t user) const {
+        if (wasRoot_ && seteuid(user) != 0) ADD_FAILURE() << "can't change the user";
+    }
+    const bool wasRoot_ = geteuid() == 0;
+};
+
+class TextFile : public testing::Test {
+  protected:
+    std::string path(std::string_view name) const { return folder_.file(name); }
+    std::string write(std::string_view name, std::string_view bytes) const {
+        return folder_.write(name, bytes);
+    }
+    static std::vector<std::string> linesOf(const std::string& path) {
+        std::vector<std::string> lines;
+        TextReader reader(path);
+        while (!reader.atEnd()) lines.push_back(reader.readLine());
+        return lines;
+    }
+    template <typename Call>
+    static int errorOf(Call call) {
+        try {
+            call();
+        } catch (const Error& error) {
+            return error.number();
+        }
+        return 0;
+    }
+    static int readError(const std::string& path) {
+        return errorOf([&] { TextReader reader(path); });
+    }
+    static int writeError(const std::string& path) {
+        return errorOf([&] { TextWriter writer(path, TextWriter::Mode::Replace); });
+    }
+
+    fakes::TempFolder folder_;
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(TextFile, ReadsLinesByCarriageReturns) {
+    EXPECT_EQ(linesOf(write("a", "un\r\n\r\ntrois\rquatre\r\n")), (Lines{"un", "", "trois", "quatre"}));
+    EXPECT_EQ(linesOf(write("b", "bare\nfeeds\n")), (Lines{"bare\nfeeds\n"}));
+    EXPECT_EQ(linesOf(write("c", "no end")), (Lines{"no end"}));
+    EXPECT_EQ(linesOf(write("d", "")), Lines{});
+    EXPECT_EQ(linesOf(write("e",
+                            "Fran\xE7"
+                            "ais\r\n")),
+              (Lines{"Français"}));
+    TextReader reader(write("f", "x\r"));
+    reader.readLine();
+    EXPECT_EQ(errorOf([&] { reader.readLine(); }), kInputPastEnd);
+}
+
+TEST_F(TextFile, ReadsAFileLargerThanOneChunk) {
+    const std::string line(70000, 'x');
+    EXPECT_EQ(linesOf(write("a", line + "\r\n" + line)), (Lines{line, line}));
+}
+
+TEST_F(TextFile, WritesAndAppendsInTheCodePage) {
+    const std::string file = write("a", "old content that is longer\r\n");
+    TextWriter replacing(file, TextWriter::Mode::Replace);
+    replacing.writeLine("N°");
+    replacing.close();
+    replacing.close();
+    EXPECT_EQ(errorOf([&] { replacing.writeLine("late"); }), kBadFileName);
+    TextWriter appending(file, TextWriter::Mode::Append);
+    appending.writeLine("Ж");
+    appending.close();
+    EXPECT_EQ(folder_.read("a"), "N\xB0\r\n?\r\n");
+}
+
+TEST_F(TextFile, ClosesWhenDropped) {
+    { TextWriter(path("new"), TextWriter::Mode::Append).writeLine("kept"); }
+    EXPECT_EQ(folder_.read("new"), "kept\r\n");
+}
+
+TEST_F(TextFile, NamesTheFailure) {
+    EXPECT_EQ(readError(""), kBadFileName);
+    EXPECT_EQ(readError(std::string("a\0b", 3)), kBadFileName);
+    EXPECT_EQ(readError(path(std::string(300, 'n'))), kBadFileName);
+    EXPECT_EQ(readError(path("none")), kFileNotFound);
+    EXPECT_EQ(readError("no such file beside us"), kFileNotFound);
+    EXPECT_EQ(readError(path("none/file")), kPathNotFound);
+    EXPECT_EQ(writeError(path("none/file")), kPathNotFound);
+    EXPECT_EQ(readError(write("plain", "") + "/file"), kPathNotFound);
+    EXPECT_EQ(readError(folder_.path()), kPathFileAccess);
+    EXPECT_EQ(writeError(folder_.path()), kPathFileAccess);
+}
+
+TEST_F(TextFile, RefusesWhatMayNotBeRead) {
+    const std::string file = write("locked", "x");
+    fs::permissions(file, fs::perms::none);
+    fs::permissions(folder_.path(), fs::perms::all);
+    const CommonUser user;
+    EXPECT_EQ(readError(file), kPermissionDenied);
+    EXPECT_EQ(writeError(file), kPermissionDenied);
+}
+
+TEST_F(TextFile, ReportsAFullDiskAtCloseAndWhileWriting) {
+    if (!fs::exists("/dev/full")) GTEST_SKIP() << "no full device here";
+    TextWriter small("/dev/full", TextWriter::Mode::Append);
+    small.writeLine("fits the buffer");
+    EXPECT_EQ(errorOf([&] { small.close(); }), kDiskFull);
+    TextWriter large("/dev/full", TextWriter::Mode::Append);
+    EXPECT_EQ(errorOf([&] { large.writeLine(std::string(1 << 20, 'x')); }), kDiskFull);
+}
+
+}  // namespace
+}  // namespace basic
