@@ -57,7 +57,7 @@ void Control::require(Property property) const {
 bool Control::live() const { return form_.initialized(); }
 
 void Control::changed() {
-    if (Screen* screen = form_.screen()) screen->changed(*this);
+    if (form_.drawn_) form_.screen_->changed(*this);
 }
 
 template <typename Value, typename NewValue>

@@ -46,12 +46,15 @@ void Form::show(Screen& screen, Form* owner) {
     owner_ = owner;
     screen_ = &screen;
     visible_ = true;
-    if (activeControl_ == nullptr) focusFirst();
+    if (activeControl_ == nullptr || !activeControl_->shown() || !activeControl_->operable()) focusFirst();
     try {
         acts::guarded(screen, [this] { Form_Activate(); });
-        if (visible_) screen.runModal(*this);
+        if (!visible_) return;
+        drawn_ = true;
+        ++timesDrawn_;
+        screen.runModal(*this);
     } catch (...) {
-        visible_ = false;
+        visible_ = drawn_ = false;
         throw;
     }
 }
@@ -59,7 +62,9 @@ void Form::show(Screen& screen, Form* owner) {
 void Form::hide() {
     if (!visible_) return;
     visible_ = false;
-    screen_->hidden(*this);
+    const bool wasDrawn = drawn_;
+    drawn_ = false;
+    if (wasDrawn) screen_->hidden(*this);
 }
 
 void Form::unload() {
@@ -68,9 +73,11 @@ void Form::unload() {
     for (Control* control : controls_) control->restoreDesign();
     activeControl_ = nullptr;
     loaded_ = false;
+    timesDrawn_ = 0;
 }
 
 void Form::focusFirst() {
+    activeControl_ = nullptr;
     for (Control* control : controls_) {
         if (control->has(Property::Focus) && control->shown() && control->operable()) {
             activeControl_ = control;
@@ -80,7 +87,7 @@ void Form::focusFirst() {
 }
 
 void Form::changed() {
-    if (visible_) screen_->changed(*this);
+    if (drawn_) screen_->changed(*this);
 }
 
 void Form::setCaption(std::string_view caption) {

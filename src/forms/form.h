@@ -52,6 +52,8 @@ class Form {
     /// Hides the form and brings the design state back; the next use loads it anew.
     void unload();
     bool visible() const { return visible_; }
+    /// How often the screen has drawn the form since it was loaded.
+    int timesDrawn() const { return timesDrawn_; }
     /// The form named as owner of the last show; null if there was none.
     Form* owner() const { return owner_; }
     /// The screen that the form is shown on; null while it isn't visible.
@@ -126,6 +128,8 @@ class Form {
     bool initialized_ = false;
     bool loaded_ = false;
     bool visible_ = false;
+    bool drawn_ = false;  ///< handed to the screen; a form that hides itself while it is activated never is
+    int timesDrawn_ = 0;
     bool resizable_ = false;
 };
 

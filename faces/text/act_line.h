@@ -1,0 +1,25 @@
+#pragma once
+
+#include "forms/form.h"
+
+#include <iosfwd>
+#include <string_view>
+
+namespace text_face {
+
+/// Carries out one line of a user's acts on a form:
+///
+///   Name               click a button, option or check box
+///   Name = text        type into a text box or edit field; choose that entry of a list
+///   Name # n           choose entry n: lists and combos from 0, rows of a list view from 1
+///   Name # n = text    edit the text of row n in place
+///   Name key DOWN      press a key in that control;  key F1: in the one that has the focus
+///   resize w h         in twips, as  move l t
+///   close              the frame's close box
+///   show               print the dialog
+///
+/// Control names match without regard to case. Raises forms::ActError for a line that is none of these and
+/// for an act that can't be done.
+void performLine(std::ostream& output, forms::Form& form, std::string_view line);
+
+}  // namespace text_face
