@@ -59,7 +59,9 @@ class Printer {
 
     void print(const Control& control, int depth) {
         indent(depth);
-        output_ << control.name() << ": " << face(control);
+        output_ << control.name() << ':';
+        const std::string shown = face(control);
+        if (!shown.empty()) output_ << ' ' << shown;
         if (!control.enabled()) output_ << " (disabled)";
         if (!control.toolTipText().empty()) output_ << " (tip: " << control.toolTipText() << ')';
         output_ << '\n';
@@ -129,6 +131,11 @@ class Printer {
             output_ << '\n';
         }
         printRest(view.listItems().count() - shown, depth);
+    }
+
+    void printCell(const std::string& text) {
+        output_ << " |";
+        if (!text.empty()) output_ << ' ' << oneLine(text);
     }
 
     int cut(int count) const { return detail_ == Detail::Brief ? std::min(count, kBriefEntries) : count; }
