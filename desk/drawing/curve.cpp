@@ -218,6 +218,22 @@ Curve transformed(const Curve& curve, const Transform& transform) {
     return result;
 }
 
+Curve reversed(const Curve& curve) {
+    Curve result = curve;
+    if (auto* line = std::get_if<LineCurve>(&result)) {
+        std::swap(line->start, line->end);
+    } else if (auto* arc = std::get_if<ArcCurve>(&result)) {
+        std::swap(arc->start, arc->end);
+    } else {
+        auto& spline = std::get<SplineCurve>(result);
+        std::reverse(spline.points.begin(), spline.points.end());
+        std::reverse(spline.weights.begin(), spline.weights.end());
+        std::reverse(spline.knots.begin(), spline.knots.end());
+        for (double& knot : spline.knots) knot = -knot;
+    }
+    return result;
+}
+
 void addBounds(const Curve& curve, Box& box) {
     if (const auto* line = std::get_if<LineCurve>(&curve)) {
         box.add(line->start);

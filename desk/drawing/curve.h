@@ -59,6 +59,8 @@ struct Box {
 Point3 startPoint(const Curve& curve);
 Point3 endPoint(const Curve& curve);
 Curve transformed(const Curve& curve, const Transform& transform);
+/// The same curve run from its end to its start.
+Curve reversed(const Curve& curve);
 /// Adds the box of a curve. It is the tight one for lines and arcs, that of the control points for splines.
 void addBounds(const Curve& curve, Box& box);
 

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "desk/drawing/curve.h"
+#include "desk/drawing/ids.h"
+#include "desk/drawing/pick_fill.h"
+#include "desk/dxf/tag_reader.h"
+
+#include <optional>
+#include <vector>
+
+namespace drawing {
+
+class Drawing;
+
+/// A drawn curve; a wide polyline draws a band to both sides of it.
+struct Stroke {
+    Curve curve;
+    double halfWidth = 0;
+};
+
+/// What one entity draws by itself, in the coordinates of the block or space that it stands in. References
+/// draw nothing by themselves, see `readPlaced`.
+struct Geometry {
+    std::vector<Stroke> strokes;
+    std::vector<Fill> fills;
+    std::vector<Point3> points;
+
+    bool empty() const { return strokes.empty() && fills.empty() && points.empty(); }
+    Box bounds() const;
+};
+
+/// LINE, LWPOLYLINE, POLYLINE, CIRCLE, ARC, ELLIPSE, SPLINE, POINT, SOLID, TRACE, 3DFACE, TEXT, MTEXT,
+/// ATTRIB, ATTDEF, HATCH, LEADER. Of texts the box about them counts as filled. Empty for other types.
+Geometry readGeometry(const Drawing& drawing, EntityId id);
+
+/// The groups of the VERTEX entities of a POLYLINE, its SEQEND among them.
+std::vector<dxf::TagReader> vertexTags(const Drawing& drawing, EntityId id);
+
+/// A block that an entity draws, and where.
+struct Placed {
+    BlockId block = kNoBlock;
+    Placement placement;
+};
+/// The block of an INSERT, a DIMENSION or a table (ACAD_TABLE); nothing for other types or where the drawing
+/// lacks the block.
+std::optional<Placed> readPlaced(const Drawing& drawing, EntityId id);
+
+}  // namespace drawing

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "desk/drawing/curve.h"
+
+#include <vector>
+
+namespace drawing {
+
+/// A closed path as a polygon seen from above, curves in short chords.
+class FlatLoop {
+  public:
+    explicit FlatLoop(const Path& path);
+
+    /// Whether the point lies inside, by the even-odd rule.
+    bool contains(const Point3& point) const;
+    /// Whether the other loop lies inside this one, told by most of three of its places so that a shared
+    /// border doesn't deceive.
+    bool holds(const FlatLoop& other) const;
+
+  private:
+    Box bounds_;
+    std::vector<Point3> points_;
+};
+
+/// A filled area: what lies inside an odd number of its loops.
+struct Fill {
+    std::vector<Path> loops;
+
+    bool contains(const Point3& point) const;
+};
+
+}  // namespace drawing
