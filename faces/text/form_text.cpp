@@ -126,8 +126,7 @@ class Printer {
             const forms::ListItem& item = view.listItems().item(row);
             indent(depth);
             output_ << (row == selected ? "> " : "  ") << row << " | " << oneLine(item.text());
-            for (int column = 1; column < columns; ++column)
-                output_ << " | " << oneLine(item.subItem(column));
+            for (int column = 1; column < columns; ++column) printCell(item.subItem(column));
             output_ << '\n';
         }
         printRest(view.listItems().count() - shown, depth);
