@@ -133,6 +133,12 @@ Geometry readGeometry(const Drawing& drawing, EntityId id) {
     return geometry;
 }
 
+Geometry readConstantText(const Drawing& drawing, EntityId id) {
+    Geometry geometry;
+    addText(readTextBox(drawing.tags(id), false), geometry);
+    return geometry;
+}
+
 std::vector<dxf::TagReader> vertexTags(const Drawing& drawing, EntityId id) {
     std::vector<dxf::TagReader> result;
     const PartRange parts = drawing.parts(id);

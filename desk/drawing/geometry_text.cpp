@@ -257,9 +257,9 @@ std::string plainMText(std::string_view content) {
     return result;
 }
 
-TextBox readTextBox(dxf::TagReader tags) {
+TextBox readTextBox(dxf::TagReader tags, bool showsTag) {
     const LineText text = readLineText(tags);
-    const std::string& shown = text.isDefinition ? text.tag : text.text;
+    const std::string& shown = text.isDefinition && showsTag ? text.tag : text.text;
     if (basic::trim(shown).empty() || !(text.height > 0)) return std::nullopt;
     double height = text.height;
     double width = textWidth(shown, height) * std::abs(text.widthFactor);

@@ -14,8 +14,9 @@ namespace drawing {
 /// coordinates. Nothing for an empty text.
 using TextBox = std::optional<std::array<Point3, 4>>;
 
-/// TEXT, ATTRIB, and ATTDEF, which shows its tag.
-TextBox readTextBox(dxf::TagReader tags);
+/// TEXT, ATTRIB, and ATTDEF. An attribute definition shows its tag; a constant one in a placed block, its
+/// text.
+TextBox readTextBox(dxf::TagReader tags, bool showsTag = true);
 /// MTEXT; by the extent that its writer left in it (groups 42, 43), else by its text.
 TextBox readMTextBox(dxf::TagReader tags);
 

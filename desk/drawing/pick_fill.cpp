@@ -4,8 +4,9 @@
 
 namespace drawing {
 
-FlatLoop::FlatLoop(const Path& path) {
+FlatLoop::FlatLoop(const Path& path, const Transform& transform) {
     for (const Curve& curve : path) flatten(curve, points_);
+    for (Point3& point : points_) point = transform.apply(point);
     points_.erase(std::unique(points_.begin(), points_.end()), points_.end());
     for (const Point3& point : points_) bounds_.add(point);
 }
@@ -36,9 +37,10 @@ bool FlatLoop::holds(const FlatLoop& other) const {
     return votes >= 2;
 }
 
-bool Fill::contains(const Point3& point) const {
-    const auto hits = std::count_if(loops.begin(), loops.end(),
-                                    [&](const Path& loop) { return FlatLoop(loop).contains(point); });
+bool Fill::contains(const Point3& point, const Transform& transform) const {
+    const auto hits = std::count_if(loops.begin(), loops.end(), [&](const Path& loop) {
+        return FlatLoop(loop, transform).contains(point);
+    });
     return hits % 2 == 1;
 }
 

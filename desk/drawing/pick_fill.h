@@ -9,13 +9,14 @@ namespace drawing {
 /// A closed path as a polygon seen from above, curves in short chords.
 class FlatLoop {
   public:
-    explicit FlatLoop(const Path& path);
+    explicit FlatLoop(const Path& path, const Transform& transform = {});
 
     /// Whether the point lies inside, by the even-odd rule.
     bool contains(const Point3& point) const;
     /// Whether the other loop lies inside this one, told by most of three of its places so that a shared
     /// border doesn't deceive.
     bool holds(const FlatLoop& other) const;
+    const Box& bounds() const { return bounds_; }
 
   private:
     Box bounds_;
@@ -26,7 +27,8 @@ class FlatLoop {
 struct Fill {
     std::vector<Path> loops;
 
-    bool contains(const Point3& point) const;
+    /// Whether the fill, placed by `transform`, covers the point as seen from above.
+    bool contains(const Point3& point, const Transform& transform = {}) const;
 };
 
 }  // namespace drawing

@@ -1,0 +1,92 @@
+#include "desk/drawing/pick_shape.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace drawing {
+
+namespace {
+
+/// Beyond this no drafter nests blocks; it keeps a damaged drawing from exhausting the stack.
+constexpr int kDeepestNesting = 100;
+
+/// Group 70 of ATTRIB and ATTDEF.
+constexpr int kInvisibleAttribute = 1;
+
+}  // namespace
+
+BlockShapes::BlockShapes(const Drawing& drawing)
+    : drawing_(drawing), shapes_(drawing.blocks().size()), open_(drawing.blocks().size()) {}
+
+const BlockShape& BlockShapes::of(BlockId block) {
+    static const BlockShape kEmpty;
+    if (block >= shapes_.size() || open_[block] || depth_ >= kDeepestNesting) return kEmpty;
+    if (!shapes_[block]) {
+        open_[block] = true;
+        ++depth_;
+        auto shape = std::make_unique<BlockShape>(read(block));
+        --depth_;
+        open_[block] = false;
+        shapes_[block] = std::move(shape);
+    }
+    return *shapes_[block];
+}
+
+BlockShape BlockShapes::read(BlockId block) {
+    BlockShape shape;
+    drawing_.forEachEntity(block, [&](EntityId id) {
+        addEntity(shape, id);
+        return true;
+    });
+    return shape;
+}
+
+void BlockShapes::addEntity(BlockShape& shape, EntityId id) {
+    const Layer& layer = drawing_.layer(id);
+    ShapeItem item;
+    item.onLayerZero = drawing_.layerName(id) == "0";
+    item.placed = readPlaced(drawing_, id);
+    // What is on layer 0 follows the layer of the reference instead.
+    if (!item.onLayerZero && (layer.frozen || (layer.off && !item.placed))) return;
+    if (!drawing_.common(id).visible) return;
+    item.hidesZero = !item.onLayerZero && layer.off;
+    if (drawing_.type(id) == "ATTDEF") {
+        const AttribData definition = drawing_.attribute(id);
+        if (!definition.isConstant() || (definition.flags & kInvisibleAttribute) != 0) return;
+        item.geometry = readConstantText(drawing_, id);
+    } else {
+        item.geometry = readGeometry(drawing_, id);
+    }
+    for (const EntityId attribute : drawing_.attributes(id)) {
+        if (!isAttributeShown(drawing_, attribute)) continue;
+        Geometry text = readGeometry(drawing_, attribute);
+        std::move(text.fills.begin(), text.fills.end(), std::back_inserter(item.geometry.fills));
+    }
+    item.bounds = item.geometry.bounds();
+    if (item.placed) item.bounds.add(placedBounds(*this, *item.placed));
+    if (item.bounds.empty()) return;
+    shape.bounds.add(item.bounds);
+    shape.items.push_back(std::move(item));
+}
+
+bool isAttributeShown(const Drawing& drawing, EntityId id) {
+    return drawing.isDisplayed(id) && (drawing.attribute(id).flags & kInvisibleAttribute) == 0;
+}
+
+Box placedBounds(BlockShapes& shapes, const Placed& placed) {
+    const Box& own = shapes.of(placed.block).bounds;
+    Box result;
+    for (int column : {0, std::max(placed.placement.columns, 1) - 1}) {
+        for (int row : {0, std::max(placed.placement.rows, 1) - 1}) {
+            result.add(own.transformed(placedTransform(shapes, placed, column, row)));
+        }
+    }
+    return result;
+}
+
+Transform placedTransform(const BlockShapes& shapes, const Placed& placed, int column, int row) {
+    const Point3& base = shapes.drawing().blocks()[placed.block].basePoint;
+    return referenceTransform(placed.placement, base, column, row);
+}
+
+}  // namespace drawing
