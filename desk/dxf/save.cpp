@@ -27,7 +27,7 @@ std::string resolveLinks(std::string path) {
         const ssize_t length = readlink(path.c_str(), buffer, sizeof buffer);
         if (length < 0) return path;
         const std::string target(buffer, static_cast<std::size_t>(length));
-        path = target.starts_with('/') ? target : folderOf(path) + "/" + target;
+        path = target.starts_with('/') ? target : folderOf(path).append("/").append(target);
     }
     fail(path, fileError(ELOOP));
 }
