@@ -37,6 +37,20 @@ Value objectFrom(const Variant& value) {
     return Value(std::make_shared<ObjectBox>(ObjectBox{host::asObject(value)}));
 }
 
+/// A copy that shares no array with the original, so that an array put into itself makes no circle.
+Value copyOf(const SafeArray& array, int depth = 0) {
+    constexpr int kDeepest = 100;
+    if (depth > kDeepest) throw LispError("safe arrays nested too deep");
+    auto copy = std::make_shared<SafeArray>(array);
+    for (Value& element : copy->elements) {
+        const VariantBox* box = element.variant();
+        if (box != nullptr && box->content.safeArray() != nullptr) {
+            element = wrap(box->type, copyOf(*box->content.safeArray(), depth + 1));
+        }
+    }
+    return copy;
+}
+
 /// An element of an array of variants: a variant itself, an array within too.
 Value elementFrom(Interpreter& lisp, const Variant& element) {
     if (element.is(Variant::Kind::Int16)) return wrap(kVtInteger, Value(std::int32_t{element.integer()}));
@@ -57,7 +71,8 @@ Value arrayFrom(Interpreter& lisp, const Variant& value) {
     } else {
         for (const Variant& item : value.array()) array->elements.push_back(elementFrom(lisp, item));
     }
-    return wrap(kVtArray + array->type, Value(std::move(array)));
+    const std::int32_t type = kVtArray + array->type;
+    return wrap(type, Value(std::move(array)));
 }
 
 Value listFrom(Interpreter& lisp, const Variant& value) {
@@ -181,10 +196,8 @@ Value makeVariant(const Value& value) {
             return wrap(kVtObject, value);
         case Value::Kind::Variant:
             return value;
-        case Value::Kind::SafeArray: {
-            const SafeArray& array = *value.safeArray();  // a variant has an array of its own
-            return wrap(kVtArray + array.type, Value(std::make_shared<SafeArray>(array)));
-        }
+        case Value::Kind::SafeArray:
+            return wrap(kVtArray + value.safeArray()->type, copyOf(*value.safeArray()));
         case Value::Kind::Symbol:
             if (value.symbol()->name.starts_with(":VLAX-")) return wrap(kVtBoolean, value);
             break;

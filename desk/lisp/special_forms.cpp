@@ -117,7 +117,7 @@ class LoopVariable {
     Value saved_;
 };
 
-Value foreach (Interpreter& lisp, const Value& arguments) {
+Value forEach(Interpreter& lisp, const Value& arguments) {
     Forms forms(arguments);
     const Value& name = forms.take();
     const Value list = lisp.evaluate(forms.take());
@@ -155,7 +155,7 @@ std::span<const FormEntry> specialForms() {
         {"QUOTE", quote},     {"FUNCTION", function}, {"SETQ", setq},       {"DEFUN", defun},
         {"LAMBDA", lambda},   {"PROGN", progn},       {"IF", ifForm},       {"COND", cond},
         {"AND", andForm},     {"OR", orForm},         {"WHILE", whileForm}, {"REPEAT", repeat},
-        {"FOREACH", foreach}, {"VLAX-FOR", vlaxFor},
+        {"FOREACH", forEach}, {"VLAX-FOR", vlaxFor},
     };
     return kTable;
 }

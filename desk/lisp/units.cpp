@@ -26,7 +26,9 @@ std::string decimalText(double number, int decimals, std::int32_t zeros) {
         const std::size_t first = text.front() == '-' ? 1 : 0;
         if (text.compare(first, 2, "0.") == 0) text.erase(first, 1);
     }
-    return text == "-0" ? "0" : text;
+    const bool isZero = text.find_first_of("123456789") == std::string::npos;
+    if (isZero && text.front() == '-') text.erase(0, 1);
+    return text.empty() || text == "." ? "0" : text;
 }
 
 std::string scientificText(double number, int decimals) {

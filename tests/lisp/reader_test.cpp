@@ -1,0 +1,84 @@
+#include "desk/lisp/reader.h"
+
+#include "tests/lisp/evaluation.h"
+
+namespace {
+
+TEST(Reader, ReadsAtoms) {
+    expectRows({
+        {"'Abc", "ABC"},
+        {"'(1 -2 +3)", "(1 -2 3)"},
+        {"'(1.5 -.5 2. 1e3 1.5E-7)", "(1.5 -0.5 2.0 1000.0 1.5e-07)"},
+        {"'(1+ 1- - + 12a e5 1e .x)", "(1+ 1- - + 12A E5 1E .X)"},
+        {"2147483647", "2147483647"},
+        {"-2147483648", "-2147483648"},
+        {"2147483648", "2.14748e+09"},  // beyond 32 bits an integer is a real
+        {"1e999", "error: floating-point number out of range on input: 1e999"},
+        {"'(nil NIL t)", "(nil nil T)"},
+        {"", "nil"},
+        {"1 2 3", "3"},
+    });
+}
+
+TEST(Reader, ReadsStringEscapes) {
+    expectRows({
+        {R"("a\"b\\c")", R"("a\"b\\c")"},
+        {R"((vl-string->list "\n\t\r\e\101\1\351\U+0416x"))", "(10 9 13 27 65 1 233 1046 120)"},
+        {R"((strlen "\q"))", "1"},
+        {"(strlen \"a\nb\")", "3"},
+        {R"("a\001b")", R"("a\001b")"},
+    });
+}
+
+TEST(Reader, ReadsListsQuotesAndComments) {
+    expectRows({
+        {"'(a . b)", "(A . B)"},
+        {"'(a b . (c d))", "(A B C D)"},
+        {"'(a .5)", "(A 0.5)"},
+        {"'('a \"s\"b)", "((QUOTE A) \"s\" B)"},
+        {"(setq X(list 1 2))", "(1 2)"},  // no blank before the bracket
+        {"; all of it\n(+ 1 ; one\n 2)", "3"},
+        {"(+ 1 ;| two\nlines |; 2)", "3"},
+        {"()", "nil"},
+    });
+}
+
+TEST(Reader, NamesWhatIsWrong) {
+    expectRows({
+        {"(+ 1 (car '(2))", "error: malformed list on input"},
+        {"'", "error: malformed list on input"},
+        {"\"abc", "error: malformed string on input"},
+        {"(+ 1 2))", "error: extra right paren on input"},
+        {"'(. a)", "error: misplaced dot on input"},
+        {"'(a . )", "error: misplaced dot on input"},
+        {"'(a . b c)", "error: extra cdrs in dotted pair on input"},
+        {";| open", "error: unclosed comment on input"},
+    });
+}
+
+TEST(Reader, TellsIncompleteFromWrong) {
+    Session session;
+    for (const char* text : {"(", "\"", "'", "(a .", ";|"}) {
+        EXPECT_THROW(session.lisp.eval(text), lisp::IncompleteInput) << text;
+    }
+    for (const char* text : {")", "(a . b c)"}) {
+        try {
+            session.lisp.eval(text);
+            ADD_FAILURE() << text;
+        } catch (const lisp::LispError& error) {
+            EXPECT_EQ(dynamic_cast<const lisp::IncompleteInput*>(&error), nullptr) << text;
+        }
+    }
+}
+
+TEST(Reader, ReadGivesTheFirstForm) {
+    expectRows({
+        {"(read \"(a b) c\")", "(A B)"},
+        {"(read \"abc def\")", "ABC"},
+        {"(read \"\")", "nil"},
+        {"(read \"(a\")", "error: malformed list on input"},
+        {"(eval (read \"(+ 1 2)\"))", "3"},
+    });
+}
+
+}  // namespace
