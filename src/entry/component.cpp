@@ -1,0 +1,23 @@
+#include "entry/component.h"
+
+#include "entry/fm_owner.h"
+#include "replace/replace_command.h"
+
+#include <optional>
+
+namespace entry {
+
+Component::Component(platform::Platform& platform, forms::Screen& screen)
+    : session_(std::make_shared<session::Session>(platform, screen)) {
+    session_->registerForm("fmOwner", [](session::Session& s) { return std::make_unique<fmOwner>(s); });
+    replace::registerForms(*session_);
+}
+
+std::shared_ptr<VnObj0100> Component::createVnObj0100() { return std::make_shared<VnObj0100>(session_); }
+
+void Component::showHelp(std::int32_t context) {
+    const auto topic = context == 0 ? std::nullopt : std::optional(context);
+    session_->platform().showHelp(session_->HelpFile, topic);
+}
+
+}  // namespace entry
