@@ -18,6 +18,7 @@ vorlane_room(drawing desk/drawing LINKS dxf)
 vorlane_room(model desk/model LINKS drawing host)
 vorlane_room(lisp desk/lisp LINKS host)
 vorlane_room(shell desk/shell LINKS entry model lisp)
+target_compile_definitions(shell PRIVATE VORLANE_RESOURCES="${PROJECT_SOURCE_DIR}/resources")
 vorlane_room(console desk/console LINKS shell text_face)
 
 vorlane_program(vorlane-console desk/console console)

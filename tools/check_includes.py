@@ -12,7 +12,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 # Headers of the C++ standard library have no dot; these few of C's are in it by their old names or are
 # POSIX, which the desk may use.
 POSIX = {"fcntl.h", "unistd.h", "sys/stat.h", "sys/types.h", "sys/uio.h", "sys/wait.h", "dirent.h", "errno.h",
-         "spawn.h", "poll.h", "signal.h", "limits.h", "stdlib.h", "pwd.h", "sys/resource.h", "termios.h"}
+         "spawn.h", "iconv.h", "poll.h", "signal.h", "limits.h", "stdlib.h", "pwd.h", "sys/resource.h", "termios.h"}
 
 
 def rooms():

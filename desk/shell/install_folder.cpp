@@ -1,0 +1,123 @@
+#include "desk/shell/install_folder.h"
+
+#include "basic/error.h"
+#include "basic/text.h"
+#include "basic/text_file.h"
+
+#include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <sstream>
+
+namespace shell {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kSettingsFile = "Vorlane.ini";
+/// What was delivered, a line each: checksum, blank, path below the folder.
+constexpr const char* kDeliveryList = "delivered.txt";
+
+std::string readBytes(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// FNV-1a over 64 bits: enough to tell a changed file from an unchanged one.
+std::string checksum(const std::string& bytes) {
+    std::uint64_t hash = 14695981039346656037u;
+    for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211u;
+    std::ostringstream text;
+    text << std::hex << hash;
+    return text.str();
+}
+
+[[noreturn]] void fail(const fs::path& folder, const std::string& why) {
+    throw basic::Error(basic::kPermissionDenied,
+                       "The install folder " + folder.string() + " can't be written: " + why);
+}
+
+void writeBytes(const fs::path& folder, const fs::path& path, const std::string& bytes) {
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file << bytes;
+    file.flush();
+    if (!file) fail(folder, path.filename().string());
+}
+
+using Delivery = std::map<std::string, std::string>;  ///< path below the folder to checksum
+
+Delivery readDelivery(const fs::path& folder) {
+    Delivery delivery;
+    std::ifstream list(folder / kDeliveryList);
+    for (std::string sum, path; list >> sum && std::getline(list >> std::ws, path);) delivery[path] = sum;
+    return delivery;
+}
+
+/// The delivered files: language files at the top, as the add-in looks for them there; help in its folder.
+std::map<std::string, fs::path> deliveredFiles(const fs::path& resources) {
+    std::map<std::string, fs::path> files;
+    std::error_code ignored;
+    for (const auto& entry : fs::directory_iterator(resources / "languages", ignored)) {
+        if (entry.is_regular_file()) files[entry.path().filename().string()] = entry.path();
+    }
+    for (const auto& entry : fs::recursive_directory_iterator(resources / "help", ignored)) {
+        if (!entry.is_regular_file()) continue;
+        files["help/" + fs::relative(entry.path(), resources / "help").generic_string()] = entry.path();
+    }
+    return files;
+}
+
+void deliver(const fs::path& folder, const fs::path& resources) {
+    const Delivery before = readDelivery(folder);
+    Delivery after;
+    for (const auto& [name, source] : deliveredFiles(resources)) {
+        const fs::path target = folder / name;
+        const std::string wanted = readBytes(source);
+        const auto known = before.find(name);
+        std::error_code error;
+        if (fs::exists(target, error)) {
+            const std::string present = readBytes(target);
+            const bool untouched = known != before.end() && checksum(present) == known->second;
+            if (present != wanted && !untouched) continue;
+            if (present != wanted) writeBytes(folder, target, wanted);
+        } else {
+            fs::create_directories(target.parent_path(), error);
+            writeBytes(folder, target, wanted);
+        }
+        after[name] = checksum(wanted);
+    }
+    if (after == before) return;
+    std::string list;
+    for (const auto& [name, sum] : after) list += sum + " " + name + "\n";
+    writeBytes(folder, folder / kDeliveryList, list);
+}
+
+bool hasLanguageChoice(const fs::path& settings) {
+    basic::TextReader reader(settings.string());
+    while (!reader.atEnd()) {
+        const std::string line = reader.readLine();
+        if (line.size() > 4 && basic::equalIgnoringCase(line.substr(0, 4), "Lng=")) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+void prepareInstallFolder(const fs::path& folder, const fs::path& resources, const std::string& language) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) fail(folder, error.message());
+    deliver(folder, resources);
+    const fs::path settings = folder / kSettingsFile;
+    if (!fs::exists(settings, error)) writeBytes(folder, settings, {});
+    if (!fs::is_regular_file(settings, error)) fail(folder, std::string(kSettingsFile) + " is not a file");
+    if (!hasLanguageChoice(settings)) {
+        basic::TextWriter writer(settings.string(), basic::TextWriter::Mode::Append);
+        writer.writeLine("Lng=" + language);
+        writer.close();
+    }
+}
+
+}  // namespace shell

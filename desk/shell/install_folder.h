@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace shell {
+
+/// Makes the user's install folder at the first start and keeps it complete: the delivered language files,
+/// the help and an empty settings file. A delivered file that the user didn't change is brought up to date
+/// with the program; one that the user changed, and every file that wasn't delivered, is left alone. Where no
+/// choice of language is stored yet, `language` (a language's display name) is stored. Raises
+/// kPermissionDenied and its like, with the folder's name, where the folder can't be written.
+void prepareInstallFolder(const std::filesystem::path& folder, const std::filesystem::path& resources,
+                          const std::string& language);
+
+}  // namespace shell

@@ -1,0 +1,57 @@
+#include "desk/shell/linux_platform.h"
+
+#include "basic/error.h"
+#include "basic/text.h"
+#include "desk/shell/process.h"
+#include "desk/shell/surroundings.h"
+
+#include <algorithm>
+
+namespace shell {
+
+namespace fs = std::filesystem;
+
+LinuxPlatform::LinuxPlatform(fs::path installFolder, basic::Regional regional, Tell tell)
+    : installFolder_(std::move(installFolder)), regional_(std::move(regional)), tell_(std::move(tell)) {}
+
+std::optional<platform::RegistryValue> LinuxPlatform::queryRegistry(platform::RegistryRoot root,
+                                                                    std::string_view keyPath,
+                                                                    std::string_view valueName) {
+    const bool known = root == platform::RegistryRoot::LocalMachine &&
+                       basic::equalIgnoringCase(keyPath, "Software\\Merovane\\Vorlane\\1.0") &&
+                       basic::equalIgnoringCase(valueName, "InstallPath");
+    if (!known) return std::nullopt;
+    return platform::RegistryValue{platform::kRegistryString, installFolder_.string()};
+}
+
+std::vector<std::string> LinuxPlatform::folderFiles(const std::string& folder) {
+    std::error_code error;
+    std::vector<std::string> files;
+    for (const auto& entry : fs::directory_iterator(folder, error)) {
+        if (!entry.is_directory()) files.push_back(entry.path().string());
+    }
+    if (error) throw basic::Error(basic::kPathNotFound, "Path not found: " + folder);
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+std::string LinuxPlatform::joinPath(std::string_view folder, std::string_view name) {
+    return std::string(folder) + "/" + std::string(name);
+}
+
+std::string LinuxPlatform::baseName(std::string_view path) { return fs::path(path).stem().string(); }
+
+std::string LinuxPlatform::ownFolder() { return programFile().parent_path().string(); }
+
+void LinuxPlatform::openDocument(const std::string& document, const std::string&, const std::string&) {
+    const bool hasDisplay =
+        !readEnvironment("DISPLAY").empty() || !readEnvironment("WAYLAND_DISPLAY").empty();
+    if (hasDisplay && startProgram({"xdg-open", document})) return;
+    tell_(document);
+}
+
+void LinuxPlatform::showHelp(const std::string& helpFile, std::optional<std::int32_t> context) {
+    tell_("Help: " + helpFile + (context ? ", topic " + std::to_string(*context) : std::string()));
+}
+
+}  // namespace shell

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/platform.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace shell {
+
+/// The platform on Linux. The registry's one value is the user's install folder.
+class LinuxPlatform : public platform::Platform {
+  public:
+    using Tell = std::function<void(const std::string& text)>;
+
+    /// `tell` receives what can't be shown otherwise: an address where there is no desktop to open it.
+    LinuxPlatform(std::filesystem::path installFolder, basic::Regional regional, Tell tell);
+
+    std::optional<platform::RegistryValue> queryRegistry(platform::RegistryRoot root,
+                                                         std::string_view keyPath,
+                                                         std::string_view valueName) override;
+    /// In the order of the names' bytes, so that every start finds the same first language.
+    std::vector<std::string> folderFiles(const std::string& folder) override;
+    std::string joinPath(std::string_view folder, std::string_view name) override;
+    std::string baseName(std::string_view path) override;
+    std::string ownFolder() override;
+    /// With xdg-open where there is a display; parameters and folder serve nothing here.
+    void openDocument(const std::string& document, const std::string& parameters,
+                      const std::string& folder) override;
+    void showHelp(const std::string& helpFile, std::optional<std::int32_t> context) override;
+    const basic::Regional& regional() override { return regional_; }
+    void initCommonControls() override {}
+
+  private:
+    std::filesystem::path installFolder_;
+    basic::Regional regional_;
+    Tell tell_;
+};
+
+}  // namespace shell

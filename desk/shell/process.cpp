@@ -1,0 +1,73 @@
+#include "desk/shell/process.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace shell {
+
+namespace {
+
+std::vector<char*> arguments(const std::vector<std::string>& command) {
+    std::vector<char*> list;
+    list.reserve(command.size() + 1);
+    for (const std::string& word : command) list.push_back(const_cast<char*>(word.c_str()));
+    list.push_back(nullptr);
+    return list;
+}
+
+int waitFor(pid_t child) {
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0) {
+        if (errno != EINTR) return 127;
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 127;
+}
+
+}  // namespace
+
+std::optional<std::string> findProgram(const std::string& name) {
+    const char* path = std::getenv("PATH");
+    std::istringstream folders(path == nullptr ? "" : path);
+    for (std::string folder; std::getline(folders, folder, ':');) {
+        const std::string candidate = folder + "/" + name;
+        if (!folder.empty() && access(candidate.c_str(), X_OK) == 0) return candidate;
+    }
+    return std::nullopt;
+}
+
+int runProgram(const std::vector<std::string>& command) {
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    pid_t child = 0;
+    std::vector<char*> words = arguments(command);
+    const int failed = posix_spawnp(&child, words[0], &actions, nullptr, words.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    return failed != 0 ? 127 : waitFor(child);
+}
+
+bool startProgram(const std::vector<std::string>& command) {
+    // The child's child is taken over by the system's first process, so nobody has to wait for it.
+    std::vector<char*> words = arguments(command);
+    const pid_t child = fork();
+    if (child < 0) return false;
+    if (child > 0) return waitFor(child) == 0;
+    setsid();
+    const int null = open("/dev/null", O_RDWR);
+    for (int descriptor = 0; descriptor < 3; ++descriptor) dup2(null, descriptor);
+    const pid_t grandchild = fork();
+    if (grandchild == 0) {
+        execvp(words[0], words.data());
+        _exit(127);
+    }
+    _exit(grandchild < 0 ? 1 : 0);
+}
+
+}  // namespace shell
