@@ -47,6 +47,23 @@ class Converter {
         return handle_ != reinterpret_cast<iconv_t>(-1);
     }
 
+    /// The character that the bytes are alone, or 0.
+    char16_t character(std::string_view bytes) {
+        if (!isOpen()) return 0;
+        char in[2] = {bytes[0], bytes.size() > 1 ? bytes[1] : '\0'};
+        unsigned char out[8];
+        char* inAt = in;
+        char* outAt = reinterpret_cast<char*>(out);
+        std::size_t inLeft = bytes.size();
+        std::size_t outLeft = sizeof out;
+        iconv(handle_, nullptr, nullptr, nullptr, nullptr);
+        const bool converted = iconv(handle_, &inAt, &inLeft, &outAt, &outLeft) == 0;
+        // Pages with combining accents hold a letter back until they are told that no more comes.
+        iconv(handle_, nullptr, nullptr, &outAt, &outLeft);
+        if (!converted || inLeft != 0 || outLeft != sizeof out - 2) return 0;
+        return static_cast<char16_t>(out[0] | (out[1] << 8));
+    }
+
   private:
     iconv_t handle_;
 };
