@@ -1,12 +1,13 @@
 #include "desk/model/entity.h"
 
 #include "desk/drawing/measure.h"
-#include "desk/dxf/tag_reader.h"
 #include "desk/model/block_reference.h"
 
 #include <cstdio>
 
 namespace model {
+
+using drawing::Measure;
 
 Variant Entity::objectName() const {
     drawing().requireAlive(id_);
@@ -30,10 +31,10 @@ Variant Entity::color() const { return static_cast<std::int32_t>(drawing().commo
 Variant Entity::visible() const { return drawing().common(id_).visible; }
 void Entity::setVisible(const Variant& value) { edit().setVisible(id_, toBoolean(*context_, value)); }
 
-Variant Entity::length() const { return drawing::Length(drawing(), id_); }
-Variant Entity::area() const { return drawing::Area(drawing(), id_); }
-Variant Entity::circumference() const { return drawing::Circumference(drawing(), id_); }
-Variant Entity::perimeter() const { return drawing::Perimeter(drawing(), id_); }
+Variant Entity::length() const { return drawing::measure(drawing(), id_, Measure::Length); }
+Variant Entity::area() const { return drawing::measure(drawing(), id_, Measure::Area); }
+Variant Entity::circumference() const { return drawing::measure(drawing(), id_, Measure::Circumference); }
+Variant Entity::perimeter() const { return drawing::measure(drawing(), id_, Measure::Perimeter); }
 
 Variant Entity::update(Arguments& arguments) {
     requireCount(arguments, 0, 0, "Update");

@@ -22,8 +22,6 @@ Variant argument(const Arguments& arguments, std::size_t at) {
     return at < arguments.size() ? arguments[at] : Variant(basic::Missing{});
 }
 
-/// Group codes of text, by the ranges of the DXF reference; all others that a filter may carry are numbers or
-/// points.
 bool isPoint(const Variant& value) {
     return value.is(Variant::Kind::Doubles) || value.is(Variant::Kind::Array);
 }
@@ -35,12 +33,6 @@ std::vector<EntityId> last(const drawing::Drawing& drawing) {
         return !drawing.isErased(id) && drawing.isDisplayed(id);
     });
     return found == all.rend() ? std::vector<EntityId>{} : std::vector<EntityId>{*found};
-}
-
-std::vector<EntityId> passing(const drawing::Drawing& drawing, std::vector<EntityId> found,
-                              const drawing::Filter& filter) {
-    std::erase_if(found, [&](EntityId id) { return drawing.isErased(id) || !drawing.passes(id, filter); });
-    return found;
 }
 
 }  // namespace
@@ -107,11 +99,11 @@ Variant SelectionSet::select(Arguments& arguments) {
     if (mode == kAll) {
         add(drawing.select(filter));
     } else if (mode == kLast) {
-        add(passing(drawing, last(drawing), filter));
+        add(drawing.select(filter, last(drawing)));
     } else if (mode == kWindow || mode == kCrossing) {
         const drawing::Point3 first = toPoint(*context_, argument(arguments, 1));
         const drawing::Point3 second = toPoint(*context_, argument(arguments, 2));
-        add(passing(drawing, drawing::selectWindow(drawing, first, second, mode == kCrossing), filter));
+        add(drawing.select(filter, drawing::selectWindow(drawing, first, second, mode == kCrossing)));
     } else {
         drawing::raise(drawing::kInvalidInput, "mode");
     }
@@ -123,9 +115,9 @@ Variant SelectionSet::selectOnScreen(Arguments& arguments) {
     requireCount(arguments, 0, 2, "SelectOnScreen");
     const drawing::Filter filter = toFilter(*context_, argument(arguments, 0), argument(arguments, 1));
     const drawing::Drawing& drawing = *context_->drawing;
-    SelectionPick pick = context_->environment->prompter->selectEntities(drawing, "Select objects: ");
+    const SelectionPick pick = context_->environment->prompter->selectEntities(drawing, "Select objects: ");
     if (pick.answer != Answer::Given) raise(kPromptFailed, "SelectOnScreen: broken off by the user");
-    add(passing(drawing, std::move(pick.entities), filter));
+    add(drawing.select(filter, pick.entities));
     return {};
 }
 
