@@ -36,6 +36,8 @@ struct Block {
     std::vector<EntityId> attributeDefinitions;
     bool hasConstantAttributes = false;
 
+    /// The layout's name of group 410; "Model" for model space whatever the file says.
+    std::string_view shownLayoutName() const { return isModelSpace ? "Model" : std::string_view(layoutName); }
     bool isLayout() const { return isModelSpace || isPaperSpace; }
     /// External reference, attached or overlaid, or a block that depends on one.
     bool isXRef() const { return (flags & (4 | 8 | 16)) != 0; }

@@ -1,6 +1,7 @@
 #include "desk/drawing/drawing.h"
 
 #include "desk/drawing/class_names.h"
+#include "desk/drawing/creator.h"
 #include "desk/drawing/opener.h"
 #include "desk/drawing/store.h"
 #include "desk/dxf/file.h"
@@ -18,7 +19,8 @@ dxf::Mode modeOf(Reading reading) {
 
 }  // namespace
 
-Drawing::Drawing(dxf::Source source) : store_(std::make_unique<Store>(std::move(source))) {}
+Drawing::Drawing(dxf::Source source)
+    : store_(std::make_unique<Store>(std::move(source))), creator_(std::make_unique<Creator>(*this)) {}
 Drawing::~Drawing() = default;
 
 std::unique_ptr<Drawing> Drawing::open(const std::string& path, Reading reading) {
@@ -128,11 +130,6 @@ bool Drawing::isOnLockedLayer(EntityId id) const { return layer(id).locked; }
 bool Drawing::isDisplayed(EntityId id) const {
     const Layer& known = layer(id);
     return !known.off && !known.frozen && !store_->record(id).has(kInvisible);
-}
-
-void Drawing::requireEditable(EntityId id) const {
-    requireAlive(id);
-    if (isOnLockedLayer(id)) raise(kLockedLayer, std::string(layerName(id)));
 }
 
 }  // namespace drawing

@@ -22,8 +22,10 @@ class TagReader;
 
 namespace drawing {
 
+class Creator;
 class Store;
-struct Record;
+struct StepLog;
+class TagEdit;
 
 /// How a file's faults are taken: Strict raises on what Lenient repairs or lives with.
 enum class Reading { Strict, Lenient };
@@ -68,10 +70,10 @@ class Drawing {
     /// Writes the drawing: a new file beside the old one, renamed over it. Raises kDiskFull and its like; the
     /// old file then stays as it was.
     void save(const std::string& path);
-    /// The pieces that `save` writes, in order. They live until the next change.
-    std::vector<std::string_view> pieces() const;
+    /// The bytes that `save` writes.
+    std::string savedBytes() const;
     /// Whether something was changed since opening or the last save.
-    bool isModified() const;
+    bool isModified() const { return state_ != savedState_; }
     /// Counts changes; what was derived from the drawing is out of date when it differs.
     std::uint64_t revision() const { return revision_; }
 
@@ -146,7 +148,7 @@ class Drawing {
     void setVisible(EntityId id, bool visible);
     /// The text of an attribute, group 1; of a multi-line one its embedded text too.
     void setAttributeText(EntityId id, std::string_view text);
-    /// Sets the first group of that code behind the subclass marker (empty: before any), adding it where
+    /// Sets the first group of that code behind the subclass marker (empty: anywhere), adding it where
     /// absent.
     void setText(EntityId id, int code, std::string_view subclass, std::string_view value);
     void setNumber(EntityId id, int code, std::string_view subclass, double value);
@@ -173,7 +175,8 @@ class Drawing {
     /// The main entities of all spaces (layouts too, block definitions not) that pass the filter, in drawing
     /// order.
     std::vector<EntityId> select(const Filter& filter) const;
-    bool passes(EntityId id, const Filter& filter) const;
+    /// Those of `among` that are such entities and pass, in the order of `among`.
+    std::vector<EntityId> select(const Filter& filter, const std::vector<EntityId>& among) const;
 
     // Undo. An edit outside a step is a step of its own; steps nest, the outermost counts.
 
@@ -191,15 +194,31 @@ class Drawing {
     friend class Opener;
     friend class Importer;
     explicit Drawing(dxf::Source source);
+    void noteChange() { state_ = ++revision_; }
     /// Raises kObjectErased or kLockedLayer.
     void requireEditable(EntityId id) const;
+    /// Applies an edit inside an open step; bytes that come out the same are no change.
+    void applyEdit(EntityId id, TagEdit& edit);
+    void setReference(EntityId id, const Placement& placement);
+    void moveAttributes(EntityId id, const Placement& from, const Placement& to);
+    /// Brings a record in line with its groups after an edit that may have touched what the record tells.
+    void refreshRecord(EntityId id);
+    void eraseOwned(EntityId id);
+    void eraseObject(EntityId id);
+    /// Group 330 outside of braces, 0 where there is none.
+    Handle ownerHandle(EntityId id) const;
+    EntityId addToModelSpace(EntityId id);
+    void undoRecords(const StepLog& log);
 
     std::string path_;
     std::unique_ptr<Store> store_;
     HeaderVariables header_;
     LayerTable layers_;
     BlockTable blocks_;
+    std::unique_ptr<Creator> creator_;
     std::uint64_t revision_ = 0;
+    std::uint64_t state_ = 0;  ///< names the content: an undone step gives the one of before back
+    std::uint64_t savedState_ = 0;
 };
 
 /// Runs a stretch of edits as one undo step.

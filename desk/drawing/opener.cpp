@@ -179,12 +179,24 @@ void Opener::attach(EntityId id, Record& record) {
                         std::string(kTypeNames[record.type]) + " that belongs to no entity");
         return;
     }
+    if (attachText(id, record)) return;
     endParts();
     if (record.type == kInsert || record.type == kPolyline) {
         main_ = id;
         partsOpen_ = record.type == kPolyline || record.has(kPartsFollow);
     }
     if (record.type == kBlockBegin || record.type == kBlockEnd) enterBlock(id);
+}
+
+bool Opener::attachText(EntityId id, Record& record) {
+    // Before R2018 the text of a multi-line attribute is an MTEXT of its own behind the attribute.
+    const bool follows = partsOpen_ && store_.record(main_).type == kInsert &&
+                         store_.record(id - 1).type == kAttrib && store_.typeName(record.type) == "MTEXT";
+    if (!follows) return false;
+    record.set(kPart);
+    record.owner = main_;
+    ++store_.whileReading(main_).parts;
+    return true;
 }
 
 void Opener::endParts() {

@@ -38,6 +38,7 @@ class Opener {
     void beginObject(const dxf::Tag& tag);
     void endObject();
     void attach(EntityId id, Record& record);
+    bool attachText(EntityId id, Record& record);
     void endParts();
     void enterBlock(EntityId id);
     void endSection();

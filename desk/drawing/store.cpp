@@ -83,7 +83,7 @@ std::uint16_t Store::internType(std::string_view name) {
 
 void Store::startHandles(Handle seed, bool use) {
     usesHandles_ = use;
-    nextHandle_ = std::max({seed, highestHandle_ + 1, Handle{1}});
+    firstHandle_ = nextHandle_ = std::max({seed, highestHandle_ + 1, Handle{1}});
 }
 
 const std::vector<EntityId>& Store::named(NameId name) const {

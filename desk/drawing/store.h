@@ -22,6 +22,7 @@ namespace drawing {
 struct StepLog {
     EntityId firstNew = 0;  ///< records from here on were made in the step
     Handle nextHandle = 0;
+    std::uint64_t state = 0;    ///< the drawing's before the step
     std::size_t additions = 0;  ///< Store::additions before the step
     std::vector<std::pair<EntityId, Record>> records;
     std::vector<std::pair<BlockId, Block>> blocks;  ///< changed ones
@@ -91,11 +92,18 @@ class Store {
     std::uint16_t internType(std::string_view name);
     std::string_view typeName(std::uint16_t type) const { return types_.text(type); }
 
-    /// A handle that no object has; 0 where the drawing has no handles.
-    Handle takeHandle() { return usesHandles_ ? nextHandle_++ : 0; }
+    /// The first of `count` handles in a row that no object has; 0 where the drawing has no handles.
+    Handle takeHandles(std::size_t count) {
+        if (!usesHandles_) return 0;
+        const Handle first = nextHandle_;
+        nextHandle_ += count;
+        return first;
+    }
     void setNextHandle(Handle next) { nextHandle_ = next; }
     bool usesHandles() const { return usesHandles_; }
     Handle nextHandle() const { return nextHandle_; }
+    /// What `nextHandle` was after opening.
+    Handle firstHandle() const { return firstHandle_; }
     /// Handles begin at `seed` or behind the highest one met.
     void startHandles(Handle seed, bool use);
 
@@ -114,10 +122,8 @@ class Store {
     NameTable names;
     HandleIndex handles;
     std::vector<Addition> additions;
-    FileRange seedValue;       ///< the group of $HANDSEED's value; empty where the file has none
-    Handle fileSeed = 0;       ///< its value in the file
-    std::string currentStyle;  ///< groups that new entities get behind their layer: colour, linetype, ...
-    NameId currentLayer = kNoName;
+    FileRange seedValue;  ///< the group of $HANDSEED's value; empty where the file has none
+    Handle fileSeed = 0;  ///< its value in the file
 
   private:
     friend class Drawing;
@@ -130,6 +136,7 @@ class Store {
     std::vector<std::vector<EntityId>> named_;
     std::unordered_map<EntityId, FileRange> originals_;  ///< file ranges of changed records
     Handle nextHandle_ = 1;
+    Handle firstHandle_ = 1;
     Handle highestHandle_ = 0;
     bool usesHandles_ = true;
     std::vector<StepLog> steps_;

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "desk/drawing/drawing.h"
+#include "desk/drawing/store.h"
+
+#include <string>
+#include <vector>
+
+namespace drawing {
+
+/// Writes the attribute references of a block's new references. What doesn't depend on the insertion point is
+/// put together once and serves as long as scale, rotation and extrusion stay the same, as they do in most
+/// drawings.
+class AttributeWriter {
+  public:
+    /// For the attribute definitions of `block` that aren't constant.
+    AttributeWriter(const Drawing& drawing, BlockId block);
+
+    std::size_t count() const { return definitions_.size(); }
+    /// Settles for a placement; its insertion point may differ from call to call.
+    void prepare(const Placement& placement);
+    /// Appends the attribute at `index` for the placement of `prepare`, moved to `insertion` (object
+    /// coordinates).
+    void write(std::size_t index, const Point3& insertion, Handle handle, Handle owner,
+               std::string& bytes) const;
+    // What goes into the record.
+    bool isVisible(std::size_t index) const { return definitions_[index].data.common.visible; }
+    NameId layer(std::size_t index) const { return definitions_[index].layer; }
+    NameId tag(std::size_t index) const { return definitions_[index].tag; }
+
+  private:
+    struct Definition {
+        AttribData data;
+        NameId layer = kNoName;
+        NameId tag = kNoName;
+        std::string style;    ///< groups of the common part: colour, linetype, lineweight, ...
+        int fieldLength = 0;  ///< group 73
+        int locked = -1;  ///< group 280 behind the flags, the position lock; -1 where the definition has none
+    };
+    /// A definition under the prepared placement, for an insertion at the origin.
+    struct Prepared {
+        Point3 position;
+        Point3 alignment;
+        Vector3 extrusion;
+        bool hasAlignment = false;
+        std::string head;  ///< between owner and position
+        std::string text;  ///< between position and alignment point
+        std::string tail;
+    };
+
+    Definition read(const Drawing& drawing, EntityId id) const;
+    Prepared prepare(const Definition& definition, const Placement& placement) const;
+
+    const Store& store_;
+    Point3 basePoint_;
+    std::vector<Definition> definitions_;
+    std::vector<Prepared> prepared_;
+    Placement placement_;
+    bool isPrepared_ = false;
+};
+
+}  // namespace drawing

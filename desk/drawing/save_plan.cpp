@@ -1,0 +1,128 @@
+#include "desk/drawing/save_plan.h"
+
+#include "desk/dxf/file.h"
+#include "desk/dxf/tag_writer.h"
+
+#include <algorithm>
+
+namespace drawing {
+
+SavePlan::SavePlan(const Drawing& drawing) : drawing_(drawing), store_(drawing.store()) {
+    patchSeed();
+    patchRecords();
+    addOthers();
+    addEntities();
+    std::stable_sort(patches_.begin(), patches_.end(),
+                     [](const Patch& left, const Patch& right) { return left.begin < right.begin; });
+    joinPieces();
+}
+
+void SavePlan::patchSeed() {
+    const FileRange& value = store_.seedValue;
+    if (value.begin == value.end || store_.nextHandle() == store_.firstHandle()) return;
+    dxf::TagWriter(store_.format(), own()).handle(5, store_.nextHandle());
+    patches_.push_back({value.begin, value.end, owned_.back()});
+}
+
+void SavePlan::patchRecords() {
+    bool anyErased = false;
+    for (EntityId id = 0; id < store_.fileCount(); ++id) {
+        const Record& record = store_.record(id);
+        const bool erased = store_.isErased(id);
+        anyErased = anyErased || erased;
+        if (!erased && !record.has(kChanged)) continue;
+        const FileRange range = store_.fileRange(id);
+        patches_.push_back({range.begin, range.end, erased ? std::string_view() : record.view()});
+    }
+    if (!anyErased) return;
+    for (EntityId id = 0; id < store_.fileCount(); ++id) {
+        if (store_.record(id).type == kGroup && !store_.isErased(id)) patchGroup(id);
+    }
+}
+
+void SavePlan::patchGroup(EntityId id) {
+    // The host drops a deleted entity from its groups; other programs take a handle of nothing for damage.
+    constexpr int kMember = 340;
+    std::string kept;
+    bool lost = false;
+    const std::string_view bytes = store_.record(id).view();
+    dxf::TagReader reader = store_.reader(id);
+    for (dxf::Tag tag; reader.next(tag);) {
+        const EntityId member = tag.code == kMember ? store_.handles.find(tag.handle()) : kNoEntity;
+        if (member != kNoEntity && store_.isErased(member)) {
+            lost = true;
+        } else {
+            kept += bytes.substr(tag.begin, tag.end - tag.begin);
+        }
+    }
+    if (!lost) return;
+    const FileRange range = store_.fileRange(id);
+    own() = std::move(kept);
+    patches_.push_back({range.begin, range.end, owned_.back()});
+}
+
+void SavePlan::addRecord(std::size_t offset, EntityId id) {
+    for (EntityId each = id; each <= id + store_.record(id).parts; ++each) {
+        if (!store_.isErased(each)) insert(offset, store_.record(each).view());
+    }
+}
+
+void SavePlan::addOthers() {
+    for (const Addition& addition : store_.additions) addRecord(addition.offset, addition.id);
+}
+
+void SavePlan::addEntities() {
+    const std::vector<EntityId>& entities = drawing_.blocks()[drawing_.modelSpace()].entities;
+    const auto first = std::lower_bound(entities.begin(), entities.end(), store_.fileCount());
+    if (first == entities.end()) return;
+    const dxf::Section* section = store_.outline.find(dxf::SectionKind::Entities);
+    const dxf::Section* objects = store_.outline.find(dxf::SectionKind::Objects);
+    const std::size_t offset = section != nullptr   ? section->bodyEnd
+                               : objects != nullptr ? objects->begin
+                                                    : store_.outline.eof;
+    const std::string_view file = store_.source().bytes();
+    const bool lineIsOpen = !store_.format().binary && offset > 0 && file[offset - 1] != '\n';
+    if (lineIsOpen) insert(offset, store_.format().newline());
+    if (section == nullptr) {
+        dxf::TagWriter opening(store_.format(), own());
+        opening.plain(0, "SECTION");
+        opening.plain(2, "ENTITIES");
+        insert(offset, owned_.back());
+    }
+    for (auto id = first; id != entities.end(); ++id) addRecord(offset, *id);
+    if (section == nullptr) {
+        dxf::TagWriter(store_.format(), own()).plain(0, "ENDSEC");
+        insert(offset, owned_.back());
+    }
+}
+
+void SavePlan::joinPieces() {
+    const std::string_view file = store_.source().bytes();
+    std::size_t position = 0;
+    const auto copyUpTo = [&](std::size_t end) {
+        if (end > position) pieces_.push_back(file.substr(position, end - position));
+        position = std::max(position, end);
+    };
+    for (const Patch& patch : patches_) {
+        copyUpTo(patch.begin);
+        if (!patch.bytes.empty()) pieces_.push_back(patch.bytes);
+        position = std::max(position, patch.end);
+    }
+    copyUpTo(file.size());
+}
+
+void Drawing::save(const std::string& path) {
+    const SavePlan plan(*this);
+    dxf::saveAtomically(path, plan.pieces());
+    path_ = path;
+    savedState_ = state_;
+}
+
+std::string Drawing::savedBytes() const {
+    std::string bytes;
+    const SavePlan plan(*this);
+    for (std::string_view piece : plan.pieces()) bytes += piece;
+    return bytes;
+}
+
+}  // namespace drawing

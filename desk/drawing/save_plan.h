@@ -1,0 +1,46 @@
+#pragma once
+
+#include "desk/drawing/drawing.h"
+#include "desk/drawing/store.h"
+
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace drawing {
+
+/// What a drawing's file is made of: ranges of the old file where nothing changed, between them the new
+/// bytes.
+class SavePlan {
+  public:
+    explicit SavePlan(const Drawing& drawing);
+    /// Valid until the drawing changes and as long as the plan lives.
+    const std::vector<std::string_view>& pieces() const { return pieces_; }
+
+  private:
+    /// Bytes that stand in the place of a range of the old file.
+    struct Patch {
+        std::size_t begin;
+        std::size_t end;
+        std::string_view bytes;
+    };
+
+    void patchSeed();
+    void patchRecords();
+    void patchGroup(EntityId id);
+    void addEntities();
+    void addOthers();
+    void addRecord(std::size_t offset, EntityId id);
+    void insert(std::size_t offset, std::string_view bytes) { patches_.push_back({offset, offset, bytes}); }
+    void joinPieces();
+    std::string& own() { return owned_.emplace_back(); }
+
+    const Drawing& drawing_;
+    const Store& store_;
+    std::vector<Patch> patches_;
+    std::deque<std::string> owned_;
+    std::vector<std::string_view> pieces_;
+};
+
+}  // namespace drawing
