@@ -56,10 +56,11 @@ struct FakeDrawing : DrawingState {
     template <typename Answer>
     static Answer nextAnswer(std::deque<std::optional<Answer>>& answers) {
         if (answers.empty()) throw std::logic_error("the host asked for a pick that the test doesn't give");
-        std::optional<Answer> answer = std::move(answers.front());
+        const bool brokenOff = !answers.front().has_value();
+        Answer answer = brokenOff ? Answer() : std::move(*answers.front());
         answers.pop_front();
-        if (!answer) throw escapeError();
-        return std::move(*answer);
+        if (brokenOff) throw escapeError();
+        return answer;
     }
 };
 using FakeDrawingPtr = std::shared_ptr<FakeDrawing>;
