@@ -1,5 +1,6 @@
 #include "entry/commands.h"
 
+#include "extract/extract_command.h"
 #include "forms/form.h"
 #include "replace/replace_command.h"
 
@@ -23,6 +24,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"1", "fmReplace", replace::RunReplaceCommand},
     {"2", "fmExtract", showExtract},
+    {"3", "fmReInsert", extract::StartReInsert},
     {"4", "fmHelpHidden", StartHelp},
     {"5", "fmAbout", StartAbout},
 };

@@ -1,6 +1,7 @@
 #include "entry/component.h"
 
 #include "entry/fm_owner.h"
+#include "extract/extract_command.h"
 #include "replace/replace_command.h"
 
 #include <optional>
@@ -11,6 +12,7 @@ Component::Component(platform::Platform& platform, forms::Screen& screen)
     : session_(std::make_shared<session::Session>(platform, screen)) {
     session_->registerForm("fmOwner", [](session::Session& s) { return std::make_unique<fmOwner>(s); });
     replace::registerForms(*session_);
+    extract::registerForms(*session_);
 }
 
 std::shared_ptr<VnObj0100> Component::createVnObj0100() { return std::make_shared<VnObj0100>(session_); }
