@@ -54,7 +54,7 @@ Value copyOf(const SafeArray& array, int depth = 0) {
 /// An element of an array of variants: a variant itself, an array within too.
 Value elementFrom(Interpreter& lisp, const Variant& element) {
     if (element.is(Variant::Kind::Int16)) return wrap(kVtInteger, Value(std::int32_t{element.integer()}));
-    const Value value = fromHost(lisp, element, Shape::Bridged);
+    Value value = fromHost(lisp, element, Shape::Bridged);
     if (value.cons() || value.symbol() || value.subr() || value.usubr())
         return value;  // back from automation
     return value.variant() ? value : makeVariant(value);

@@ -68,7 +68,7 @@ Value Interpreter::evaluate(const Value& form) {
     guard_->check();
 
     // A form can change the symbol that holds it: the function and the form are kept while the call runs.
-    const Value kept = form;
+    const Value kept = form;  // NOLINT(performance-unnecessary-copy-initialization)
     const Value function = functionOf(cell->first);
     if (const Subr* subr = function.subr(); subr != nullptr && subr->form != nullptr) {
         return subr->form(*this, cell->rest);
@@ -84,7 +84,7 @@ Value Interpreter::evaluate(const Value& form) {
 }
 
 Value Interpreter::evaluateAll(const Value& forms) {
-    const Value kept = forms;
+    const Value kept = forms;  // NOLINT(performance-unnecessary-copy-initialization): as above
     const Value* rest = &kept;
     Value value;
     while (const Cons* cell = rest->cons()) {

@@ -37,7 +37,7 @@ Value assoc(Call& call) {
 /// (subst new old list): on the list's own level only.
 Value subst(Call& call) {
     ListBuilder items;
-    for (Value& item : call.list(2)) items.add(isEqual(item, call[1]) ? call[0] : std::move(item));
+    for (const Value& item : call.list(2)) items.add(isEqual(item, call[1]) ? call[0] : item);
     return items.take();
 }
 

@@ -38,7 +38,7 @@ Value invokeMethod(Call& call, std::string_view member, std::size_t from, Shape 
     }
     call.object(0);
     const host::ObjectPtr object = call[0].object()->object;  // kept, since the method may release it
-    const Value result = fromHost(call.lisp, object->call(member, arguments), shape);
+    Value result = fromHost(call.lisp, object->call(member, arguments), shape);
     for (std::size_t i = from; i < call.size(); ++i) {
         if (!isOutArgument(call[i])) continue;
         call.lisp.assign(*call[i].symbol(), fromHost(call.lisp, arguments[i - from], shape));

@@ -134,7 +134,7 @@ TEST_F(Host, OutArgumentsReachQuotedSymbols) {
 }
 
 TEST_F(Host, CollectionsAreWalked) {
-    document->elements = {Variant("a"), Variant(document), Variant(3)};
+    document->elements = {Variant("a"), Variant(std::make_shared<FakeObject>()), Variant(3)};
     EXPECT_EQ(show("(setq l nil x 'kept) (vlax-for x doc (setq l (cons x l))) (list l x)"),
               "((3 #<VLA-OBJECT> \"a\") KEPT)");
     EXPECT_EQ(show("(vlax-for x 5 x)"), "error: bad argument type: VLA-OBJECT: 5");
