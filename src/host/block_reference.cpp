@@ -32,6 +32,4 @@ bool BlockReference::hasAttributes() const { return toBoolean(get("hasAttributes
 
 Attributes BlockReference::GetAttributes() const { return Attributes(invoke("GetAttributes")); }
 
-void BlockReference::Update() const { invoke("Update"); }
-
 }  // namespace host

@@ -31,9 +31,6 @@ class BlockReference : public Entity {
     /// Written with a small h, as it is addressed.
     bool hasAttributes() const;
     Attributes GetAttributes() const;
-
-    /// Redraws the reference; due after texts of its attributes changed.
-    void Update() const;
 };
 
 }  // namespace host

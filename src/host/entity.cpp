@@ -16,6 +16,8 @@ double Entity::Circumference() const { return get("Circumference").number(); }
 
 double Entity::Area() const { return get("Area").number(); }
 
+void Entity::Update() const { invoke("Update"); }
+
 void Entity::Delete() const { invoke("Delete"); }
 
 }  // namespace host

@@ -25,6 +25,8 @@ class Entity : public ObjectView {
     double Circumference() const;
     double Area() const;
 
+    /// Redraws the entity; due on a block reference after texts of its attributes changed.
+    void Update() const;
     /// Removes the entity from the drawing; the view goes on looking at the erased object.
     void Delete() const;
 };
