@@ -6,6 +6,7 @@
 #include "desk/drawing/geometry_polyline.h"
 #include "desk/drawing/geometry_tags.h"
 #include "desk/drawing/geometry_text.h"
+#include "desk/drawing/store.h"
 
 #include <string>
 #include <string_view>
@@ -133,6 +134,14 @@ Geometry readGeometry(const Drawing& drawing, EntityId id) {
     return geometry;
 }
 
+Box readTextBounds(const Drawing& drawing, EntityId id) {
+    Box bounds;
+    if (const TextBox box = readTextBox(drawing.tags(id))) {
+        for (const Point3& corner : *box) bounds.add(corner);
+    }
+    return bounds;
+}
+
 Geometry readConstantText(const Drawing& drawing, EntityId id) {
     Geometry geometry;
     addText(readTextBox(drawing.tags(id), false), geometry);
@@ -154,8 +163,8 @@ std::optional<Placed> readPlaced(const Drawing& drawing, EntityId id) {
     const std::string_view type = drawing.type(id);
     Placed placed;
     if (type == "INSERT") {
-        const InsertData insert = drawing.insert(id);
-        placed = {insert.block, insert.placement};
+        placed.block = drawing.blocks().ofName(drawing.store().record(id).name);
+        placed.placement = drawing.placement(id);
     } else if (type == "DIMENSION" || type == "ACAD_TABLE") {
         placed = readShownBlock(drawing, id, type == "ACAD_TABLE");
     }

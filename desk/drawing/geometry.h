@@ -33,6 +33,9 @@ struct Geometry {
 /// ATTRIB, ATTDEF, HATCH, LEADER. Of texts the box about them counts as filled. Empty for other types.
 Geometry readGeometry(const Drawing& drawing, EntityId id);
 
+/// The box of what `readGeometry` gives for a TEXT, an ATTRIB or an ATTDEF, found at less cost.
+Box readTextBounds(const Drawing& drawing, EntityId id);
+
 /// A constant attribute definition as the references of its block show it.
 Geometry readConstantText(const Drawing& drawing, EntityId id);
 

@@ -61,8 +61,8 @@ ArcCurve readArc(dxf::TagReader tags, bool isCircle) {
     forEachTag(tags, [&](const dxf::Tag& tag) {
         if (takePoint(tag, 10, center) || takePoint(tag, 210, extrusion)) return;
         if (tag.code == 40) radius = tag.numberOr(0);
-        if (tag.code == 50 && !isCircle) start = radians(tag.numberOr(0));
-        if (tag.code == 51 && !isCircle) end = radians(tag.numberOr(0));
+        if (tag.code == 50 && !isCircle) start = radiansOf(tag.numberOr(0));
+        if (tag.code == 51 && !isCircle) end = radiansOf(tag.numberOr(0));
     });
     return circularArc(center, radius, start, end, objectToWorld(extrusion));
 }

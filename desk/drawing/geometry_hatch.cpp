@@ -79,8 +79,8 @@ ArcCurve readArcEdge(Cursor& cursor) {
     const double radius = cursor.take(40);
     arc.cosine = {radius, 0, 0};
     arc.sine = {0, radius, 0};
-    const double start = radians(cursor.take(50));
-    const double end = radians(cursor.take(51, 360));
+    const double start = radiansOf(cursor.take(50));
+    const double end = radiansOf(cursor.take(51, 360));
     setSweep(arc, start, end, cursor.takeInteger(73, 1) != 0);
     return arc;
 }
@@ -97,8 +97,8 @@ ArcCurve readEllipseEdge(Cursor& cursor) {
     arc.cosine = cursor.takePoint(11);
     const double ratio = cursor.take(40, 1);
     arc.sine = Vector3{-arc.cosine.y, arc.cosine.x, 0} * ratio;
-    const double start = radians(cursor.take(50));
-    const double end = radians(cursor.take(51, 360));
+    const double start = radiansOf(cursor.take(50));
+    const double end = radiansOf(cursor.take(51, 360));
     const double safeRatio = ratio > 0 ? ratio : 1;
     setSweep(arc, parameterAt(start, safeRatio), parameterAt(end, safeRatio), cursor.takeInteger(73, 1) != 0);
     return arc;

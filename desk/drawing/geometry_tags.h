@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/drawing/angles.h"
 #include "desk/drawing/vector.h"
 #include "desk/dxf/tag_reader.h"
 
@@ -27,7 +28,5 @@ inline bool takePoint(const dxf::Tag& tag, int code, Point3& point) {
     }
     return true;
 }
-
-inline double radians(double degrees) { return degrees * (kPi / 180); }
 
 }  // namespace drawing

@@ -32,19 +32,19 @@ struct LineText {
     int horizontal = 0;
     int vertical = 0;
     bool isDefinition = false;
+    bool isPlain = true;     ///< TEXT, not an attribute
+    bool invisible = false;  ///< of an attribute: group 70, bit 1
 };
 
 LineText readLineText(dxf::TagReader tags) {
     LineText text;
-    int verticalCode = 73;
     forEachTag(tags, [&](const dxf::Tag& tag) {
         text.hasAlignment = text.hasAlignment || tag.code == 11;
         if (takePoint(tag, 10, text.position) || takePoint(tag, 11, text.alignment)) return;
         if (takePoint(tag, 210, text.extrusion)) return;
         switch (tag.code) {
             case 0:
-                // Attributes have their vertical justification in another group than plain texts.
-                verticalCode = tag.raw == "TEXT" ? 73 : 74;
+                text.isPlain = tag.raw == "TEXT";
                 text.isDefinition = tag.raw == "ATTDEF";
                 break;
             case 1:
@@ -60,10 +60,13 @@ LineText readLineText(dxf::TagReader tags) {
                 text.widthFactor = tag.numberOr(1);
                 break;
             case 50:
-                text.rotation = radians(tag.numberOr(0));
+                text.rotation = radiansOf(tag.numberOr(0));
                 break;
             case 51:
-                text.oblique = radians(tag.numberOr(0));
+                text.oblique = radiansOf(tag.numberOr(0));
+                break;
+            case 70:
+                text.invisible = !text.isPlain && (tag.integerOr(0) & 1) != 0;
                 break;
             case 71:
                 text.generation = static_cast<int>(tag.integerOr(0));
@@ -71,8 +74,13 @@ LineText readLineText(dxf::TagReader tags) {
             case 72:
                 text.horizontal = static_cast<int>(tag.integerOr(0));
                 break;
+            case 73:  // of an attribute the length of its field
+                if (text.isPlain) text.vertical = static_cast<int>(tag.integerOr(0));
+                break;
+            case 74:
+                text.vertical = static_cast<int>(tag.integerOr(0));
+                break;
             default:
-                if (tag.code == verticalCode) text.vertical = static_cast<int>(tag.integerOr(0));
                 break;
         }
     });
@@ -159,7 +167,7 @@ MultiText readMultiText(dxf::TagReader tags) {
                 text.spacing = tag.numberOr(1);
                 break;
             case 50:
-                text.rotation = radians(tag.numberOr(0));
+                text.rotation = radiansOf(tag.numberOr(0));
                 break;
             case 71:
                 text.attachment = static_cast<int>(tag.integerOr(1));
@@ -260,6 +268,7 @@ std::string plainMText(std::string_view content) {
 TextBox readTextBox(dxf::TagReader tags, bool showsTag) {
     const LineText text = readLineText(tags);
     const std::string& shown = text.isDefinition && showsTag ? text.tag : text.text;
+    if (text.invisible && !(text.isDefinition && showsTag)) return std::nullopt;
     if (basic::trim(shown).empty() || !(text.height > 0)) return std::nullopt;
     double height = text.height;
     double width = textWidth(shown, height) * std::abs(text.widthFactor);

@@ -10,6 +10,25 @@ namespace drawing {
 
 namespace {
 
+/// The attributes of a reference that are drawn.
+template <typename Visit>
+void forEachAttribute(const Drawing& drawing, EntityId id, const Visit& visit) {
+    if (drawing.type(id) != "INSERT") return;
+    for (const EntityId attribute : drawing.attributes(id)) {
+        if (drawing.isDisplayed(attribute)) visit(attribute);
+    }
+}
+
+/// The box about all that an entity of the space draws.
+Box boundsOf(BlockShapes& shapes, EntityId id) {
+    const Drawing& drawing = shapes.drawing();
+    const std::optional<Placed> placed = readPlaced(drawing, id);
+    Box bounds = placed ? placedBounds(shapes, *placed) : readGeometry(drawing, id).bounds();
+    forEachAttribute(drawing, id,
+                     [&](EntityId attribute) { bounds.add(readTextBounds(drawing, attribute)); });
+    return bounds;
+}
+
 /// One entity of the space with all that it draws.
 class Candidate {
   public:
@@ -17,17 +36,12 @@ class Candidate {
         const Drawing& drawing = shapes.drawing();
         placed_ = readPlaced(drawing, id);
         showsZero_ = !drawing.layer(id).off;
-        if (!placed_ || showsZero_) own_ = readGeometry(drawing, id);
-        for (const EntityId attribute : drawing.attributes(id)) {
-            if (!isAttributeShown(drawing, attribute)) continue;
+        if (!placed_) own_ = readGeometry(drawing, id);
+        forEachAttribute(drawing, id, [&](EntityId attribute) {
             Geometry text = readGeometry(drawing, attribute);
             std::move(text.fills.begin(), text.fills.end(), std::back_inserter(own_.fills));
-        }
-        bounds_ = own_.bounds();
-        if (placed_) bounds_.add(placedBounds(shapes, *placed_));
+        });
     }
-
-    const Box& bounds() const { return bounds_; }
 
     /// Visits all geometries that may meet the area until `visit` returns false.
     template <typename Visit>
@@ -41,10 +55,12 @@ class Candidate {
     Geometry own_;
     std::optional<Placed> placed_;
     bool showsZero_ = true;
-    Box bounds_;
 };
 
-Rectangle around(const Box& box) { return {box.low, box.high}; }
+bool overlap(const Box& box, const Rectangle& area) {
+    return box.low.x <= area.high.x && box.high.x >= area.low.x && box.low.y <= area.high.y &&
+           box.high.y >= area.low.y;
+}
 
 bool reachesInto(Candidate& candidate, const Rectangle& area) {
     bool found = false;
@@ -55,11 +71,12 @@ bool reachesInto(Candidate& candidate, const Rectangle& area) {
     return found;
 }
 
-bool liesWithin(Candidate& candidate, const Rectangle& area) {
-    if (area.contains(candidate.bounds().low) && area.contains(candidate.bounds().high)) return true;
+bool liesWithin(Candidate& candidate, const Box& bounds, const Rectangle& area) {
+    if (area.contains(bounds.low) && area.contains(bounds.high)) return true;
     bool any = false;
     bool inside = true;
-    candidate.walk(around(candidate.bounds()), ShapeWalk::Copies::Corners,
+    const Rectangle whole(bounds.low, bounds.high);
+    candidate.walk(whole, ShapeWalk::Copies::Corners,
                    [&](const Geometry& geometry, const Transform& transform) {
                        any = true;
                        inside = liesInside(geometry, transform, area);
@@ -73,31 +90,35 @@ bool liesWithin(Candidate& candidate, const Rectangle& area) {
 bool mayDraw(const Drawing& drawing, EntityId id) {
     if (drawing.isDisplayed(id)) return true;
     const Layer& layer = drawing.layer(id);
-    return layer.off && !layer.frozen && drawing.type(id) == "INSERT" && drawing.common(id).visible;
+    return layer.off && !layer.frozen && drawing.type(id) == "INSERT" && !isInvisible(drawing, id);
 }
 
 Picker::Picker(const Drawing& drawing) : drawing_(drawing) {}
 Picker::~Picker() = default;
 
-BlockShapes& Picker::shapes() {
-    if (!shapes_ || revision_ != drawing_.revision()) {
-        shapes_ = std::make_unique<BlockShapes>(drawing_);
-        revision_ = drawing_.revision();
-    }
-    return *shapes_;
+void Picker::refresh() {
+    if (shapes_ && revision_ == drawing_.revision()) return;
+    shapes_ = std::make_unique<BlockShapes>(drawing_);
+    entries_.clear();
+    drawing_.forEachEntity(drawing_.modelSpace(), [&](EntityId id) {
+        if (!mayDraw(drawing_, id)) return true;
+        const Box bounds = boundsOf(*shapes_, id);
+        if (!bounds.empty()) entries_.push_back({id, bounds});
+        return true;
+    });
+    revision_ = drawing_.revision();
 }
 
 std::optional<EntityId> Picker::at(const Point3& point, double tolerance) {
+    refresh();
     const Vector3 reach{tolerance, tolerance, 0};
     const Rectangle area(point - reach, point + reach);
     std::optional<EntityId> found;
     double best = tolerance;
-    BlockShapes& blocks = shapes();
-    drawing_.forEachEntity(drawing_.modelSpace(), [&](EntityId id) {
-        if (!mayDraw(drawing_, id)) return true;
-        Candidate candidate(blocks, id);
-        if (candidate.bounds().empty() || candidate.bounds().distanceXY(point) > best) return true;
+    for (const Entry& entry : entries_) {
+        if (entry.bounds.distanceXY(point) > best) continue;
         double nearest = Box::kFar;
+        Candidate candidate(*shapes_, entry.id);
         candidate.walk(area, ShapeWalk::Copies::Near,
                        [&](const Geometry& geometry, const Transform& transform) {
                            const Hit hit = hitTest(geometry, transform, point);
@@ -107,27 +128,23 @@ std::optional<EntityId> Picker::at(const Point3& point, double tolerance) {
                        });
         if (nearest <= best) {
             best = nearest;
-            found = id;
+            found = entry.id;
         }
-        return true;
-    });
+    }
     return found;
 }
 
 std::vector<EntityId> Picker::window(const Point3& corner, const Point3& opposite, bool crossing) {
+    refresh();
     const Rectangle area(corner, opposite);
     std::vector<EntityId> result;
-    BlockShapes& blocks = shapes();
-    drawing_.forEachEntity(drawing_.modelSpace(), [&](EntityId id) {
-        if (!mayDraw(drawing_, id)) return true;
-        Candidate candidate(blocks, id);
-        const Box& box = candidate.bounds();
-        const bool apart = box.empty() || box.low.x > area.high.x || box.high.x < area.low.x ||
-                           box.low.y > area.high.y || box.high.y < area.low.y;
-        if (apart) return true;
-        if (crossing ? reachesInto(candidate, area) : liesWithin(candidate, area)) result.push_back(id);
-        return true;
-    });
+    for (const Entry& entry : entries_) {
+        if (!overlap(entry.bounds, area)) continue;
+        Candidate candidate(*shapes_, entry.id);
+        const bool chosen =
+            crossing ? reachesInto(candidate, area) : liesWithin(candidate, entry.bounds, area);
+        if (chosen) result.push_back(entry.id);
+    }
     return result;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/drawing/curve.h"
 #include "desk/drawing/ids.h"
 #include "desk/drawing/vector.h"
 
@@ -15,7 +16,8 @@ class Drawing;
 
 /// Finds entities of model space by where they are, as seen from above. Only what is drawn can be picked:
 /// invisible entities and those on layers off or frozen can't, those on locked layers can. A reference is
-/// found by all that its block draws, nested blocks and arrays included, and by its attributes.
+/// found by all that its block draws, nested blocks and arrays included, and by its attributes. The first
+/// look after a change of the drawing goes through all entities, the next ones only through their boxes.
 class Picker {
   public:
     explicit Picker(const Drawing& drawing);
@@ -33,11 +35,17 @@ class Picker {
     std::vector<EntityId> window(const Point3& corner, const Point3& opposite, bool crossing);
 
   private:
-    BlockShapes& shapes();
+    /// An entity that draws something, and the box about it.
+    struct Entry {
+        EntityId id = kNoEntity;
+        Box bounds;
+    };
+    void refresh();
 
     const Drawing& drawing_;
     std::unique_ptr<BlockShapes> shapes_;
-    std::uint64_t revision_ = 0;  ///< of the drawing when the shapes were made
+    std::vector<Entry> entries_;  ///< in drawing order
+    std::uint64_t revision_ = 0;  ///< of the drawing when these were made
 };
 
 /// One pick.

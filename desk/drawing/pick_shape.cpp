@@ -1,5 +1,7 @@
 #include "desk/drawing/pick_shape.h"
 
+#include "desk/drawing/store.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -9,9 +11,6 @@ namespace {
 
 /// Beyond this no drafter nests blocks; it keeps a damaged drawing from exhausting the stack.
 constexpr int kDeepestNesting = 100;
-
-/// Group 70 of ATTRIB and ATTDEF.
-constexpr int kInvisibleAttribute = 1;
 
 }  // namespace
 
@@ -48,17 +47,16 @@ void BlockShapes::addEntity(BlockShape& shape, EntityId id) {
     item.placed = readPlaced(drawing_, id);
     // What is on layer 0 follows the layer of the reference instead.
     if (!item.onLayerZero && (layer.frozen || (layer.off && !item.placed))) return;
-    if (!drawing_.common(id).visible) return;
+    if (isInvisible(drawing_, id)) return;
     item.hidesZero = !item.onLayerZero && layer.off;
     if (drawing_.type(id) == "ATTDEF") {
-        const AttribData definition = drawing_.attribute(id);
-        if (!definition.isConstant() || (definition.flags & kInvisibleAttribute) != 0) return;
+        if (!drawing_.attribute(id).isConstant()) return;
         item.geometry = readConstantText(drawing_, id);
     } else {
         item.geometry = readGeometry(drawing_, id);
     }
     for (const EntityId attribute : drawing_.attributes(id)) {
-        if (!isAttributeShown(drawing_, attribute)) continue;
+        if (!drawing_.isDisplayed(attribute)) continue;
         Geometry text = readGeometry(drawing_, attribute);
         std::move(text.fills.begin(), text.fills.end(), std::back_inserter(item.geometry.fills));
     }
@@ -69,9 +67,7 @@ void BlockShapes::addEntity(BlockShape& shape, EntityId id) {
     shape.items.push_back(std::move(item));
 }
 
-bool isAttributeShown(const Drawing& drawing, EntityId id) {
-    return drawing.isDisplayed(id) && (drawing.attribute(id).flags & kInvisibleAttribute) == 0;
-}
+bool isInvisible(const Drawing& drawing, EntityId id) { return drawing.store().record(id).has(kInvisible); }
 
 Box placedBounds(BlockShapes& shapes, const Placed& placed) {
     const Box& own = shapes.of(placed.block).bounds;

@@ -45,8 +45,8 @@ class BlockShapes {
     int depth_ = 0;
 };
 
-/// Whether an attribute reference is drawn: its layer shown, itself not invisible.
-bool isAttributeShown(const Drawing& drawing, EntityId id);
+/// Whether group 60 hides the entity.
+bool isInvisible(const Drawing& drawing, EntityId id);
 
 /// The box about all copies of a placed block, in the coordinates of where it is placed.
 Box placedBounds(BlockShapes& shapes, const Placed& placed);

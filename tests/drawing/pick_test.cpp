@@ -1,0 +1,198 @@
+#include "desk/drawing/pick.h"
+
+#include "desk/drawing/pick_shape.h"
+#include "desk/drawing/pick_walk.h"
+#include "plain_drawing.h"
+
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+
+namespace drawing {
+namespace {
+
+/// Index in model space of what a pick finds, -1 for nothing.
+int picked(const Drawing& drawing, double x, double y, double tolerance = 0.1) {
+    const auto found = pickEntity(drawing, {x, y, 0}, tolerance);
+    if (!found) return -1;
+    const auto all = modelEntities(drawing);
+    return static_cast<int>(std::find(all.begin(), all.end(), *found) - all.begin());
+}
+
+/// Indices that a window (`crossing` or not) finds.
+std::vector<int> windowed(const Drawing& drawing, const Point3& a, const Point3& b, bool crossing) {
+    const auto all = modelEntities(drawing);
+    std::vector<int> result;
+    for (EntityId id : selectWindow(drawing, a, b, crossing)) {
+        result.push_back(static_cast<int>(std::find(all.begin(), all.end(), id) - all.begin()));
+    }
+    return result;
+}
+
+TEST(PickTest, NearestWithinTheTolerance) {
+    const auto drawing = PlainDrawing()
+                             .entity("LINE 8 0 10 0 20 0 11 10 21 0")
+                             .entity("LINE 8 0 10 0 20 0.15 11 10 21 0.15")
+                             .entity("CIRCLE 8 LOCKED 10 50 20 0 40 5")
+                             .entity("POINT 8 0 10 50 20 0 30 9")
+                             .entity("LWPOLYLINE 8 0 90 2 70 0 43 4 10 0 20 20 10 10 20 20")
+                             .make();
+    EXPECT_EQ(picked(*drawing, 5, 0.05), 0);
+    EXPECT_EQ(picked(*drawing, 5, 0.12), 1);
+    EXPECT_EQ(picked(*drawing, 5, -0.11), -1);
+    EXPECT_EQ(picked(*drawing, 50, 4.95), 2);
+    EXPECT_EQ(picked(*drawing, 50, 0.05), 3);
+    EXPECT_EQ(picked(*drawing, 50, 2), -1);
+    // On the band of a wide polyline, 2 to either side.
+    EXPECT_EQ(picked(*drawing, 5, 21.9), 4);
+    EXPECT_EQ(picked(*drawing, 5, 22.2), -1);
+}
+
+TEST(PickTest, FillsAndTextsAreFoundInsideBehindStrokes) {
+    const auto drawing =
+        PlainDrawing()
+            .entity("LINE 8 0 10 -5 20 1 11 15 21 1")
+            .entity("SOLID 8 0 10 0 20 0 11 10 21 0 12 0 22 10 13 10 23 10")
+            .entity("TEXT 8 0 10 20 20 0 40 2 1 Salon 50 90")
+            .entity("TEXT 8 0 10 0 20 0 11 40 21 5 40 2 1 Salon 72 1 73 2")
+            .entity(
+                "HATCH 8 0 10 0 20 0 30 0 2 SOLID 70 1 71 0 91 2 92 3 72 0 73 1 93 4 10 50 20 0 10 60 20 0"
+                " 10 60 20 10 10 50 20 10 97 0 92 2 72 1 73 1 93 2 10 54 20 5 42 1 10 56 20 5 42 1 97 0 75 0")
+            .make();
+    EXPECT_EQ(picked(*drawing, 5, 5), 1);
+    // Drawn as an hourglass it wouldn't cover this place.
+    EXPECT_EQ(picked(*drawing, 9, 5), 1);
+    EXPECT_EQ(picked(*drawing, 5, 1.02), 0);
+    EXPECT_EQ(picked(*drawing, 19, 3), 2);
+    EXPECT_EQ(picked(*drawing, 22, 1), -1);
+    EXPECT_EQ(picked(*drawing, 39, 5), 3);
+    EXPECT_EQ(picked(*drawing, 52, 5), 4);
+    EXPECT_EQ(picked(*drawing, 55, 5), -1);
+}
+
+TEST(PickTest, OnlyWhatIsShown) {
+    PlainDrawing plain;
+    plain.block("BOX")
+        .inBlock("LINE 8 0 10 0 20 0 11 10 21 0")
+        .inBlock("LINE 8 PLAIN 10 0 20 5 11 10 21 5")
+        .inBlock("LINE 8 OFF 10 0 20 7 11 10 21 7")
+        .inBlock("ATTDEF 8 0 10 0 20 9 40 1 1 X 2 TAG 70 0 3 P")
+        .inBlock("ATTDEF 8 0 10 5 20 9 40 1 1 X 2 TAG 70 2 3 P");
+    plain.entity("LINE 8 OFF 10 0 20 0 11 10 21 0").entity("LINE 8 FROZEN 10 0 20 1 11 10 21 1");
+    plain.entity("LINE 8 0 60 1 10 0 20 2 11 10 21 2");
+    plain.entity("INSERT 8 OFF 2 BOX 10 100 20 0").entity("INSERT 8 FROZEN 2 BOX 10 200 20 0");
+    plain.entity("INSERT 8 0 60 1 2 BOX 10 300 20 0").entity("INSERT 8 PLAIN 2 BOX 10 400 20 0");
+    plain.entity("INSERT 8 0 2 BOX 66 1 10 500 20 0")
+        .entity("ATTRIB 8 0 10 502 20 20 40 1 1 Text 2 TAG 70 0");
+    plain.entity("ATTRIB 8 0 10 502 20 30 40 1 1 Text 2 TAG 70 1").entity("SEQEND 8 0");
+    const auto drawing = plain.make();
+    for (double y : {0, 1, 2}) EXPECT_EQ(picked(*drawing, 5, y), -1) << y;
+    // On a layer that is off a reference still shows what its block has on other layers.
+    EXPECT_EQ(picked(*drawing, 105, 0), -1);
+    EXPECT_EQ(picked(*drawing, 105, 5), 3);
+    EXPECT_EQ(picked(*drawing, 205, 5), -1);
+    EXPECT_EQ(picked(*drawing, 305, 5), -1);
+    EXPECT_EQ(picked(*drawing, 405, 0), 6);
+    EXPECT_EQ(picked(*drawing, 405, 7), -1);
+    // Of the definitions only the constant one is drawn; of the attributes the visible one.
+    EXPECT_EQ(picked(*drawing, 400.3, 9.5), -1);
+    EXPECT_EQ(picked(*drawing, 405.3, 9.5), 6);
+    EXPECT_EQ(picked(*drawing, 503, 20.5), 7);
+    EXPECT_EQ(picked(*drawing, 503, 30.5), -1);
+}
+
+TEST(PickTest, NestedScaledMirroredAndArrayed) {
+    PlainDrawing plain;
+    plain.block("ARM", 1, 1).inBlock("LINE 8 0 10 1 20 1 11 3 21 1").inBlock("CIRCLE 8 0 10 3 20 1 40 1");
+    plain.block("PAIR")
+        .inBlock("INSERT 8 0 2 ARM 10 0 20 0")
+        .inBlock("INSERT 8 0 2 ARM 10 0 20 0 50 90 41 2 42 0.5");
+    plain.entity("INSERT 8 0 2 PAIR 10 100 20 0 41 -1");
+    plain.entity("INSERT 8 0 2 ARM 10 -200 20 0 210 0 220 0 230 -1");
+    plain.entity("INSERT 8 0 2 ARM 10 0 20 500 50 90 70 1000 71 1000 44 10 45 20");
+    plain.entity("INSERT 8 0 2 NOWHERE 10 0 20 0");
+    const auto drawing = plain.make();
+    // The first arm of the pair points to the left.
+    EXPECT_EQ(picked(*drawing, 99, 0), 0);
+    EXPECT_EQ(picked(*drawing, 97, 0), 0);
+    EXPECT_EQ(picked(*drawing, 101, 0), -1);
+    // The second one upwards, twice as long; its circle an ellipse of 2 by 0.5.
+    EXPECT_EQ(picked(*drawing, 100, 3), 0);
+    EXPECT_EQ(picked(*drawing, 100, 6), 0);
+    EXPECT_EQ(picked(*drawing, 99.5, 4, 0.05), 0);
+    EXPECT_EQ(picked(*drawing, 99, 4), -1);
+    // Seen from below.
+    EXPECT_EQ(picked(*drawing, 199, 0), 1);
+    // A million copies: turned upwards, columns go up and rows to the left.
+    EXPECT_EQ(picked(*drawing, 0, 501), 2);
+    EXPECT_EQ(picked(*drawing, -20 * 700, 500 + 10 * 900 + 1), 2);
+    EXPECT_EQ(picked(*drawing, -20 * 700 - 10, 500 + 10 * 900 + 1), -1);
+    EXPECT_EQ(picked(*drawing, -20 * 1000, 501), -1);
+    EXPECT_EQ(windowed(*drawing, {-1e6, 499, 0}, {1e6, 1e6, 0}, false), (std::vector<int>{2}));
+}
+
+TEST(PickTest, BlocksThatContainThemselvesOrMultiplyAreSurvived) {
+    PlainDrawing plain;
+    plain.block("LOOP").inBlock("LINE 8 0 10 0 20 0 11 1 21 0").inBlock("INSERT 8 0 2 LOOP 10 5 20 0");
+    plain.block("B0").inBlock("LINE 8 0 10 0 20 0 11 1 21 0");
+    for (int i = 1; i <= 12; ++i) {
+        plain.block("B" + std::to_string(i));
+        for (int copy = 0; copy < 10; ++copy) {
+            plain.inBlock("INSERT 8 0 2 B" + std::to_string(i - 1) + " 10 0 20 0");
+        }
+    }
+    plain.entity("INSERT 8 0 2 LOOP 10 0 20 0").entity("INSERT 8 0 2 B12 10 50 20 0");
+    const auto drawing = plain.make();
+    EXPECT_EQ(picked(*drawing, 0.5, 0), 0);
+    EXPECT_EQ(picked(*drawing, 5.5, 0), -1);
+    EXPECT_EQ(picked(*drawing, 50.5, 0), 1);
+}
+
+TEST(PickTest, WindowsAndCrossings) {
+    PlainDrawing plain;
+    plain.block("ARM").inBlock("LINE 8 0 10 0 20 0 11 4 21 0").inBlock("ARC 8 0 10 0 20 0 40 4 50 0 51 90");
+    plain.entity("LINE 8 0 10 1 20 1 11 2 21 2").entity("LINE 8 0 10 1 20 1 11 20 21 1");
+    plain.entity("INSERT 8 0 2 ARM 10 3 20 3").entity("INSERT 8 0 2 ARM 10 3 20 3 50 -45 41 3 42 3 43 3");
+    plain.entity("CIRCLE 8 0 10 5 20 5 40 30").entity("TEXT 8 OFF 10 2 20 2 40 1 1 A");
+    plain.entity("SOLID 8 0 10 -50 20 -50 11 50 21 -50 12 -50 22 50 13 50 23 50");
+    const auto drawing = plain.make();
+    EXPECT_EQ(windowed(*drawing, {10, 10, 0}, {0, 0, 0}, false), (std::vector<int>{0, 2}));
+    EXPECT_EQ(windowed(*drawing, {0, 0, 0}, {10, 10, 0}, true), (std::vector<int>{0, 1, 2, 3, 6}));
+    // Amid the quarter circle, whose box it lies in.
+    EXPECT_EQ(windowed(*drawing, {3.5, 3.5, 0}, {4, 4, 0}, true), (std::vector<int>{6}));
+}
+
+TEST(PickTest, KeptShapesFollowTheDrawing) {
+    PlainDrawing plain;
+    plain.block("ARM").inBlock("LINE 8 0 10 0 20 0 11 4 21 0");
+    const auto drawing = plain.entity("INSERT 8 0 2 ARM 10 0 20 0").make();
+    Picker picker(*drawing);
+    const EntityId id = modelEntities(*drawing).at(0);
+    EXPECT_EQ(picker.at({2, 0, 0}, 0.1), id);
+    drawing->setRotation(id, kPi / 2);
+    EXPECT_EQ(picker.at({2, 0, 0}, 0.1), std::nullopt);
+    EXPECT_EQ(picker.at({0, 2, 0}, 0.1), id);
+    drawing->erase(id);
+    EXPECT_EQ(picker.at({0, 2, 0}, 0.1), std::nullopt);
+}
+
+// A door of the sample by its swing, a label by its text, the array by one of its posts.
+TEST(PickTest, Sample) {
+    const auto drawing = Drawing::open(VORLANE_ROOT "/samples/apartment.dxf");
+    const auto nameAt = [&](double x, double y) {
+        const auto found = pickEntity(*drawing, {x, y, 0}, 0.05);
+        return found ? drawing->name(*found) : std::string("nothing");
+    };
+    const double diagonal = 0.8 * std::sqrt(0.5);
+    EXPECT_EQ(nameAt(1.5 + diagonal, 5.8 + diagonal), "PORTE_80");
+    EXPECT_EQ(nameAt(16.5 - diagonal, 5.8 + diagonal), "PORTE_80");
+    EXPECT_EQ(nameAt(2.2, 2.9), "ETIQUETTE_PIECE");
+    EXPECT_EQ(nameAt(0.4 + 3 * 1.8 + 0.1, -2.7 + 2.2), "POTEAU");
+    // A chair, two references down.
+    EXPECT_EQ(nameAt(2.2 + 0.4 + 0.22, 1.6 + 0.65), "ENSEMBLE_REPAS");
+    // The invisible door.
+    EXPECT_EQ(nameAt(11.1 - diagonal, 8.75 - diagonal), "nothing");
+}
+
+}  // namespace
+}  // namespace drawing
