@@ -11,7 +11,7 @@ BlockId BlockTable::find(std::string_view name) const {
 
 BlockId BlockTable::add(Block block) {
     const auto id = static_cast<BlockId>(blocks_.size());
-    if (byName_.try_emplace(basic::toLower(block.name), id).second) enterName(block.nameId, id);
+    if (byName_.try_emplace(basic::toLower(block.name), id).second) enterName(block.nameKey, id);
     blocks_.push_back(std::move(block));
     return id;
 }
@@ -35,13 +35,13 @@ void BlockTable::setErased(BlockId id, bool erased) {
     block.isErased = erased;
     const std::string name = basic::toLower(block.name);
     if (!erased) {
-        if (byName_.try_emplace(name, id).second) enterName(block.nameId, id);
+        if (byName_.try_emplace(name, id).second) enterName(block.nameKey, id);
         return;
     }
     const auto found = byName_.find(name);
     if (found == byName_.end() || found->second != id) return;
     byName_.erase(found);
-    enterName(block.nameId, kNoBlock);
+    enterName(block.nameKey, kNoBlock);
 }
 
 }  // namespace drawing

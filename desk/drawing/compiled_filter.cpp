@@ -99,7 +99,8 @@ void CompiledFilter::findNames() {
         names_.emplace();
         if (test.name != kNoName) names_->push_back(test.name);
         for (NameId name = 1; name < test.matching.size(); ++name) {
-            if (test.matching[name] != 0) names_->push_back(name);
+            const bool isKey = store_.names.key(name) == name;
+            if (isKey && test.matching[name] != 0) names_->push_back(name);
         }
         return;
     }
@@ -192,7 +193,7 @@ bool CompiledFilter::matches(const Test& test, double number) {
 
 bool CompiledFilter::matchesName(const Test& test, NameId name) const {
     const bool listed = name < test.matching.size() && test.matching[name] != 0;
-    const bool equal = test.pattern ? listed : name != kNoName && name == test.name;
+    const bool equal = test.pattern ? listed : name != kNoName && store_.names.key(name) == test.name;
     return equal == (test.relation != Relation::NotEqual);
 }
 

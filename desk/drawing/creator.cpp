@@ -92,7 +92,7 @@ EntityId Creator::insert(BlockId block, const Placement& placement) {
     record.handle = handleOf(0);
     record.owner = drawing_.modelSpace();
     record.layer = current_.layer;
-    record.name = drawing_.blocks()[block].nameId;
+    record.name = store_.names.intern(drawing_.blocks()[block].name);
     record.parts = static_cast<std::uint32_t>(parts);
     record.set(kPartsFollow, count != 0);
     const EntityId id = store(record, 0, ends_[0]);

@@ -32,6 +32,12 @@ void settleExtrusion(Vector3& extrusion) {
     extrusion = length(extrusion) > 0 ? normalized(extrusion) : kZAxis;
 }
 
+/// The host takes the scale of 0 that some programs write for 1.
+double scaleFactor(const dxf::Tag& tag) {
+    const double factor = tag.numberOr(1);
+    return factor == 0 ? 1 : factor;
+}
+
 void readPlacement(const dxf::Tag& tag, Placement& placement) {
     switch (tag.code) {
         case 10:
@@ -44,13 +50,13 @@ void readPlacement(const dxf::Tag& tag, Placement& placement) {
             placement.insertion.z = tag.numberOr(0);
             break;
         case 41:
-            placement.scale.x = tag.numberOr(1);
+            placement.scale.x = scaleFactor(tag);
             break;
         case 42:
-            placement.scale.y = tag.numberOr(1);
+            placement.scale.y = scaleFactor(tag);
             break;
         case 43:
-            placement.scale.z = tag.numberOr(1);
+            placement.scale.z = scaleFactor(tag);
             break;
         case 44:
             placement.columnSpacing = tag.numberOr(0);
@@ -191,7 +197,7 @@ InsertData Drawing::insert(EntityId id) const {
     data.placement = placement(id);
     data.common = common(id);
     data.name = name(id);
-    data.block = blocks_.ofName(store_->record(id).name);
+    data.block = blocks_.ofName(store_->names.key(store_->record(id).name));
     data.insertion = ocsToWcs(data.placement.insertion, data.placement.extrusion);
     data.isArray = data.placement.columns > 1 || data.placement.rows > 1;
     return data;
@@ -201,14 +207,10 @@ std::string Drawing::name(EntityId id) const {
     requireAlive(id);
     const Record& record = store_->record(id);
     if (record.type == kInsert) {
-        const BlockId block = blocks_.ofName(record.name);
+        const BlockId block = blocks_.ofName(store_->names.key(record.name));
         if (block != kNoBlock) return blocks_[block].name;
     }
-    dxf::TagReader reader = tags(id);
-    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
-        if (tag.code == 2) return tag.text();
-    }
-    return {};
+    return store_->names.text(record.name);
 }
 
 AttribData Drawing::attribute(EntityId id) const {

@@ -115,7 +115,7 @@ dxf::TagReader Drawing::tags(EntityId id) const { return store_->reader(bytes(id
 
 const Layer& Drawing::layer(EntityId id) const {
     requireAlive(id);
-    return layers_[store_->record(id).layer];
+    return layers_[store_->names.key(store_->record(id).layer)];
 }
 
 std::string_view Drawing::layerName(EntityId id) const {

@@ -64,7 +64,7 @@ void Drawing::setReference(EntityId id, const Placement& placement) {
         (scale.z == 0 && before.scale.z != 0)) {
         raise(kInvalidInput, "a scale factor of 0");
     }
-    TagEdit edit(format());
+    TagEdit& edit = store_->freshEdit();
     if (!(before.insertion == placement.insertion)) edit.point(10, {}, placement.insertion);
     if (scaleChanged) edit.number(41, {}, scale.x);
     if (scaleChanged) edit.number(42, {}, scale.y);
@@ -77,7 +77,7 @@ void Drawing::setReference(EntityId id, const Placement& placement) {
 }
 
 void Drawing::moveAttributes(EntityId id, const Placement& from, const Placement& to) {
-    TagEdit edit(format());
+    TagEdit& edit = store_->freshEdit();
     for (EntityId part : attributes(id)) {
         const AttribData before = attribute(part);
         AttribData data = before;
@@ -101,7 +101,7 @@ void Drawing::moveAttributes(EntityId id, const Placement& from, const Placement
 void Drawing::setVisible(EntityId id, bool visible) {
     requireEditable(id);
     const UndoStep step(*this);
-    TagEdit edit(format());
+    TagEdit& edit = store_->freshEdit();
     const auto setOne = [&](EntityId one) {
         if (store_->record(one).has(kInvisible) != visible) return;
         if (visible) {
@@ -121,7 +121,7 @@ void Drawing::setAttributeText(EntityId id, std::string_view text) {
     const std::uint16_t kind = store_->record(id).type;
     if (kind != kAttrib && kind != kAttDef) raise(kNotApplicable, std::string(type(id)));
     const UndoStep step(*this);
-    TagEdit edit(format());
+    TagEdit& edit = store_->freshEdit();
     edit.text(1, kTextPart, text);
     applyEdit(id, edit);
     if (!hasEmbeddedText(format(), store_->record(id).view())) return;
@@ -131,7 +131,7 @@ void Drawing::setAttributeText(EntityId id, std::string_view text) {
 void Drawing::setText(EntityId id, int code, std::string_view subclass, std::string_view value) {
     requireEditable(id);
     const UndoStep step(*this);
-    TagEdit edit(format());
+    TagEdit& edit = store_->freshEdit();
     edit.text(code, subclass, value);
     applyEdit(id, edit);
     refreshRecord(id);
@@ -141,7 +141,7 @@ void Drawing::setNumber(EntityId id, int code, std::string_view subclass, double
     requireEditable(id);
     if (!std::isfinite(value)) raise(kInvalidInput);
     const UndoStep step(*this);
-    TagEdit edit(format());
+    TagEdit& edit = store_->freshEdit();
     edit.number(code, subclass, value);
     applyEdit(id, edit);
 }
@@ -149,7 +149,7 @@ void Drawing::setNumber(EntityId id, int code, std::string_view subclass, double
 void Drawing::setInteger(EntityId id, int code, std::string_view subclass, std::int64_t value) {
     requireEditable(id);
     const UndoStep step(*this);
-    TagEdit edit(format());
+    TagEdit& edit = store_->freshEdit();
     edit.integer(code, subclass, value);
     applyEdit(id, edit);
     refreshRecord(id);

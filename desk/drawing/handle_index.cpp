@@ -6,7 +6,8 @@ namespace drawing {
 
 std::size_t HandleIndex::slot(Handle handle) const {
     const std::size_t mask = keys_.size() - 1;
-    std::size_t at = (handle * 0x9E3779B97F4A7C15u >> 20) & mask;
+    // Handles run in rows, so neighbours get neighbouring slots; the upper bits scatter the rows.
+    std::size_t at = (handle + (handle >> 18) * 0x9E3779B97F4A7C15u) & mask;
     while (keys_[at] != 0 && keys_[at] != handle) at = (at + 1) & mask;
     return at;
 }

@@ -9,7 +9,7 @@ namespace drawing {
 using EntityId = std::uint32_t;
 /// Number of a block definition, valid in the same way.
 using BlockId = std::uint32_t;
-/// Number of an interned name: an entity type, a layer, a block. Equal without regard to case = same number.
+/// Number of an interned name: an entity type, a layer, a block (see NameTable).
 using NameId = std::uint32_t;
 /// A DXF handle; 0 where there is none.
 using Handle = std::uint64_t;

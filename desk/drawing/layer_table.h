@@ -18,7 +18,7 @@ struct Layer {
     bool off = false;             ///< group 62 is negative
 };
 
-/// The layers by their interned names.
+/// The layers by the keys of their interned names.
 class LayerTable {
   public:
     /// The layer of a name; a thawed, unlocked one that is on where the table lacks it.

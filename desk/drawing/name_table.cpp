@@ -4,6 +4,11 @@
 
 namespace drawing {
 
+NameTable::NameTable() {
+    texts_.emplace_back();
+    keys_.push_back(kNoName);
+}
+
 NameId NameTable::internRaw(std::string_view raw, const dxf::Encoding& encoding) {
     if (raw == lastRaw_) return lastId_;
     const auto known = byRaw_.find(raw);
@@ -12,17 +17,20 @@ NameId NameTable::internRaw(std::string_view raw, const dxf::Encoding& encoding)
         return lastId_ = known->second;
     }
     const NameId id = intern(encoding.decode(raw));
-    lastRaw_ = spellings_.emplace_back(raw);
+    lastRaw_ = bytes_.emplace_back(raw);
     byRaw_.emplace(lastRaw_, id);
     return lastId_ = id;
 }
 
 NameId NameTable::intern(std::string_view text) {
     if (text.empty()) return kNoName;
-    const auto [entry, isNew] =
-        byFolded_.try_emplace(basic::toLower(text), static_cast<NameId>(texts_.size()));
-    if (isNew) texts_.emplace_back(text);
-    return entry->second;
+    const auto known = byText_.find(text);
+    if (known != byText_.end()) return known->second;
+    const auto id = static_cast<NameId>(texts_.size());
+    texts_.emplace_back(text);
+    byText_.emplace(texts_.back(), id);
+    keys_.push_back(byFolded_.try_emplace(basic::toLower(text), id).first->second);
+    return id;
 }
 
 NameId NameTable::find(std::string_view text) const {

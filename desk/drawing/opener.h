@@ -45,7 +45,7 @@ class Opener {
 
     // What stands on the records (opener_tables.cpp).
     void readTables();
-    void readEntries();
+    void readHandles();
     void addSpaces();
     void addBlockRecord(EntityId id);
     void addBlock(const BlockRange& range);
@@ -54,7 +54,7 @@ class Opener {
     void fillBlock(BlockId block, const BlockRange& range);
     void fillSpaces();
     void addToBlock(BlockId block, EntityId id);
-    void startHandles();
+    NameId nameKey(EntityId id) const { return store_.names.key(store_.record(id).name); }
     void report(EntityId id, const std::string& reason);
     std::size_t offsetOf(EntityId id) const;
 

@@ -35,7 +35,7 @@ void classify(Block& block) {
 void Opener::readTables() {
     drawing_->path_ = store_.source().path();
     drawing_->header_.setFormat(&store_.format());
-    readEntries();
+    readHandles();
     addSpaces();
     for (EntityId id = 0; id < store_.count(); ++id) {
         const Record& record = store_.record(id);
@@ -48,13 +48,13 @@ void Opener::readTables() {
     BlockTable& blocks = drawing_->blocks_;
     blocks.setSpaces(blocks.find("*Model_Space"), blocks.find("*Paper_Space"));
     for (const BlockRange& range : blockRanges_) {
-        const BlockId block = blocks.ofName(store_.record(range.begin).name);
+        const BlockId block = blocks.ofName(nameKey(range.begin));
         if (block != kNoBlock && blocks[block].begin == range.begin) fillBlock(block, range);
     }
     fillSpaces();
 }
 
-void Opener::readEntries() {
+void Opener::readHandles() {
     Handle highest = 0;
     for (EntityId id = 0; id < store_.count(); ++id) {
         const Handle handle = store_.record(id).handle;
@@ -87,7 +87,7 @@ void Opener::addSpaces() {
         if (isModelName(name) ? model : paper) continue;
         Block space;
         space.name = name;
-        space.nameId = store_.names.intern(name);
+        space.nameKey = store_.names.key(store_.names.intern(name));
         classify(space);
         drawing_->blocks_.add(std::move(space));
     }
@@ -95,7 +95,7 @@ void Opener::addSpaces() {
 
 void Opener::addBlockRecord(EntityId id) {
     Block block;
-    block.nameId = store_.record(id).name;
+    block.nameKey = nameKey(id);
     block.handle = store_.record(id).handle;
     block.record = id;
     dxf::TagReader reader = store_.reader(id);
@@ -140,7 +140,7 @@ void Opener::addBlock(const BlockRange& range) {
         }
     }
     classify(content);
-    content.nameId = store_.record(range.begin).name;
+    content.nameKey = nameKey(range.begin);
     BlockTable& blocks = drawing_->blocks_;
     BlockId id = blocks.find(content.name);
     if (id == kNoBlock) {
@@ -174,7 +174,7 @@ void Opener::addLayer(EntityId id) {
             layer.locked = (tag.integerOr(0) & 4) != 0;
         }
     }
-    drawing_->layers_.add(store_.record(id).name, std::move(layer));
+    drawing_->layers_.add(nameKey(id), std::move(layer));
 }
 
 void Opener::readLayout(EntityId id) {
@@ -216,7 +216,7 @@ void Opener::addToBlock(BlockId id, EntityId entity) {
     block.entities.push_back(entity);
     if (block.isLayout()) {
         store_.indexName(entity);
-        if (record.type == kInsert && drawing_->blocks_.ofName(record.name) == kNoBlock) {
+        if (record.type == kInsert && drawing_->blocks_.ofName(nameKey(entity)) == kNoBlock) {
             report(entity,
                    "a reference of a block that the drawing lacks: " + store_.names.text(record.name));
         }

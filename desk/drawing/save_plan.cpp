@@ -12,16 +12,34 @@ SavePlan::SavePlan(const Drawing& drawing) : drawing_(drawing), store_(drawing.s
     patchRecords();
     addOthers();
     addEntities();
-    std::stable_sort(patches_.begin(), patches_.end(),
-                     [](const Patch& left, const Patch& right) { return left.begin < right.begin; });
+    const auto inOrder = [](const Patch& left, const Patch& right) { return left.begin < right.begin; };
+    if (!std::is_sorted(patches_.begin(), patches_.end(), inOrder)) {
+        std::stable_sort(patches_.begin(), patches_.end(), inOrder);
+    }
     joinPieces();
+}
+
+void SavePlan::beginPatch(std::size_t begin, std::size_t end) {
+    // Erased neighbours make one gap.
+    const bool extends = !patches_.empty() && patches_.back().pieceCount == 0 && patches_.back().end == begin;
+    if (extends) {
+        patches_.back().end = end;
+    } else {
+        patches_.push_back({begin, end, newPieces_.size(), 0});
+    }
+}
+
+void SavePlan::addPiece(std::string_view bytes) {
+    newPieces_.push_back(bytes);
+    ++patches_.back().pieceCount;
 }
 
 void SavePlan::patchSeed() {
     const FileRange& value = store_.seedValue;
     if (value.begin == value.end || store_.nextHandle() == store_.firstHandle()) return;
     dxf::TagWriter(store_.format(), own()).handle(5, store_.nextHandle());
-    patches_.push_back({value.begin, value.end, owned_.back()});
+    beginPatch(value.begin, value.end);
+    addPiece(owned_.back());
 }
 
 void SavePlan::patchRecords() {
@@ -32,7 +50,8 @@ void SavePlan::patchRecords() {
         anyErased = anyErased || erased;
         if (!erased && !record.has(kChanged)) continue;
         const FileRange range = store_.fileRange(id);
-        patches_.push_back({range.begin, range.end, erased ? std::string_view() : record.view()});
+        beginPatch(range.begin, range.end);
+        if (!erased) addPiece(record.view());
     }
     if (!anyErased) return;
     for (EntityId id = 0; id < store_.fileCount(); ++id) {
@@ -58,17 +77,21 @@ void SavePlan::patchGroup(EntityId id) {
     if (!lost) return;
     const FileRange range = store_.fileRange(id);
     own() = std::move(kept);
-    patches_.push_back({range.begin, range.end, owned_.back()});
+    beginPatch(range.begin, range.end);
+    addPiece(owned_.back());
 }
 
-void SavePlan::addRecord(std::size_t offset, EntityId id) {
+void SavePlan::addRecord(EntityId id) {
     for (EntityId each = id; each <= id + store_.record(id).parts; ++each) {
-        if (!store_.isErased(each)) insert(offset, store_.record(each).view());
+        if (!store_.isErased(each)) addPiece(store_.record(each).view());
     }
 }
 
 void SavePlan::addOthers() {
-    for (const Addition& addition : store_.additions) addRecord(addition.offset, addition.id);
+    for (const Addition& addition : store_.additions) {
+        beginPatch(addition.offset, addition.offset);
+        addRecord(addition.id);
+    }
 }
 
 void SavePlan::addEntities() {
@@ -81,22 +104,25 @@ void SavePlan::addEntities() {
                                : objects != nullptr ? objects->begin
                                                     : store_.outline.eof;
     const std::string_view file = store_.source().bytes();
+    beginPatch(offset, offset);
     const bool lineIsOpen = !store_.format().binary && offset > 0 && file[offset - 1] != '\n';
-    if (lineIsOpen) insert(offset, store_.format().newline());
+    if (lineIsOpen) addPiece(store_.format().newline());
     if (section == nullptr) {
         dxf::TagWriter opening(store_.format(), own());
         opening.plain(0, "SECTION");
         opening.plain(2, "ENTITIES");
-        insert(offset, owned_.back());
+        addPiece(owned_.back());
     }
-    for (auto id = first; id != entities.end(); ++id) addRecord(offset, *id);
+    newPieces_.reserve(newPieces_.size() + (store_.count() - store_.fileCount()));
+    for (auto id = first; id != entities.end(); ++id) addRecord(*id);
     if (section == nullptr) {
         dxf::TagWriter(store_.format(), own()).plain(0, "ENDSEC");
-        insert(offset, owned_.back());
+        addPiece(owned_.back());
     }
 }
 
 void SavePlan::joinPieces() {
+    pieces_.reserve(newPieces_.size() + patches_.size() + 1);
     const std::string_view file = store_.source().bytes();
     std::size_t position = 0;
     const auto copyUpTo = [&](std::size_t end) {
@@ -105,7 +131,8 @@ void SavePlan::joinPieces() {
     };
     for (const Patch& patch : patches_) {
         copyUpTo(patch.begin);
-        if (!patch.bytes.empty()) pieces_.push_back(patch.bytes);
+        for (std::size_t i = 0; i < patch.pieceCount; ++i)
+            pieces_.push_back(newPieces_[patch.firstPiece + i]);
         position = std::max(position, patch.end);
     }
     copyUpTo(file.size());

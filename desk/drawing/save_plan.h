@@ -19,11 +19,12 @@ class SavePlan {
     const std::vector<std::string_view>& pieces() const { return pieces_; }
 
   private:
-    /// Bytes that stand in the place of a range of the old file.
+    /// New pieces that stand in the place of a range of the old file.
     struct Patch {
         std::size_t begin;
         std::size_t end;
-        std::string_view bytes;
+        std::size_t firstPiece;  ///< in `newPieces_`
+        std::size_t pieceCount;
     };
 
     void patchSeed();
@@ -31,14 +32,17 @@ class SavePlan {
     void patchGroup(EntityId id);
     void addEntities();
     void addOthers();
-    void addRecord(std::size_t offset, EntityId id);
-    void insert(std::size_t offset, std::string_view bytes) { patches_.push_back({offset, offset, bytes}); }
+    /// Pieces added until the next call belong to this range.
+    void beginPatch(std::size_t begin, std::size_t end);
+    void addPiece(std::string_view bytes);
+    void addRecord(EntityId id);
     void joinPieces();
     std::string& own() { return owned_.emplace_back(); }
 
     const Drawing& drawing_;
     const Store& store_;
     std::vector<Patch> patches_;
+    std::vector<std::string_view> newPieces_;
     std::deque<std::string> owned_;
     std::vector<std::string_view> pieces_;
 };

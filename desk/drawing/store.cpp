@@ -11,7 +11,7 @@ constexpr std::size_t kBytesPerRecord = 160;
 
 }  // namespace
 
-Store::Store(dxf::Source source) : source_(std::move(source)) {
+Store::Store(dxf::Source source) : tagEdit_(source.format()), source_(std::move(source)) {
     records_.reserve(source_.bytes().size() / kBytesPerRecord);
     handles.reserve(source_.bytes().size() / kBytesPerRecord);
     for (std::uint16_t type = 1; type < kKnownTypes; ++type) types_.intern(kTypeNames[type]);
@@ -92,14 +92,14 @@ const std::vector<EntityId>& Store::named(NameId name) const {
 }
 
 void Store::indexName(EntityId id) {
-    const NameId name = records_[id].name;
+    const NameId name = names.key(records_[id].name);
     if (name == kNoName) return;
     if (name >= named_.size()) named_.resize(std::max<std::size_t>(names.size(), name + 1));
     named_[name].push_back(id);
 }
 
 void Store::unindexName(EntityId id) {
-    const NameId name = records_[id].name;
+    const NameId name = names.key(records_[id].name);
     if (name == kNoName || name >= named_.size()) return;
     std::vector<EntityId>& list = named_[name];
     if (!list.empty() && list.back() == id) {

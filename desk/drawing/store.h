@@ -6,6 +6,7 @@
 #include "desk/drawing/layer_table.h"
 #include "desk/drawing/name_table.h"
 #include "desk/drawing/record.h"
+#include "desk/drawing/tag_edit.h"
 #include "desk/dxf/findings.h"
 #include "desk/dxf/scanner.h"
 #include "desk/dxf/source.h"
@@ -107,10 +108,16 @@ class Store {
     /// Handles begin at `seed` or behind the highest one met.
     void startHandles(Handle seed, bool use);
 
-    /// Entities of a name (group 2) in the spaces, in drawing order; erased ones may be among them.
+    /// Entities of a name (group 2, its key) in the spaces, in drawing order; erased ones may be among them.
     const std::vector<EntityId>& named(NameId name) const;
     void indexName(EntityId id);
     void unindexName(EntityId id);
+
+    /// An empty edit. There is one at a time: it is kept for its buffers.
+    TagEdit& freshEdit() {
+        tagEdit_.clear();
+        return tagEdit_;
+    }
 
     // Steps.
     bool stepIsOpen() const { return depth_ > 0; }
@@ -128,6 +135,7 @@ class Store {
   private:
     friend class Drawing;
 
+    TagEdit tagEdit_;
     dxf::Source source_;
     std::vector<Record> records_;
     EntityId fileCount_ = 0;

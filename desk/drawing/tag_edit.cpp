@@ -77,9 +77,13 @@ std::string_view TagEdit::apply(std::string_view entity) {
         flush(subclass, true);
     }
     copyUpTo(entity.size());
+    clear();
+    return result_;
+}
+
+void TagEdit::clear() {
     values_.clear();
     edits_.clear();
-    return result_;
 }
 
 TagEdit::Edit* TagEdit::find(int code, std::string_view subclass) {

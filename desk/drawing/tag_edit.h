@@ -27,6 +27,8 @@ class TagEdit {
     void point(int code, std::string_view subclass, const Point3& value);
     /// Takes the group away where it is.
     void remove(int code, std::string_view subclass);
+    /// Forgets what was collected.
+    void clear();
     bool isEmpty() const { return values_.empty() && edits_.empty(); }
 
     /// The entity's groups with the new values; valid until the next call. The edit is then empty again.
