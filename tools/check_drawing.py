@@ -17,13 +17,13 @@ import ezdxf
 from ezdxf import recover
 
 REFERENCE_PARTS = {"INSERT", "ATTRIB", "SEQEND"}
-OWNED = {"DICTIONARY", "XRECORD", "ACDBDICTIONARYWDFLT"}
 NEW = REFERENCE_PARTS | {"LINE"}
 
 
 def objects(path):
     """The file as a list of (type, handle, text): one item for each group 0 and what follows it."""
-    lines = open(path, "rb").read().decode("latin-1").splitlines(keepends=True)
+    with open(path, "rb") as file:
+        lines = [line + "\n" for line in file.read().decode("latin-1").split("\n")]
     found, begin = [], 0
     codes = range(0, len(lines) - 1, 2)
     starts = [i for i in codes if lines[i].strip() == "0"] + [len(lines)]
@@ -45,11 +45,17 @@ def without_seed(text):
     return re.sub(r"(\$HANDSEED\s+5\s+)[0-9A-Fa-f]+", r"\1*", text)
 
 
+def owned_by_gone(text, gone):
+    """Whether an object names an owner (group 330) that is gone itself."""
+    return any(handle in gone for handle in re.findall(r"^\s*330\r?\n\s*([0-9A-Fa-f]+)", text, re.M))
+
+
 def differences(original, result, imports):
     """Texts that tell what differs beyond what a replacement may change; counts of removed and added objects."""
     before, after = objects(original), objects(result)
     old_handles = {handle for _, handle, _ in before if handle}
     kept = {handle for _, handle, _ in after if handle}
+    gone = old_handles - kept
     faults, removed, added = [], {}, {}
     i = j = 0
     while i < len(before) or j < len(after):
@@ -63,7 +69,7 @@ def differences(original, result, imports):
                 faults.append(f"new {new[0]} #{new[1]}")
             added[new[0]] = added.get(new[0], 0) + 1
             j += 1
-        elif old[0] in REFERENCE_PARTS | OWNED and (old[1] not in kept or not old[1]):
+        elif (old[0] in REFERENCE_PARTS or owned_by_gone(old[2], gone)) and (old[1] not in kept or not old[1]):
             removed[old[0]] = removed.get(old[0], 0) + 1
             i += 1
         elif imports and old[0] == new[0] and old[1] == new[1]:

@@ -1,0 +1,60 @@
+Opened custom_blocks.dxf
+; drawing: corpus/custom_blocks.dxf
+; check: result.dxf
+Command: LIST
+References  Block
+         3  CustomBlock1
+Command: VNREPLACE
+[fmReplace] Vorlane 1.0 : Block replacement
+  Frame1: Blocks to replace
+    Label3: Block name
+    lstDestination: 1 entry
+      > 0 CustomBlock1
+    BtnSelectName: [Select]
+    Label4: Reference zone
+    optZoneAll: (o) Whole drawing
+    BtnSelectZone: [Select] (disabled)
+    optZoneSelection: ( ) Selection
+  Frame2: Replacement block
+    Label5: Block name
+    CboBlocReplacer: ""
+        0 <<< Select
+        1 Browse >>>
+        2 CustomBlock1
+    Label1: Insertion parameters ( Tick to change )
+    chkRotation: [ ] Rotation
+    txtRotation: "Unchanged" (disabled)
+    chkVisibility: [ ] Visibility
+    cboVisibility: "Unchanged" (disabled)
+        0 On
+        1 Off
+      > 2 Unchanged
+    chkXScale: [ ] X scale
+    txtXScale: "Unchanged" (disabled)
+    chkYScale: [ ] Y scale
+    txtYScale: "Unchanged" (disabled)
+    chkZScale: [ ] Z scale
+    txtZScale: "Unchanged" (disabled)
+    ChkAttSet: [ ] Transfer attribute values (disabled)
+    BtnAttSet: [Set up] (disabled)
+  BtnReplace: [Replace]
+  BtnClose: [Close]
+  Label2: Number of blocks to replace:
+  LblNbrSelected: 3
+> lstDestination = CustomBlock1
+> CboBlocReplacer = CustomBlock1
+> BtnReplace
++-- Quillet 1.0 (i)
+|  Blocks references replaced succesfully.
++-- [ok]
+> ok
+> BtnClose
+[fmReplace] hidden
+Command: LIST
+References  Block
+         3  CustomBlock1
+Command: SAVE result.dxf
+Saved result.dxf
+-- check result.dxf
+removed: 3 INSERT
+added: 3 INSERT
