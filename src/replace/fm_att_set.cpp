@@ -50,7 +50,6 @@ void fmAttSet::wire() {
 
 void fmAttSet::Form_Initialize() {
     language::InitForm(session_, *this);
-    rememberDesign();
     const forms::Twips half = ListView1.width() / 2 - 50;
     ListView1.columnHeaders().setWidth(1, half);
     ListView1.columnHeaders().setWidth(2, half);

@@ -24,7 +24,6 @@ using Box = forms::MessageBox;
 void fmReplace::Form_Initialize() {
     basic::ErrorState errors;  // errors are ignored throughout
     errors.skip([&] { language::InitForm(session_, *this); });
-    rememberDesign();
     errors.skip([&] { FillVisibilityChoices(); });
     errors.skip([&] { ResetParameterFields(); });
     errors.skip([&] { RefreshBlockLists(); });

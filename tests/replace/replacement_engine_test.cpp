@@ -89,6 +89,11 @@ TEST_F(EngineTest, HandsTheTextsOfTheFieldsToTheHost) {
     EXPECT_EQ(lamp()->rotation, 90);
     EXPECT_FALSE(lamp()->visible);
 
+    fields.visibility = 2;  // "Unchanged" with the box on
+    set({lamp(0)});
+    replaceAll();
+    EXPECT_TRUE(lamp(1)->visible);
+
     host.drawing().regional = basic::Regional::french();  // the host's settings decide, nobody else's
     fields.x = "0,25";
     set({lamp(1)});
