@@ -46,7 +46,11 @@ struct FakeDrawing : DrawingState {
     std::vector<std::shared_ptr<FakeSelectionSet>> sets;
     std::deque<std::optional<FakeEntityPtr>> picks;                    ///< without value: Escape
     std::deque<std::optional<std::vector<FakeEntityPtr>>> selections;  ///< the same
+    std::deque<Point> pickPlaces;  ///< where the next picks were clicked; at the origin without one
+    std::deque<std::optional<Point>> points;   ///< without value: Escape or Enter
+    std::deque<std::optional<double>> angles;  ///< radians; the same
     std::vector<std::string> prompts;
+    std::vector<Variant> bases;  ///< the base points of the prompts for points and angles
 
     FakeBlockPtr findBlock(std::string_view name) const {
         for (const FakeBlockPtr& block : blocks)
@@ -162,6 +166,12 @@ class FakeModelSpace : public FakeObject {
     explicit FakeModelSpace(FakeDrawingPtr drawing) : drawing_(std::move(drawing)) {}
 
     Variant call(std::string_view member, Arguments& arguments) override {
+        if (is(member, "AddLine")) {
+            const auto line = std::make_shared<FakeLine>(drawing_, pointOf(argument(arguments, 0)),
+                                                         pointOf(argument(arguments, 1)));
+            drawing_->entities.push_back(line);
+            return Variant(line);
+        }
         if (!is(member, "InsertBlock")) throw basic::Error(basic::kNoSuchMember);
         const FakeBlockPtr block = definition(argument(arguments, 1).text());
         auto reference = std::make_shared<FakeReference>(drawing_, block->name);
@@ -182,6 +192,10 @@ class FakeModelSpace : public FakeObject {
     }
 
   private:
+    static Point pointOf(const Variant& value) {
+        const basic::Doubles& given = value.doubles();
+        return {given.at(0), given.at(1), given.at(2)};
+    }
     /// The block of that name; a block file's path brings its block in first.
     FakeBlockPtr definition(const std::string& name) {
         if (auto block = drawing_->findBlock(name)) return block;
@@ -209,15 +223,29 @@ class FakeUtility : public FakeObject {
   public:
     explicit FakeUtility(FakeDrawing& drawing) : drawing_(drawing) {}
     Variant call(std::string_view member, Arguments& arguments) override {
-        if (!is(member, "GetEntity")) throw basic::Error(basic::kNoSuchMember);
-        drawing_.prompts.push_back(arguments.at(2).text());
-        const FakeEntityPtr picked = FakeDrawing::nextAnswer(drawing_.picks);
-        arguments.at(0) = Variant(picked);
-        arguments.at(1) = Variant(basic::Doubles{0, 0, 0});
-        return {};
+        if (is(member, "GetEntity")) return pick(arguments);
+        const bool wantsPoint = is(member, "GetPoint");
+        if (!wantsPoint && !is(member, "GetAngle")) throw basic::Error(basic::kNoSuchMember);
+        drawing_.bases.push_back(arguments.at(0));
+        drawing_.prompts.push_back(arguments.at(1).text());
+        if (!wantsPoint) return Variant(FakeDrawing::nextAnswer(drawing_.angles));
+        const Point point = FakeDrawing::nextAnswer(drawing_.points);
+        return Variant(basic::Doubles(point.begin(), point.end()));
     }
 
   private:
+    Variant pick(Arguments& arguments) {
+        drawing_.prompts.push_back(arguments.at(2).text());
+        const FakeEntityPtr picked = FakeDrawing::nextAnswer(drawing_.picks);
+        Point place{};
+        if (!drawing_.pickPlaces.empty()) {
+            place = drawing_.pickPlaces.front();
+            drawing_.pickPlaces.pop_front();
+        }
+        arguments.at(0) = Variant(picked);
+        arguments.at(1) = Variant(basic::Doubles(place.begin(), place.end()));
+        return {};
+    }
     FakeDrawing& drawing_;
 };
 
@@ -283,6 +311,14 @@ class FakeHost {
         for (const FakeEntityPtr& entity : drawing_->entities)
             if (auto reference = std::dynamic_pointer_cast<FakeReference>(entity))
                 if (!reference->erased && reference->name == block) found.push_back(std::move(reference));
+        return found;
+    }
+    /// The living lines, oldest first.
+    std::vector<FakeLinePtr> lines() const {
+        std::vector<FakeLinePtr> found;
+        for (const FakeEntityPtr& entity : drawing_->entities)
+            if (auto line = std::dynamic_pointer_cast<FakeLine>(entity))
+                if (!line->erased) found.push_back(std::move(line));
         return found;
     }
     std::vector<std::string> setNames() const {

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -85,9 +86,12 @@ class FakeEntity : public FakeObject {
     std::int32_t color = 256;
     Space space = Space::Model;
     bool erased = false;
+    std::map<std::string, double> measures;  ///< what the entity has of "Length", "Area" and the like
 
     Variant get(std::string_view member) override {
         requireAlive();
+        for (const auto& [measure, value] : measures)
+            if (is(member, measure)) return Variant(value);
         if (is(member, "ObjectName")) return Variant(objectName);
         if (is(member, "Layer")) return Variant(layer);
         if (is(member, "Color")) return Variant(color);
@@ -214,7 +218,18 @@ class FakeReference : public FakeEntity {
     }
 };
 
+/// A line.
+class FakeLine : public FakeEntity {
+  public:
+    FakeLine(DrawingStatePtr drawing, Point start, Point end)
+        : FakeEntity(std::move(drawing), "AcDbLine"), start(start), end(end) {}
+
+    Point start;
+    Point end;
+};
+
 using FakeEntityPtr = std::shared_ptr<FakeEntity>;
+using FakeLinePtr = std::shared_ptr<FakeLine>;
 using FakeReferencePtr = std::shared_ptr<FakeReference>;
 
 }  // namespace fakes

@@ -1,0 +1,196 @@
+#include "extract/insertion_run.h"
+
+#include "tests/extract/extract_world.h"
+
+namespace extract {
+namespace {
+
+using Icon = forms::MessageBox::Icon;
+
+const char* const kDone = "End of the insertion.\r\n";
+
+/// The dialog with the block TREE and a table of the columns N, X, Y, S, A.
+class InsertionTest : public testing::Test, public ExtractWorld {
+  protected:
+    InsertionTest() {
+        host.addBlock("TREE", {{"SPECIES", "oak"}, {"GIRTH", "?"}});
+        form().Combo1.setListIndex(form().Combo1.indexOf("TREE"));
+        form().ListView2.columnHeaders().clear();
+        for (const char* header : {"N", "X", "Y", "S", "A"})
+            form().ListView2.columnHeaders().add(header, 700);
+        map({"X", "Y", "0", "S", "S", "1", "0.5", "0", "0", "0", "A", "big"});
+    }
+    fmReInsert& form() { return insertion(); }
+    void map(const Texts& mappings) {
+        for (std::size_t i = 0; i < mappings.size(); ++i)
+            form().ListView1.listItems().item(static_cast<int>(i) + 1).setSubItem(1, mappings[i]);
+    }
+    void addRow(const Texts& cells) {
+        forms::ListItem& row = form().ListView2.listItems().add(cells[0]);
+        for (std::size_t i = 1; i < cells.size(); ++i) row.setSubItem(static_cast<int>(i), cells[i]);
+    }
+    /// Runs the button's handler and gives the end message's text.
+    std::string insert() {
+        form().BtnInsert.press();
+        return screen.boxes.back().text;
+    }
+    std::string value(const std::string& name, int row) {
+        return ParameterList(form().ListView1, form().ListView2).GetParameterValue(name, row);
+    }
+    static std::string failed(int row) {
+        return "Error : The line " + std::to_string(row) + " was not insered!\r\n";
+    }
+    std::vector<fakes::FakeReferencePtr> trees() { return host.references("TREE"); }
+};
+
+TEST_F(InsertionTest, FindsTheValueOfAParameter) {
+    addRow({"7", "1", "2", "3", "ash"});
+    EXPECT_EQ(value("X_", 1), "1");
+    EXPECT_EQ(value("GIRTH", 1), "big") << "a constant";
+    map({"N", "x", "", "A"});
+    EXPECT_EQ(value("X_", 1), "7") << "the first column is the row's own text";
+    EXPECT_EQ(value("Y_", 1), "x") << "case counts";
+    EXPECT_EQ(value("Z_", 1), "") << "an empty mapping is an empty text";
+    form().ListView2.columnHeaders().add("A", 700);
+    form().ListView2.columnHeaders().add("", 700);
+    form().ListView2.listItems().item(1).setSubItem(5, "other");
+    form().ListView2.listItems().item(1).setSubItem(6, "of the column without a header");
+    EXPECT_EQ(value("Ech.X", 1), "ash") << "the left one of equal headers";
+    EXPECT_EQ(value("Z_", 1), "of the column without a header");
+    EXPECT_EQ(fakes::errorOf([&] { value("x_", 1); }), basic::kSubscript);
+    EXPECT_EQ(fakes::errorOf([&] { value("X_", 2); }), basic::kSubscript);
+}
+
+TEST_F(InsertionTest, InsertsARowAfterTheOther) {
+    addRow({"1", "1.5", "-2", "2", "ash"});
+    addRow({"2", "3", "4", "-1", ""});
+    EXPECT_EQ(insert(), kDone);
+    ASSERT_EQ(trees().size(), 2U);
+    EXPECT_EQ(trees()[0]->point, (fakes::Point{1.5, -2, 0}));
+    EXPECT_EQ(trees()[0]->scale, (std::array<double, 3>{2, 2, 1}));
+    EXPECT_EQ(trees()[0]->rotation, 0.5) << "radians";
+    EXPECT_EQ(trees()[0]->text("SPECIES"), "ash");
+    EXPECT_EQ(trees()[0]->text("GIRTH"), "big");
+    EXPECT_EQ(trees()[1]->text("SPECIES"), "");
+    EXPECT_EQ(host.drawing().updates, 2);
+    EXPECT_TRUE(host.lines().empty());
+    EXPECT_EQ(screen.boxes.back().title, "Quillet 1.0");
+    EXPECT_EQ(screen.boxes.back().icon, Icon::Information);
+    EXPECT_EQ(form().mousePointer(), 0);
+    insert();
+    EXPECT_EQ(trees().size(), 4U) << "a second press inserts all again";
+}
+
+TEST_F(InsertionTest, DrawsTheLeaderLineFromTheRowsOwnPlace) {
+    addRow({"1", "1", "2", "3", "ash"});
+    map({"X", "Y", "0", "1", "1", "1", "0", "S", "1", "0"});
+    insert();
+    EXPECT_EQ(trees().at(0)->point, (fakes::Point{1, 2, 0})) << "without the option the deltas aren't read";
+    form().Check1.setValue(1);
+    insert();
+    EXPECT_EQ(trees().at(1)->point, (fakes::Point{4, 3, 0}));
+    ASSERT_EQ(host.lines().size(), 1U);
+    EXPECT_EQ(host.lines()[0]->start, (fakes::Point{1, 2, 0}));
+    EXPECT_EQ(host.lines()[0]->end, (fakes::Point{4, 3, 0}));
+    map({"X", "Y", "0", "1", "1", "1", "0", "0", "0", "0"});
+    insert();
+    EXPECT_EQ(host.lines().size(), 2U) << "also a line of no length";
+}
+
+TEST_F(InsertionTest, TellsNothingButTheSuccessWithoutRows) {
+    EXPECT_EQ(insert(), kDone);
+    EXPECT_EQ(screen.boxes.back().icon, Icon::Information);
+    EXPECT_TRUE(trees().empty());
+}
+
+TEST_F(InsertionTest, ReportsTheRowsWithATextThatIsNoNumber) {
+    const Texts good{"9", "1", "2", "1", "ash"};
+    struct Case {
+        int column;  ///< of the bad text
+        const char* text;
+        bool reported;
+        std::size_t lines;
+    };
+    form().Check1.setValue(1);
+    map({"X", "Y", "0", "S", "1", "1", "0", "A", "0", "0"});
+    for (const Case& c : {Case{1, "", true, 2}, Case{2, "north", true, 2}, Case{4, "", true, 2},
+                          Case{3, "big", true, 3}, Case{3, "0", false, 3}, Case{1, "1E999", false, 2}}) {
+        SCOPED_TRACE(std::to_string(c.column) + c.text);
+        host.drawing().entities.clear();
+        form().ListView2.listItems().clear();
+        Texts bad{"9", "1", "2", "1", "5"};
+        addRow(bad);
+        bad[static_cast<std::size_t>(c.column)] = c.text;
+        addRow(bad);
+        addRow({"9", "1", "2", "1", "5"});
+        EXPECT_EQ(insert(), kDone + (c.reported ? failed(2) : ""));
+        EXPECT_EQ(screen.boxes.back().icon, c.reported ? Icon::Exclamation : Icon::Information);
+        EXPECT_EQ(trees().size(), 2U);
+        EXPECT_EQ(host.lines().size(), c.lines) << "a line drawn before the failure stays";
+    }
+}
+
+TEST_F(InsertionTest, DropsARowInSilenceWhenTheHostFails) {
+    struct Row {
+        const char* access;
+        std::size_t lines, references;  ///< in the drawing after a run of two rows, the second failing
+        const char* species;            ///< of the last reference
+        int updates;
+    };
+    const Row rows[] = {
+        {"get ModelSpace", 1, 1, "ash", 1},   {"call AddLine", 1, 1, "ash", 1},
+        {"call InsertBlock", 2, 1, "ash", 1}, {"call GetAttributes", 2, 2, "oak", 1},
+        {"get TagString", 2, 2, "oak", 1},    {"set TextString", 2, 2, "oak", 1},
+        {"call Update", 2, 2, "ash", 1},
+    };
+    addRow({"1", "1", "2", "1", "ash"});
+    addRow({"2", "1", "2", "1", "ash"});
+    form().Check1.setValue(1);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.access);
+        host.drawing().entities.clear();
+        host.drawing().updates = 0;
+        faulty.reset();
+        const std::string access = row.access;
+        const bool pair = access.ends_with("ModelSpace") || access.ends_with("String");
+        faulty.failAt(access, pair ? 3 : 2);
+        EXPECT_EQ(insert(), kDone);
+        EXPECT_TRUE(faulty.failed());
+        EXPECT_EQ(screen.boxes.back().icon, Icon::Information);
+        EXPECT_EQ(host.lines().size(), row.lines);
+        ASSERT_EQ(trees().size(), row.references);
+        EXPECT_EQ(trees().back()->text("SPECIES"), row.species);
+        EXPECT_EQ(host.drawing().updates, row.updates);
+    }
+    form().TxtName.setText("UNKNOWN");
+    host.drawing().entities.clear();
+    EXPECT_EQ(insert(), kDone);
+    EXPECT_EQ(host.drawing().entities.size(), 2U) << "the lines alone";
+}
+
+TEST_F(InsertionTest, FillsAttributesUpToATagThatIsInNoRow) {
+    addRow({"1", "1", "2", "1", "ash"});
+    host.drawing().findBlock("TREE")->attributes = {
+        {"SPECIES", "s"}, {"SPECIES", "t"}, {"X_", "x"}, {"AGE", "a"}, {"GIRTH", "g"}};
+    EXPECT_EQ(insert(), kDone);
+    const auto& attributes = trees().at(0)->attributes;
+    Texts texts;
+    for (const auto& attribute : attributes) texts.push_back(attribute->text);
+    EXPECT_EQ(texts, (Texts{"ash", "ash", "1", "a", "g"})) << "one like a fixed parameter gets its text";
+    EXPECT_EQ(host.drawing().updates, 0);
+}
+
+TEST_F(InsertionTest, ReadsNumbersUnderTheRegionalSettings) {
+    addRow({"1", "12.5", "0", "1", "ash"});
+    addRow({"2", "12,5", "0", "1", "ash"});
+    insert();
+    EXPECT_EQ(trees().at(0)->point[0], 12.5);
+    EXPECT_EQ(trees().at(1)->point[0], 125) << "under a decimal point the comma parts thousands";
+    platform.numbers = basic::Regional::french();
+    map({"X", "Y", "0", "S", "S", "1", "0"});
+    EXPECT_EQ(insert(), kDone + failed(1));
+    EXPECT_EQ(trees().back()->point[0], 12.5);
+}
+
+}  // namespace
+}  // namespace extract
