@@ -96,7 +96,8 @@ Desk::Outcome Desk::evaluate(const std::string& expression) {
     if (hasDrawing()) step.emplace(document().drawing());
     // "!name" asks for a variable's value, as at the host's command line.
     const lisp::Value value = lisp_->eval(expression.starts_with('!') ? expression.substr(1) : expression);
-    output_ << lisp::printed(value, lisp::Style::Readable) << "\n";
+    const std::string shown = lisp::printed(value, lisp::Style::Readable);
+    if (!shown.empty()) output_ << shown << "\n";
     return Outcome::Done;
 }
 

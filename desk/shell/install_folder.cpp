@@ -78,6 +78,7 @@ void deliver(const fs::path& folder, const fs::path& resources) {
         const auto known = before.find(name);
         std::error_code error;
         if (fs::exists(target, error)) {
+            if (!fs::is_regular_file(target, error)) fail(folder, name + " is not a file");
             const std::string present = readBytes(target);
             const bool untouched = known != before.end() && checksum(present) == known->second;
             if (present != wanted && !untouched) continue;

@@ -14,12 +14,16 @@ Comments at the head of the script say what it needs:
     ; exit: 1                          the exit code (0 without it)
     ; check: result.dxf [--imports]    judges a saved drawing by tools/check_drawing.py
     ; run: tool.py ARGUMENTS           runs a tool of tools/ or tests/acts in the folder
+    ; before: mkdir -p data/vorlane    a command of the shell, run in the folder before the console starts; the
+                                       install folder is data/vorlane
+    ; disk: 100                        no file may grow beyond so many thousand bytes, as on a full disk
 
 The story is what the console printed, then what the checks printed."""
 
 import difflib
 import os
 import re
+import resource
 import shutil
 import subprocess
 import sys
@@ -34,7 +38,7 @@ PYTHON = "/usr/bin/python3"  # Debian's, which has python3-ezdxf
 
 def directives(script):
     for line in script.read_text(encoding="utf-8").splitlines():
-        match = re.match(r";\s*(drawing|copy|options|language|exit|check|run):\s*(.*)$", line)
+        match = re.match(r";\s*(drawing|copy|options|language|exit|check|run|before|disk):\s*(.*)$", line)
         if match:
             yield match.group(1), match.group(2).strip()
         elif not line.startswith(";"):
@@ -79,8 +83,11 @@ def tell(console, script, folder):
     locale = "fr_FR.UTF-8" if of("language") == ["fr"] else "en_US.UTF-8"
     environment = {"PATH": os.environ["PATH"], "XDG_DATA_HOME": str(folder / "data"), "LANG": locale}
     options = " ".join(of("options")).split()
+    for command in of("before"):
+        subprocess.run(command, shell=True, cwd=folder, check=True)
     done = subprocess.run([console, drawing, "--script", script, *options], cwd=folder, env=environment,
-                          stdin=subprocess.DEVNULL, capture_output=True, timeout=600)
+                          stdin=subprocess.DEVNULL, capture_output=True, timeout=600,
+                          preexec_fn=lambda: fill_disk(of("disk")))
     story += done.stdout.decode("utf-8", "replace") + done.stderr.decode("utf-8", "replace")
     wanted = int((of("exit") or ["0"])[0])
     if done.returncode != wanted:
@@ -93,6 +100,12 @@ def tell(console, script, folder):
             name, *rest = value.split()
             story += f"-- run {value}\n" + run_tool([find_tool(name), *rest], folder)
     return story.replace(str(folder), "FOLDER")
+
+
+def fill_disk(thousands):
+    for number in thousands:
+        size = int(number) * 1000
+        resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
 
 
 def run_tool(command, folder):
