@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# The tour that ./run gives: the jobs of Vorlane on the sample drawings, in a copy of them under out/.
+#   tools/tour.sh [CONSOLE]
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+console=${1:-build/release/vorlane-console}
+mkdir -p out
+
+"$console" samples/apartment.dxf --script tools/tour.vns --regional en
+
+echo
+echo "== The result: out/replaced.dxf. Open it in any program that reads DXF."
+echo "== Work on a drawing of your own: ./run DRAWING"
