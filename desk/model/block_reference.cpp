@@ -2,46 +2,48 @@
 
 namespace model {
 
-const drawing::InsertData& BlockReference::data() const {
+const drawing::Placement& BlockReference::placement() const {
     if (revision_ != drawing().revision()) {
-        data_ = drawing().insert(id_);
+        placement_ = drawing().placement(id_);
         revision_ = drawing().revision();
     }
-    return data_;
+    return placement_;
 }
 
-Variant BlockReference::name() const { return data().name; }
+Variant BlockReference::name() const { return drawing().name(id_); }
 
-Variant BlockReference::insertionPoint() const { return fromPoint(data().insertion); }
+Variant BlockReference::insertionPoint() const {
+    return fromPoint(drawing::ocsToWcs(placement().insertion, placement().extrusion));
+}
 void BlockReference::setInsertionPoint(const Variant& value) {
     edit().setInsertionPoint(id_, toPoint(*context_, value));
 }
 
-Variant BlockReference::xScaleFactor() const { return data().placement.scale.x; }
-Variant BlockReference::yScaleFactor() const { return data().placement.scale.y; }
-Variant BlockReference::zScaleFactor() const { return data().placement.scale.z; }
+Variant BlockReference::xScaleFactor() const { return placement().scale.x; }
+Variant BlockReference::yScaleFactor() const { return placement().scale.y; }
+Variant BlockReference::zScaleFactor() const { return placement().scale.z; }
 
 void BlockReference::setXScaleFactor(const Variant& value) {
-    const drawing::Vector3 scale = data().placement.scale;
+    const drawing::Vector3 scale = placement().scale;
     edit().setScale(id_, {toNumber(*context_, value), scale.y, scale.z});
 }
 void BlockReference::setYScaleFactor(const Variant& value) {
-    const drawing::Vector3 scale = data().placement.scale;
+    const drawing::Vector3 scale = placement().scale;
     edit().setScale(id_, {scale.x, toNumber(*context_, value), scale.z});
 }
 void BlockReference::setZScaleFactor(const Variant& value) {
-    const drawing::Vector3 scale = data().placement.scale;
+    const drawing::Vector3 scale = placement().scale;
     edit().setScale(id_, {scale.x, scale.y, toNumber(*context_, value)});
 }
 
-Variant BlockReference::rotation() const { return data().placement.rotation; }
+Variant BlockReference::rotation() const { return placement().rotation; }
 void BlockReference::setRotation(const Variant& value) {
     edit().setRotation(id_, toNumber(*context_, value));
 }
 
 Variant BlockReference::hasAttributes() const {
     if (!drawing().attributes(id_).empty()) return true;
-    const drawing::BlockId block = data().block;
+    const drawing::BlockId block = drawing().blocks().find(drawing().name(id_));
     return block != drawing::kNoBlock && drawing().blocks()[block].hasConstantAttributes;
 }
 
@@ -74,8 +76,8 @@ const MemberTable& BlockReference::members() const {
     return table;
 }
 
-Variant AttributeReference::tagString() const { return drawing().attribute(id_).tag; }
-Variant AttributeReference::textString() const { return drawing().attribute(id_).text; }
+Variant AttributeReference::tagString() const { return drawing().attributeTag(id_); }
+Variant AttributeReference::textString() const { return drawing().attributeText(id_); }
 
 void AttributeReference::setTextString(const Variant& value) {
     edit().setAttributeText(id_, basic::toText(value, context_->environment->regional));

@@ -30,10 +30,10 @@ class BlockReference : public Entity {
     const MemberTable& members() const override;
 
   private:
-    /// The reference's groups, read again only after the drawing changed.
-    const drawing::InsertData& data() const;
+    /// Where the reference stands, read again only after the drawing changed.
+    const drawing::Placement& placement() const;
 
-    mutable drawing::InsertData data_;
+    mutable drawing::Placement placement_;
     mutable std::uint64_t revision_ = ~std::uint64_t{0};
 };
 
