@@ -9,8 +9,9 @@ vorlane_room(session src/session LINKS host platform forms)
 vorlane_room(language src/language LINKS session)
 vorlane_room(blocks src/blocks LINKS language)
 vorlane_room(replace src/replace LINKS blocks)
+vorlane_room(labels src/labels LINKS blocks)
 vorlane_room(extract src/extract LINKS blocks)
-vorlane_room(entry src/entry LINKS replace extract)
+vorlane_room(entry src/entry LINKS replace labels extract)
 
 vorlane_room(text_face faces/text LINKS forms)
 

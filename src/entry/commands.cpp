@@ -2,6 +2,7 @@
 
 #include "extract/extract_command.h"
 #include "forms/form.h"
+#include "labels/labels_command.h"
 #include "replace/replace_command.h"
 
 namespace entry {
@@ -22,6 +23,7 @@ struct Command {
 
 /// In the order in which the code is compared. A command is dispatched once its dialog is registered.
 constexpr Command kCommands[] = {
+    {"0", "fmLabels", labels::StartLabels},
     {"1", "fmReplace", replace::RunReplaceCommand},
     {"2", "fmExtract", showExtract},
     {"3", "fmReInsert", extract::StartReInsert},

@@ -2,6 +2,7 @@
 
 #include "entry/fm_owner.h"
 #include "extract/extract_command.h"
+#include "labels/labels_command.h"
 #include "replace/replace_command.h"
 
 #include <optional>
@@ -11,6 +12,7 @@ namespace entry {
 Component::Component(platform::Platform& platform, forms::Screen& screen)
     : session_(std::make_shared<session::Session>(platform, screen)) {
     session_->registerForm("fmOwner", [](session::Session& s) { return std::make_unique<fmOwner>(s); });
+    labels::registerForms(*session_);
     replace::registerForms(*session_);
     extract::registerForms(*session_);
 }
