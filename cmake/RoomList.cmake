@@ -11,7 +11,9 @@ vorlane_room(blocks src/blocks LINKS language)
 vorlane_room(replace src/replace LINKS blocks)
 vorlane_room(labels src/labels LINKS blocks)
 vorlane_room(extract src/extract LINKS blocks)
-vorlane_room(entry src/entry LINKS replace labels extract)
+vorlane_room(about src/about LINKS language)
+target_compile_definitions(about PUBLIC VORLANE_SITE="${VORLANE_SITE}")
+vorlane_room(entry src/entry LINKS replace labels extract about)
 
 vorlane_room(text_face faces/text LINKS forms)
 

@@ -1,5 +1,6 @@
 #include "entry/component.h"
 
+#include "about/register_forms.h"
 #include "entry/fm_owner.h"
 #include "extract/extract_command.h"
 #include "labels/labels_command.h"
@@ -12,6 +13,7 @@ namespace entry {
 Component::Component(platform::Platform& platform, forms::Screen& screen)
     : session_(std::make_shared<session::Session>(platform, screen)) {
     session_->registerForm("fmOwner", [](session::Session& s) { return std::make_unique<fmOwner>(s); });
+    about::registerForms(*session_);
     labels::registerForms(*session_);
     replace::registerForms(*session_);
     extract::registerForms(*session_);
