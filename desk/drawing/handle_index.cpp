@@ -1,13 +1,16 @@
 #include "desk/drawing/handle_index.h"
 
 #include <bit>
+#include <cstdint>
 
 namespace drawing {
 
 std::size_t HandleIndex::slot(Handle handle) const {
     const std::size_t mask = keys_.size() - 1;
-    // Handles run in rows, so neighbours get neighbouring slots; the upper bits scatter the rows.
-    std::size_t at = (handle + (handle >> 18) * 0x9E3779B97F4A7C15u) & mask;
+    // Handles run in rows, so eight neighbours get neighbouring slots. Longer rows must not: where two of them
+    // fell on one place, the second would be walked through from its start for each handle.
+    const std::uint64_t scattered = (std::uint64_t{handle} >> 3) * 0x9E3779B97F4A7C15u;
+    std::size_t at = ((scattered >> 32) * 8 + (handle & 7)) & mask;
     while (keys_[at] != 0 && keys_[at] != handle) at = (at + 1) & mask;
     return at;
 }
