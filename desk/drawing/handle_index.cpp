@@ -7,8 +7,8 @@ namespace drawing {
 
 std::size_t HandleIndex::slot(Handle handle) const {
     const std::size_t mask = keys_.size() - 1;
-    // Handles run in rows, so eight neighbours get neighbouring slots. Longer rows must not: where two of them
-    // fell on one place, the second would be walked through from its start for each handle.
+    // Handles run in rows, so eight neighbours get neighbouring slots. Longer rows must not: where two of
+    // them fell on one place, the second would be walked through from its start for each handle.
     const std::uint64_t scattered = (std::uint64_t{handle} >> 3) * 0x9E3779B97F4A7C15u;
     std::size_t at = ((scattered >> 32) * 8 + (handle & 7)) & mask;
     while (keys_[at] != 0 && keys_[at] != handle) at = (at + 1) & mask;
