@@ -55,6 +55,7 @@ drawing::Point3 pointOn(const Drawing& drawing, EntityId entity) {
 
 std::optional<std::vector<EntityId>> Selection::find(std::string_view answer) const {
     const std::vector<std::string_view> parts = words(answer);
+    if (parts.empty()) return std::nullopt;
     std::vector<EntityId> found;
     if (parts.size() == 1 && basic::equalIgnoringCase(parts[0], "all")) {
         drawing_.forEachEntity(drawing_.modelSpace(), [&](EntityId id) {

@@ -51,6 +51,10 @@ std::string_view Drawing::type(EntityId id) const {
     return store_->typeName(store_->record(id).type);
 }
 
+std::string_view Drawing::typeEvenErased(EntityId id) const {
+    return store_->typeName(store_->record(id).type);
+}
+
 std::string Drawing::objectName(EntityId id) const {
     requireAlive(id);
     const Record& record = store_->record(id);

@@ -100,6 +100,8 @@ class Drawing {
     void requireAlive(EntityId id) const;
     /// The entity's type as the file spells it, "INSERT".
     std::string_view type(EntityId id) const;
+    /// The same of an entity that may be erased.
+    std::string_view typeEvenErased(EntityId id) const;
     /// The class name in the host, "AcDbBlockReference"; for a type that the host doesn't know its last
     /// subclass marker.
     std::string objectName(EntityId id) const;

@@ -17,6 +17,12 @@ Document::Document(std::unique_ptr<drawing::Drawing> drawing, std::shared_ptr<co
       modelSpace_(std::make_shared<ModelSpace>(context_, context_->drawing->modelSpace())),
       selectionSets_(std::make_shared<SelectionSets>(context_)) {}
 
+bool Document::undo() {
+    // A block brought in from a file may be gone now, or have the content of before.
+    context_->broughtIn.clear();
+    return context_->drawing->undo();
+}
+
 Variant Document::paperSpace() const {
     return std::make_shared<Block>(context_, context_->drawing->blocks().paperSpace());
 }

@@ -17,6 +17,8 @@ class Document : public Automation {
 
     drawing::Drawing& drawing() { return *context_->drawing; }
     const ContextPtr& context() const { return context_; }
+    /// Takes the last undo step back; false if there is none.
+    bool undo();
 
     Variant modelSpace() const { return modelSpace_; }
     Variant paperSpace() const;

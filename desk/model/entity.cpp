@@ -73,7 +73,7 @@ drawing::EntityId toEntity(const basic::Variant& value) {
 }
 
 std::shared_ptr<Entity> makeEntity(const ContextPtr& context, drawing::EntityId id) {
-    const std::string_view type = context->drawing->type(id);
+    const std::string_view type = context->drawing->typeEvenErased(id);
     if (type == "INSERT") return std::make_shared<BlockReference>(context, id);
     if (type == "ATTRIB") return std::make_shared<AttributeReference>(context, id);
     if (type == "LINE") return std::make_shared<Line>(context, id);

@@ -52,7 +52,8 @@ class Line : public Entity {
     const MemberTable& members() const override;
 };
 
-/// The object of an entity, of the class that its type asks for.
+/// The object of an entity, of the class that its type asks for; of an erased one too, as a member of
+/// a selection set may be.
 std::shared_ptr<Entity> makeEntity(const ContextPtr& context, drawing::EntityId id);
 
 /// The entity behind an object of this document; raises kTypeMismatch for any other value.

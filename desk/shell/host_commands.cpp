@@ -53,7 +53,7 @@ Outcome list(Desk& desk, const std::string&) {
 }
 
 Outcome undo(Desk& desk, const std::string&) {
-    desk.output() << (desk.document().drawing().undo() ? "Undone.\n" : "Nothing to undo.\n");
+    desk.output() << (desk.document().undo() ? "Undone.\n" : "Nothing to undo.\n");
     return Outcome::Done;
 }
 

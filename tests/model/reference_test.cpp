@@ -1,0 +1,244 @@
+#include "desk/model/entity.h"
+#include "model_world.h"
+
+#include <numbers>
+
+namespace model {
+namespace {
+
+constexpr double kQuarter = std::numbers::pi / 2;
+
+class ReferenceTest : public testing::Test, protected ModelWorld {
+  protected:
+    ReferenceTest() : ModelWorld(Furnished::drawing().make()) {}
+
+    /// The attribute reference at a position of a reference's array.
+    static host::ObjectPtr attribute(const host::ObjectPtr& reference, std::size_t position) {
+        return host::asObject(reference->invoke("GetAttributes").array().at(position));
+    }
+    /// The insertion point of an attribute's text, in object coordinates.
+    drawing::Point3 placeOf(const host::ObjectPtr& attribute) const {
+        return drawing().attribute(toEntity(attribute)).position;
+    }
+};
+
+TEST_F(ReferenceTest, TellsWhatTheFileSays) {
+    const host::ObjectPtr door = item(Furnished::Door);
+    EXPECT_EQ(textOf(door, "Name"), "DOOR");
+    EXPECT_EQ(textOf(door, "Layer"), "PLAIN");
+    EXPECT_EQ(door->get("Color").integer(), 3);
+    EXPECT_EQ(textOf(door, "Handle"), "A1");
+    expectPoint(door, "InsertionPoint", {10, 20, 5});
+    EXPECT_EQ(numberOf(door, "XScaleFactor"), 2);
+    EXPECT_EQ(numberOf(door, "YScaleFactor"), 3);
+    EXPECT_EQ(numberOf(door, "ZScaleFactor"), 4);
+    EXPECT_DOUBLE_EQ(numberOf(door, "Rotation"), kQuarter) << "radians";
+    EXPECT_TRUE(door->get("Visible").boolean());
+
+    const host::ObjectPtr array = item(Furnished::Plain);
+    EXPECT_EQ(textOf(array, "ObjectName"), "AcDbMInsertBlock");
+    EXPECT_EQ(textOf(array, "Name"), "Plain") << "as the definition spells it";
+    EXPECT_FALSE(array->get("Visible").boolean());
+    EXPECT_EQ(array->get("Color").integer(), 256);
+    EXPECT_EQ(textOf(item(Furnished::Anonymous), "Name"), "*U1");
+    EXPECT_EQ(textOf(item(Furnished::Anonymous), "ObjectName"), "AcDbBlockReference");
+}
+
+TEST_F(ReferenceTest, PointsAreWorldCoordinatesWhateverTheExtrusion) {
+    ModelWorld free(drawing::PlainDrawing()
+                        .block("B")
+                        .entity("INSERT 8 0 66 1 2 B 10 10 20 20 30 1 210 0 220 0 230 -1")
+                        .entity("ATTRIB 8 0 10 11 20 22 30 1 40 1 1 x 2 T 70 0 210 0 220 0 230 -1")
+                        .entity("SEQEND 8 0")
+                        .make());
+    expectPoint(item(Furnished::Mirrored), "InsertionPoint", {-10, 20, -1});
+    const host::ObjectPtr mirrored = free.item(0);
+    mirrored->set("InsertionPoint", basic::Doubles{5, 6, 7});
+    expectPoint(mirrored, "InsertionPoint", {5, 6, 7});
+    EXPECT_EQ(free.drawing().placement(toEntity(mirrored)).insertion, (drawing::Point3{-5, 6, -7}));
+    // The attribute stays where it was as seen from the reference: 1 along, 2 up.
+    const drawing::Point3 text = free.drawing().attribute(toEntity(attribute(mirrored, 0))).position;
+    EXPECT_NEAR(text.x, -4, 1e-9);
+    EXPECT_NEAR(text.y, 8, 1e-9);
+    EXPECT_NEAR(text.z, -7, 1e-9);
+}
+
+TEST_F(ReferenceTest, AttributesMoveTurnAndGrowWithTheReference) {
+    const host::ObjectPtr door = insert("DOOR");
+    door->set("InsertionPoint", basic::Doubles{100, 50, 0});
+    EXPECT_EQ(placeOf(attribute(door, 0)), (drawing::Point3{101, 52, 0}));
+    door->set("Rotation", kQuarter);
+    EXPECT_NEAR(placeOf(attribute(door, 0)).x, 98, 1e-9);
+    EXPECT_NEAR(placeOf(attribute(door, 0)).y, 51, 1e-9);
+    EXPECT_NEAR(drawing().attribute(toEntity(attribute(door, 0))).rotation, kQuarter, 1e-9);
+    for (const char* factor : {"XScaleFactor", "YScaleFactor", "ZScaleFactor"}) door->set(factor, 2.0);
+    EXPECT_NEAR(placeOf(attribute(door, 0)).x, 96, 1e-9);
+    EXPECT_NEAR(drawing().attribute(toEntity(attribute(door, 0))).height, 1, 1e-9);
+    door->set("Visible", false);
+    EXPECT_FALSE(attribute(door, 1)->get("Visible").boolean());
+}
+
+TEST_F(ReferenceTest, ValuesAreConvertedAsAutomationDoes) {
+    const host::ObjectPtr door = item(Furnished::Door);
+    door->set("XScaleFactor", std::int16_t{-7});
+    EXPECT_EQ(numberOf(door, "XScaleFactor"), -7);
+    door->set("YScaleFactor", " 1.5 ");
+    EXPECT_EQ(numberOf(door, "YScaleFactor"), 1.5);
+    door->set("Rotation", "90");
+    EXPECT_EQ(numberOf(door, "Rotation"), 90) << "a text is no angle in degrees either";
+    door->set("Visible", std::int16_t{0});
+    EXPECT_FALSE(door->get("Visible").boolean());
+    door->set("InsertionPoint", basic::Array{1.0, "2", std::int16_t{3}});
+    expectPoint(door, "InsertionPoint", {1, 2, 3});
+    // A number as an attribute's text.
+    attribute(door, 0)->set("TextString", 2.5);
+    EXPECT_EQ(attributeTexts(door), (Texts{"MARK=2.5", "ROOM=hall"}));
+    EXPECT_EQ(numberOf(door, "ZScaleFactor"), 4);
+}
+
+TEST_F(ReferenceTest, RefusedValuesChangeNothing) {
+    const host::ObjectPtr door = item(Furnished::Door);
+    const auto failure = [&](const char* member, const Variant& value) {
+        return errorOf([&] { door->set(member, value); });
+    };
+    for (const char* factor : {"XScaleFactor", "YScaleFactor", "ZScaleFactor"}) {
+        EXPECT_EQ(failure(factor, 0.0), drawing::kInvalidInput);
+        EXPECT_EQ(failure(factor, "0"), drawing::kInvalidInput);
+        EXPECT_EQ(failure(factor, "Unchanged"), basic::kTypeMismatch);
+    }
+    EXPECT_EQ(failure("Rotation", ""), basic::kTypeMismatch);
+    EXPECT_EQ(failure("Rotation", 1 / 0.0), drawing::kInvalidInput);
+    EXPECT_EQ(failure("InsertionPoint", basic::Doubles{1, 2}), basic::kTypeMismatch);
+    EXPECT_EQ(failure("InsertionPoint", "1,2,3"), basic::kTypeMismatch);
+    EXPECT_EQ(failure("Visible", "perhaps"), basic::kTypeMismatch);
+    EXPECT_EQ(failure("Name", "FIXED"), basic::kNoSuchMember);
+    EXPECT_FALSE(drawing().isModified());
+}
+
+TEST(ReferenceRegionalTest, TextsAreNumbersUnderTheRegionalSettings) {
+    const ModelWorld french(Furnished::drawing().make(), basic::Regional::french());
+    const host::ObjectPtr door = french.item(Furnished::Door);
+    door->set("XScaleFactor", "0,25");
+    EXPECT_EQ(numberOf(door, "XScaleFactor"), 0.25);
+    EXPECT_EQ(errorOf([&] { door->set("XScaleFactor", "0.25"); }), basic::kTypeMismatch);
+
+    const ModelWorld english(Furnished::drawing().make());
+    english.item(Furnished::Door)->set("XScaleFactor", "12,5");
+    EXPECT_EQ(numberOf(english.item(Furnished::Door), "XScaleFactor"), 125) << "a comma parts thousands";
+}
+
+TEST_F(ReferenceTest, AttributesInTheirOrderWithoutTheConstantOnes) {
+    EXPECT_EQ(attributeTexts(item(Furnished::Door)), (Texts{"MARK=D1", "ROOM=hall"}));
+    EXPECT_EQ(attributeTexts(insert("DOOR")), (Texts{"MARK=?", "ROOM=-"}));
+    // Only constant ones: it has attributes, but there are none to get.
+    for (const host::ObjectPtr& fixed : {item(Furnished::Fixed), insert("FIXED")}) {
+        EXPECT_TRUE(fixed->get("hasAttributes").boolean());
+        EXPECT_EQ(attributeTexts(fixed), Texts{});
+    }
+    EXPECT_FALSE(item(Furnished::Plain)->get("hasAttributes").boolean());
+    EXPECT_EQ(attributeTexts(item(Furnished::Plain)), Texts{});
+
+    const host::ObjectPtr mark = attribute(item(Furnished::Door), 0);
+    mark->set("TextString", "D\xC3\xA9p\xC3\xB4t");
+    EXPECT_EQ(textOf(mark, "TextString"), "D\xC3\xA9p\xC3\xB4t");
+    EXPECT_EQ(textOf(mark, "ObjectName"), "AcDbAttribute");
+    EXPECT_EQ(textOf(mark, "Layer"), "0");
+    EXPECT_EQ(errorOf([&] { mark->set("TagString", "OTHER"); }), basic::kNoSuchMember);
+}
+
+TEST_F(ReferenceTest, ErasedObjectsRaiseWhateverIsAsked) {
+    const host::ObjectPtr door = item(Furnished::Door);
+    const host::ObjectPtr mark = attribute(door, 0);
+    EXPECT_EQ(textOf(door, "Name"), "DOOR");
+    item(Furnished::Door)->invoke("Delete");
+    for (const char* member :
+         {"Name", "InsertionPoint", "XScaleFactor", "Rotation", "Visible", "Layer", "Color", "Handle",
+          "ObjectName", "hasAttributes", "GetAttributes", "Update", "Delete"}) {
+        EXPECT_EQ(errorOf([&] { door->get(member); }), drawing::kObjectErased) << member;
+    }
+    EXPECT_EQ(errorOf([&] { door->set("Rotation", 1.0); }), drawing::kObjectErased);
+    EXPECT_EQ(errorOf([&] { door->set("Visible", true); }), drawing::kObjectErased);
+    EXPECT_EQ(errorOf([&] { mark->get("TextString"); }), drawing::kObjectErased);
+    EXPECT_EQ(errorOf([&] { mark->set("TextString", ""); }), drawing::kObjectErased);
+    EXPECT_EQ(errorOf([&] { byHandle("A1"); }), drawing::kKeyNotFound);
+    EXPECT_EQ(space()->get("Count").integer(), 5);
+
+    drawing().undo();
+    EXPECT_EQ(textOf(door, "Name"), "DOOR") << "an object comes back with its entity";
+    EXPECT_EQ(textOf(mark, "TextString"), "D1");
+    const host::ObjectPtr fresh = insert("DOOR");
+    EXPECT_EQ(fresh->get("Visible").boolean(), true);
+    drawing().undo();
+    EXPECT_EQ(errorOf([&] { fresh->get("Name"); }), drawing::kObjectErased);
+}
+
+TEST_F(ReferenceTest, ALockedLayerRefusesEditsAndDeletionOnly) {
+    const host::ObjectPtr locked = item(Furnished::Mirrored);
+    EXPECT_EQ(errorOf([&] { locked->set("Rotation", 1.0); }), drawing::kLockedLayer);
+    EXPECT_EQ(errorOf([&] {
+                  locked->set("InsertionPoint", basic::Doubles{0, 0, 0});
+              }),
+              drawing::kLockedLayer);
+    EXPECT_EQ(errorOf([&] { locked->set("XScaleFactor", 2.0); }), drawing::kLockedLayer);
+    EXPECT_EQ(errorOf([&] { locked->set("Visible", false); }), drawing::kLockedLayer);
+    EXPECT_EQ(errorOf([&] { locked->invoke("Delete"); }), drawing::kLockedLayer);
+    EXPECT_EQ(errorOf([&] { item(Furnished::LockedLine)->invoke("Delete"); }), drawing::kLockedLayer);
+    EXPECT_FALSE(drawing().isModified());
+    EXPECT_EQ(errorOf([&] { locked->invoke("Update"); }), 0);
+    EXPECT_EQ(textOf(locked, "Name"), "DOOR");
+}
+
+TEST_F(ReferenceTest, EveryKindHasItsClassAndItsMeasuresOnly) {
+    struct Row {
+        const char* words;
+        const char* objectName;
+        const char* has;  ///< a letter a measure: L, A, C
+    };
+    const Row rows[] = {
+        {"LINE 8 0 10 0 20 0 11 3 21 4", "AcDbLine", "L"},
+        {"LWPOLYLINE 8 0 90 2 70 0 10 0 20 0 10 3 20 4", "AcDbPolyline", "LA"},
+        {"CIRCLE 8 0 10 0 20 0 40 1", "AcDbCircle", "AC"},
+        {"ARC 8 0 10 0 20 0 40 1 50 0 51 90", "AcDbArc", "A"},
+        {"ELLIPSE 8 0 10 0 20 0 11 2 21 0 40 0.5 41 0 42 6.283185307179586", "AcDbEllipse", "A"},
+        {"TEXT 8 0 10 0 20 0 40 1 1 x", "AcDbText", ""},
+        {"MTEXT 8 0 10 0 20 0 40 1 1 x", "AcDbMText", ""},
+        {"POINT 8 0 10 0 20 0", "AcDbPoint", ""},
+        {"SOLID 8 0 10 0 20 0 11 1 21 0 12 0 22 1 13 1 23 1", "AcDbSolid", ""},
+        {"3DFACE 8 0 10 0 20 0 11 1 21 0 12 0 22 1 13 1 23 1", "AcDbFace", ""},
+        {"INSERT 8 0 2 DOOR 10 0 20 0", "AcDbBlockReference", ""},
+    };
+    for (const Row& row : rows) {
+        ModelWorld world(drawing::PlainDrawing().entity(row.words).make());
+        const host::ObjectPtr entity = world.item(0);
+        EXPECT_EQ(textOf(entity, "ObjectName"), row.objectName);
+        const std::pair<char, const char*> measures[] = {
+            {'L', "length"}, {'A', "Area"}, {'C', "Circumference"}, {'P', "Perimeter"}};
+        for (const auto& [letter, member] : measures) {
+            const bool has = std::string_view(row.has).find(letter) != std::string_view::npos;
+            EXPECT_EQ(errorOf([&] { entity->get(member); }), has ? 0 : basic::kNoSuchMember)
+                << row.objectName << " " << member;
+        }
+    }
+    EXPECT_NEAR(ModelWorld(drawing::PlainDrawing().entity("CIRCLE 8 0 10 0 20 0 40 2").make())
+                    .item(0)
+                    ->get("Circumference")
+                    .number(),
+                4 * std::numbers::pi, 1e-12);
+}
+
+TEST_F(ReferenceTest, LinesTellTheirPoints) {
+    const host::ObjectPtr line =
+        host::asObject(space()->invoke("AddLine", {basic::Doubles{1, 2, 3}, basic::Doubles{4, 6, 3}}));
+    expectPoint(line, "StartPoint", {1, 2, 3});
+    expectPoint(line, "EndPoint", {4, 6, 3});
+    EXPECT_EQ(numberOf(line, "Length"), 5);
+    EXPECT_EQ(textOf(line, "Layer"), "0");
+    EXPECT_EQ(errorOf([&] {
+                  space()->invoke("AddLine", {basic::Doubles{1, 2, 3}, "4,6"});
+              }),
+              basic::kTypeMismatch);
+    EXPECT_EQ(space()->get("Count").integer(), 7);
+}
+
+}  // namespace
+}  // namespace model
