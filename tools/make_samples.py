@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the sample drawings into samples/: a floor of two flats, a door that serves as a block to bring in, and an
-empty drawing. Needs python3-ezdxf (Debian's package)."""
+"""Writes the sample drawings into samples/: a floor of two flats, a door and a room label that serve as blocks to bring
+in, and an empty drawing. Needs python3-ezdxf (Debian's package)."""
 
 import io
 import os
@@ -269,6 +269,19 @@ def double_door():
     return doc
 
 
+def survey_label():
+    """A label for a room's survey, drawn round its base point."""
+    doc = new_drawing("R2010")
+    doc.layers.add("ETIQUETTES", color=2)
+    space = doc.modelspace()
+    rectangle(space, -0.8, -0.42, 1.6, 0.84)
+    for tag, prompt, default, y in (
+            ("NUMERO", "Numéro de la pièce", "00", 0.27), ("SURFACE", "Surface", "-", 0.09),
+            ("PERIMETRE", "Périmètre", "-", -0.09), ("CALQUE", "Calque du contour", "-", -0.27)):
+        blocks.define_attribute(space, tag, prompt, default, (0, y), 0.12)
+    return doc
+
+
 def write(doc, path):
     """Saves a drawing. Group 60 (invisible) isn't written by ezdxf, so it is added behind the layer."""
     hidden = {entity.dxf.handle for insert in doc.modelspace().query("INSERT") if insert.dxf.invisible
@@ -294,7 +307,8 @@ def main():
     ezdxf.options.write_fixed_meta_data_for_testing = True  # the same bytes at each run
     folder = pathlib.Path(__file__).resolve().parent.parent / "samples"
     folder.mkdir(exist_ok=True)
-    for name, doc in (("apartment", apartment()), ("porte_double", double_door()), ("empty", new_drawing("R2010"))):
+    for name, doc in (("apartment", apartment()), ("porte_double", double_door()),
+                      ("releve_piece", survey_label()), ("empty", new_drawing("R2010"))):
         findings = doc.audit().errors
         if findings:
             sys.exit(f"{name}: " + "; ".join(finding.message for finding in findings))

@@ -5,9 +5,12 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 console=${1:-build/release/vorlane-console}
 mkdir -p out
+# Settings of the tour's own, so that the formats that a drafter has remembered stay.
+rm -rf out/settings
+export XDG_DATA_HOME=$PWD/out/settings
 
 "$console" samples/apartment.dxf --script tools/tour.vns --regional en
 
 echo
-echo "== The result: out/replaced.dxf. Open it in any program that reads DXF."
+echo "== The results: out/replaced.dxf, out/labelled.dxf. Open them in any program that reads DXF."
 echo "== Work on a drawing of your own: ./run DRAWING"
