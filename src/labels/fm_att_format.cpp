@@ -43,7 +43,7 @@ void fmAttFormat::layOutFields() {
     Frame1.setCaption("Valeur");
     Twips top = 360;
     const auto addRow = [&](forms::Label& label, const char* caption, forms::Control& field) {
-        label.place(Frame1, 120, top + 30, 2160, 255);
+        label.place(Frame1, 120, top, 2160, 315);
         label.setCaption(caption);
         field.place(Frame1, 2340, top, 2100, 315);
         top += 420;

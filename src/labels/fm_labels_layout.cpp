@@ -23,13 +23,13 @@ fmLabels::fmLabels(session::Session& session)
 
 void fmLabels::layOut() {
     resizeTo(9360, 6090);
-    Label1.place(120, 180, 2040, 255);
+    Label1.place(120, 120, 2040, kFieldHeight);
     Label1.setCaption("Nom du bloc à insérer :");
-    Combo2.place(2220, 135, 3720, kFieldHeight);
+    Combo2.place(2220, 120, 3720, kFieldHeight);
     Combo2.setSorted(true);
-    BtnEtiquette.place(6060, 105, 1560, kButtonHeight);
+    BtnEtiquette.place(6060, 120, 1560, kFieldHeight);
     BtnEtiquette.setCaption("Sélectionner...");
-    BtnImport.place(7680, 105, 1560, kButtonHeight);
+    BtnImport.place(7680, 120, 1560, kFieldHeight);
     BtnImport.setCaption("Parcourir...");
 
     BtnParametre.place(120, 5160, 1560, kButtonHeight);
@@ -64,7 +64,7 @@ void fmLabels::layOutRows() {
     Combo1.place(Picture1, 3660, 360, 3480, kFieldHeight);
     Combo1.setText("Combo1");
     Combo1.setEnabled(false);
-    BtnAttFormat.place(Picture1, 7260, 330, 480, kButtonHeight);
+    BtnAttFormat.place(Picture1, 7260, 360, 480, kFieldHeight);
     BtnAttFormat.setCaption("...");
     BtnAttFormat.setEnabled(false);
 }

@@ -21,15 +21,16 @@ void fmParamIns::layOut() {
     constexpr Twips kLabelWidth = 3000;
     constexpr Twips kFieldLeft = 3300;
     constexpr Twips kFieldWidth = 1440;
+    constexpr Twips kFieldHeight = 315;
     resizeTo(5280, 6090);
 
     Frame1.place(120, 120, kWidth, 1680);
     Frame1.setCaption("Echelle");
     Twips top = 360;
     const auto addRow = [&](forms::Label& label, const char* caption, forms::TextBox& field) {
-        label.place(Frame1, 180, top + 30, kLabelWidth, 255);
+        label.place(Frame1, 180, top, kLabelWidth, kFieldHeight);
         label.setCaption(caption);
-        field.place(Frame1, kFieldLeft, top, kFieldWidth, 315);
+        field.place(Frame1, kFieldLeft, top, kFieldWidth, kFieldHeight);
         top += 420;
     };
     addRow(Label1, "Echelle longitudinale EX", Text1);
@@ -41,9 +42,9 @@ void fmParamIns::layOut() {
     Picture1.place(Frame2, 60, 240, kWidth - 120, 960);
     CheckBox1.place(Picture1, 120, 90, kLabelWidth, 285);
     CheckBox1.setCaption("Spécifier à l'écran");
-    Label4.place(Picture1, 120, 540, kLabelWidth, 255);
+    Label4.place(Picture1, 120, 510, kLabelWidth, kFieldHeight);
     Label4.setCaption("Angle de rotation (°)");
-    Text4.place(Picture1, kFieldLeft - 60, 510, kFieldWidth, 315);
+    Text4.place(Picture1, kFieldLeft - 60, 510, kFieldWidth, kFieldHeight);
 
     OKButton.place(3825, 5160, 1215, 375);
     OKButton.setCaption("OK");
