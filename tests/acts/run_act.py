@@ -14,6 +14,7 @@ Comments at the head of the script say what it needs:
     ; exit: 1                          the exit code (0 without it)
     ; check: result.dxf [--imports]    judges a saved drawing by tools/check_drawing.py
     ; run: tool.py ARGUMENTS           runs a tool of tools/ or tests/acts in the folder
+    ; prepare: tool.py ARGUMENTS       the same before the console starts
     ; before: mkdir -p data/vorlane    a command of the shell, run in the folder before the console starts; the
                                        install folder is data/vorlane
     ; disk: 100                        no file may grow beyond so many thousand bytes, as on a full disk
@@ -38,7 +39,7 @@ PYTHON = "/usr/bin/python3"  # Debian's, which has python3-ezdxf
 
 def directives(script):
     for line in script.read_text(encoding="utf-8").splitlines():
-        match = re.match(r";\s*(drawing|copy|options|language|exit|check|run|before|disk):\s*(.*)$", line)
+        match = re.match(r";\s*(drawing|copy|options|language|exit|check|run|prepare|before|disk):\s*(.*)$", line)
         if match:
             yield match.group(1), match.group(2).strip()
         elif not line.startswith(";"):
@@ -85,6 +86,9 @@ def tell(console, script, folder):
     options = " ".join(of("options")).split()
     for command in of("before"):
         subprocess.run(command, shell=True, cwd=folder, check=True)
+    for command in of("prepare"):
+        name, *rest = command.split()
+        story += f"-- prepare {command}\n" + run_tool([find_tool(name), *rest], folder)
     done = subprocess.run([console, drawing, "--script", script, *options], cwd=folder, env=environment,
                           stdin=subprocess.DEVNULL, capture_output=True, timeout=600,
                           preexec_fn=lambda: fill_disk(of("disk")))
