@@ -87,8 +87,8 @@ double lineDistance(const LineCurve& line, const Point3& point) {
 /// Parameters in small steps along a curve, ends included.
 std::vector<double> sampleParameters(const ArcCurve& arc) {
     const double sweep = arc.end - arc.start;
-    const double wanted = std::ceil(std::min(std::abs(sweep) / kFullTurn, 16.0) * 64);
-    const int count = std::max(2, static_cast<int>(wanted));
+    const double turns = std::abs(sweep) / kFullTurn;
+    const int count = turns <= 16 ? std::max(2, static_cast<int>(std::ceil(turns * 64))) : 1024;
     std::vector<double> result;
     for (int i = 0; i <= count; ++i) result.push_back(arc.start + sweep * i / count);
     return result;

@@ -305,9 +305,11 @@ TextBox readMTextBox(dxf::TagReader tags) {
     // Attachment runs from 1, top left, over 3, top right, to 9, bottom right.
     const int place = std::clamp(text.attachment, 1, 9) - 1;
     Extent extent;
-    extent.left = -width * (place % 3) / 2;
+    const int column = place % 3;
+    const int row = place / 3;
+    extent.left = -width * column / 2;
     extent.right = extent.left + width;
-    extent.top = height * (place / 3) / 2;
+    extent.top = height * row / 2;
     extent.bottom = extent.top - height;
 
     Transform frame = objectToWorld(text.extrusion);

@@ -14,6 +14,7 @@ constexpr std::size_t kMostSteps = 2'000'000;
 
 /// The whole numbers from `low` to `high` among 0 to `count` - 1, as begin and end.
 std::pair<int, int> within(double low, double high, int count) {
+    if (!(low <= high)) return {0, count};  // no numbers, of coordinates beyond measure
     const double last = count;
     // The slack keeps a box that just touches the area from being lost to rounding.
     const double begin = std::clamp(std::ceil(low - 1e-6), 0.0, last);

@@ -74,64 +74,52 @@ bool Wildcard::parseSet(std::string_view pattern, std::size_t& position, Token& 
     return false;
 }
 
-Wildcard::Wildcard(std::string_view pattern) {
-    alternatives_.emplace_back();
-    bool first = true;
-    for (std::size_t at = 0; at < pattern.size();) {
-        std::vector<Token>& tokens = alternatives_.back().tokens;
-        const bool opening = first;
-        first = false;
-        const char c = pattern[at];
-        const auto add = [&](Kind kind) {
-            tokens.push_back({kind, 0, {}});
-            ++at;
-        };
-        switch (c) {
-            case '#':
-                add(Kind::kDigit);
-                continue;
-            case '@':
-                add(Kind::kLetter);
-                continue;
-            case '.':
-                add(Kind::kOther);
-                continue;
-            case '?':
-                add(Kind::kAny);
-                continue;
-            case '*':
-                if (tokens.empty() || tokens.back().kind != Kind::kRun) {
-                    add(Kind::kRun);
-                } else {
-                    ++at;
-                }
-                continue;
-            case ',':
-                alternatives_.emplace_back();
-                first = true;
-                ++at;
-                continue;
-            case '~':
-                if (!opening) break;
-                alternatives_.back().negated = true;
-                ++at;
-                continue;
-            case '[': {
-                Token token{Kind::kSet, 0, {}};
-                std::size_t behind = at + 1;
-                if (!parseSet(pattern, behind, token)) break;
-                tokens.push_back(std::move(token));
-                at = behind;
-                continue;
-            }
-            case '`':
-                if (at + 1 < pattern.size()) ++at;
-                break;
-            default:
-                break;
-        }
-        tokens.push_back({Kind::kLiteral, nextFolded(pattern, at), {}});
+/// The kind of a special character that stands alone; a literal for all others.
+Wildcard::Kind Wildcard::kindOf(char c) {
+    switch (c) {
+        case '#':
+            return Kind::kDigit;
+        case '@':
+            return Kind::kLetter;
+        case '.':
+            return Kind::kOther;
+        case '?':
+            return Kind::kAny;
+        case '*':
+            return Kind::kRun;
+        default:
+            return Kind::kLiteral;
     }
+}
+
+/// Reads one pattern up to the comma that ends it.
+Wildcard::Alternative Wildcard::parseAlternative(std::string_view pattern, std::size_t& at) {
+    Alternative result;
+    result.negated = at < pattern.size() && pattern[at] == '~';
+    if (result.negated) ++at;
+    while (at < pattern.size() && pattern[at] != ',') {
+        Token token{kindOf(pattern[at]), 0, {}};
+        if (token.kind != Kind::kLiteral) {
+            ++at;
+            // Runs that follow one another are one.
+            const bool again =
+                token.kind == Kind::kRun && !result.tokens.empty() && result.tokens.back().kind == Kind::kRun;
+            if (again) continue;
+        } else if (std::size_t behind = at + 1; pattern[at] == '[' && parseSet(pattern, behind, token)) {
+            at = behind;
+        } else {
+            if (pattern[at] == '`' && at + 1 < pattern.size()) ++at;
+            token = {Kind::kLiteral, nextFolded(pattern, at), {}};
+        }
+        result.tokens.push_back(std::move(token));
+    }
+    return result;
+}
+
+Wildcard::Wildcard(std::string_view pattern) {
+    std::size_t at = 0;
+    alternatives_.push_back(parseAlternative(pattern, at));
+    while (at < pattern.size()) alternatives_.push_back(parseAlternative(pattern, ++at));
 }
 
 bool Wildcard::matchesOne(const Token& token, char32_t character) {

@@ -38,6 +38,8 @@ class Wildcard {
         std::vector<Token> tokens;
     };
 
+    static Kind kindOf(char c);
+    static Alternative parseAlternative(std::string_view pattern, std::size_t& at);
     static bool parseSet(std::string_view pattern, std::size_t& position, Token& token);
     static bool matchesOne(const Token& token, char32_t character);
     static bool matchesAll(const std::vector<Token>& tokens, std::string_view text);
