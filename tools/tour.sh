@@ -10,7 +10,8 @@ rm -rf out/settings
 export XDG_DATA_HOME=$PWD/out/settings
 
 "$console" samples/apartment.dxf --script tools/tour.vns --regional en
+"$console" samples/apartment.dxf --script tools/tour_data.vns --regional en
 
 echo
-echo "== The results: out/replaced.dxf, out/labelled.dxf. Open them in any program that reads DXF."
+echo "== The results: out/replaced.dxf, out/labelled.dxf, out/rooms.txt, out/inserted.dxf. Open them in any program that reads DXF."
 echo "== Work on a drawing of your own: ./run DRAWING"
