@@ -180,7 +180,7 @@ def draw_garden(space):
     space.add_lwpolyline([(0, -0.15), (0, -3), (8, -3, 0, 0, 0.5), (8, -0.15)], close=True, dxfattribs=garden)
     space.add_blockref("POTEAU", (0.4, -2.7), dxfattribs={
         "layer": "JARDIN", "column_count": 5, "row_count": 2, "column_spacing": 1.8, "row_spacing": 2.2})
-    space.add_spline([(9, -0.5), (10.5, -2), (13, -2.5), (15, -1.2), (17, -3.5)], dxfattribs=garden)
+    space.add_cad_spline_control_frame([(9, -0.5), (10.5, -2), (13, -2.5), (15, -1.2), (17, -3.5)], dxfattribs=garden)
     space.add_ellipse((14, -4.6), major_axis=(1.8, 0.4), ratio=0.55, dxfattribs=garden)
     for x, y, size in ((11, -4.5, 1.2), (17.2, -1, 0.8), (2, -4.8, 1.0), (5.5, -4.6, 0.9)):
         insert(space, "ARBRE", (x, y), "JARDIN", scale=(size, size), rotation=15 * size)

@@ -135,11 +135,13 @@ TEST(PickTest, BlocksThatContainThemselvesOrMultiplyAreSurvived) {
     PlainDrawing plain;
     plain.block("LOOP").inBlock("LINE 8 0 10 0 20 0 11 1 21 0").inBlock("INSERT 8 0 2 LOOP 10 5 20 0");
     plain.block("B0").inBlock("LINE 8 0 10 0 20 0 11 1 21 0");
+    std::string last = "B0";
     for (int i = 1; i <= 12; ++i) {
-        plain.block("B" + std::to_string(i));
-        for (int copy = 0; copy < 10; ++copy) {
-            plain.inBlock("INSERT 8 0 2 B" + std::to_string(i - 1) + " 10 0 20 0");
-        }
+        const std::string reference = "INSERT 8 0 2 " + last + " 10 0 20 0";
+        last = "B";
+        last += std::to_string(i);
+        plain.block(last);
+        for (int copy = 0; copy < 10; ++copy) plain.inBlock(reference);
     }
     plain.entity("INSERT 8 0 2 LOOP 10 0 20 0").entity("INSERT 8 0 2 B12 10 50 20 0");
     const auto drawing = plain.make();
