@@ -1,12 +1,11 @@
 #include "desk/drawing/pick.h"
 
-#include "desk/drawing/pick_shape.h"
-#include "desk/drawing/pick_walk.h"
 #include "plain_drawing.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
-#include <set>
 #include <string>
+#include <vector>
 
 namespace drawing {
 namespace {
@@ -135,15 +134,14 @@ TEST(PickTest, BlocksThatContainThemselvesOrMultiplyAreSurvived) {
     PlainDrawing plain;
     plain.block("LOOP").inBlock("LINE 8 0 10 0 20 0 11 1 21 0").inBlock("INSERT 8 0 2 LOOP 10 5 20 0");
     plain.block("B0").inBlock("LINE 8 0 10 0 20 0 11 1 21 0");
-    std::string last = "B0";
-    for (int i = 1; i <= 12; ++i) {
-        const std::string reference = "INSERT 8 0 2 " + last + " 10 0 20 0";
-        last = "B";
-        last += std::to_string(i);
-        plain.block(last);
+    // A to L: each holds ten of the one before, the last one 10^12 lines.
+    for (char name = 'A'; name < 'M'; ++name) {
+        const std::string inner = name == 'A' ? "B0" : std::string(1, static_cast<char>(name - 1));
+        const std::string reference = "INSERT 8 0 2 " + inner + " 10 0 20 0";
+        plain.block(std::string(1, name));
         for (int copy = 0; copy < 10; ++copy) plain.inBlock(reference);
     }
-    plain.entity("INSERT 8 0 2 LOOP 10 0 20 0").entity("INSERT 8 0 2 B12 10 50 20 0");
+    plain.entity("INSERT 8 0 2 LOOP 10 0 20 0").entity("INSERT 8 0 2 L 10 50 20 0");
     const auto drawing = plain.make();
     EXPECT_EQ(picked(*drawing, 0.5, 0), 0);
     EXPECT_EQ(picked(*drawing, 5.5, 0), -1);
