@@ -60,7 +60,8 @@ std::map<std::string, fs::path> deliveredFiles(const fs::path& resources) {
     std::map<std::string, fs::path> files;
     std::error_code ignored;
     for (const auto& entry : fs::directory_iterator(resources / "languages", ignored)) {
-        if (entry.is_regular_file()) files[entry.path().filename().string()] = entry.path();
+        const std::string name = entry.path().filename().string();
+        if (entry.is_regular_file() && !name.starts_with('.')) files[name] = entry.path();
     }
     for (const auto& entry : fs::recursive_directory_iterator(resources / "help", ignored)) {
         if (!entry.is_regular_file()) continue;
@@ -95,16 +96,26 @@ void deliver(const fs::path& folder, const fs::path& resources) {
     writeBytes(folder, folder / kDeliveryList, list);
 }
 
-bool hasLanguageChoice(const fs::path& settings) {
-    basic::TextReader reader(settings.string());
-    while (!reader.atEnd()) {
-        const std::string line = reader.readLine();
-        if (line.size() > 4 && basic::equalIgnoringCase(line.substr(0, 4), "Lng=")) return true;
-    }
-    return false;
+void storeLanguage(const fs::path& settings, const std::string& language) {
+    // A last line without its end, as editors leave it, must not run into ours.
+    const std::string before = readBytes(settings);
+    const bool endsOpen = !before.empty() && !before.ends_with("\r\n") && !before.ends_with('\r');
+    basic::TextWriter writer(settings.string(), basic::TextWriter::Mode::Append);
+    if (endsOpen) writer.writeLine("");
+    writer.writeLine("Lng=" + language);
+    writer.close();
 }
 
 }  // namespace
+
+std::string storedLanguage(const fs::path& folder) {
+    basic::TextReader reader((folder / kSettingsFile).string());
+    while (!reader.atEnd()) {
+        const std::string line = reader.readLine();
+        if (line.size() > 4 && basic::equalIgnoringCase(line.substr(0, 4), "Lng=")) return line.substr(4);
+    }
+    return {};
+}
 
 void prepareInstallFolder(const fs::path& folder, const fs::path& resources, const std::string& language) {
     std::error_code error;
@@ -114,11 +125,7 @@ void prepareInstallFolder(const fs::path& folder, const fs::path& resources, con
     const fs::path settings = folder / kSettingsFile;
     if (!fs::exists(settings, error)) writeBytes(folder, settings, {});
     if (!fs::is_regular_file(settings, error)) fail(folder, std::string(kSettingsFile) + " is not a file");
-    if (!hasLanguageChoice(settings)) {
-        basic::TextWriter writer(settings.string(), basic::TextWriter::Mode::Append);
-        writer.writeLine("Lng=" + language);
-        writer.close();
-    }
+    if (storedLanguage(folder).empty()) storeLanguage(settings, language);
 }
 
 }  // namespace shell

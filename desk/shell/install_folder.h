@@ -13,4 +13,8 @@ namespace shell {
 void prepareInstallFolder(const std::filesystem::path& folder, const std::filesystem::path& resources,
                           const std::string& language);
 
+/// The display name of the language that the settings file of an install folder holds; empty for none. Raises
+/// the file errors of basic/text_file.h.
+std::string storedLanguage(const std::filesystem::path& folder);
+
 }  // namespace shell

@@ -2,10 +2,15 @@
 
 #include "basic/error.h"
 #include "basic/text.h"
+#include "desk/shell/help_pages.h"
+#include "desk/shell/html_text.h"
+#include "desk/shell/install_folder.h"
 #include "desk/shell/process.h"
 #include "desk/shell/surroundings.h"
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 
 namespace shell {
 
@@ -51,7 +56,24 @@ void LinuxPlatform::openDocument(const std::string& document, const std::string&
 }
 
 void LinuxPlatform::showHelp(const std::string& helpFile, std::optional<std::int32_t> context) {
-    tell_("Help: " + helpFile + (context ? ", topic " + std::to_string(*context) : std::string()));
+    // The pages lie in a folder beside the place of the compiled file, which is for other systems.
+    const fs::path folder = fs::path(helpFile).parent_path();
+    std::string language;
+    try {
+        language = storedLanguage(folder);
+    } catch (const basic::Error&) {
+        // Without settings the help speaks the language that it has for any other.
+    }
+    const std::optional<fs::path> page = helpPage(folder / "help", context, language);
+    if (!page) {
+        tell_("There is no help page" + (context ? " for topic " + std::to_string(*context) : std::string()) +
+              " in " + (folder / "help").string());
+        return;
+    }
+    std::ifstream file(*page, std::ios::binary);
+    const std::string html{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    tell_("[help: " + page->parent_path().filename().string() + "/" + page->filename().string() + "]\n" +
+          htmlToText(html) + "[end of help]");
 }
 
 }  // namespace shell

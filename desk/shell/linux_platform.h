@@ -27,6 +27,8 @@ class LinuxPlatform : public platform::Platform {
     /// With xdg-open where there is a display; parameters and folder serve nothing here.
     void openDocument(const std::string& document, const std::string& parameters,
                       const std::string& folder) override;
+    /// Tells the text of the page, from the folder "help" beside the help file, in the language that is
+    /// stored.
     void showHelp(const std::string& helpFile, std::optional<std::int32_t> context) override;
     const basic::Regional& regional() override { return regional_; }
     void initCommonControls() override {}

@@ -1,0 +1,45 @@
+#include "desk/shell/help_pages.h"
+
+#include <fstream>
+
+namespace shell {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kOtherwise = "en";
+
+/// The second word of the table's line that begins with `number`.
+std::string pageOf(const fs::path& table, std::int32_t number) {
+    std::ifstream file(table);
+    std::string page, rest;
+    for (std::int32_t context = 0; file >> context >> page; std::getline(file, rest)) {
+        if (context == number) return page;
+    }
+    return {};
+}
+
+/// The folder of the language of that name: a line is a folder, a blank, a name.
+std::string folderOf(const fs::path& table, std::string_view language) {
+    std::ifstream file(table);
+    std::string folder, name;
+    while (file >> folder && std::getline(file >> std::ws, name)) {
+        if (name == language) return folder;
+    }
+    return kOtherwise;
+}
+
+}  // namespace
+
+std::optional<fs::path> helpPage(const fs::path& help, std::optional<std::int32_t> context,
+                                 std::string_view language) {
+    const std::string name = pageOf(help / "contexts.txt", context.value_or(0));
+    if (name.empty()) return std::nullopt;
+    const fs::path page = help / folderOf(help / "languages.txt", language) / (name + ".html");
+    std::error_code error;
+    if (!fs::is_regular_file(page, error)) return std::nullopt;
+    return page;
+}
+
+}  // namespace shell
