@@ -1,8 +1,22 @@
 #include "desk/drawing/layer_table.h"
 
+#include <cstdlib>
 #include <utility>
 
 namespace drawing {
+
+void Layer::readState(dxf::TagReader reader) {
+    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
+        if (tag.code == 62) {
+            color = static_cast<int>(std::abs(tag.integerOr(7)));
+            off = tag.integerOr(7) < 0;
+        }
+        if (tag.code == 70) {
+            frozen = (tag.integerOr(0) & 1) != 0;
+            locked = (tag.integerOr(0) & 4) != 0;
+        }
+    }
+}
 
 const Layer& LayerTable::operator[](NameId name) const {
     return contains(name) ? layers_[byName_[name] - 1] : missing_;

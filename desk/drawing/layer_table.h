@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desk/drawing/ids.h"
+#include "desk/dxf/tag_reader.h"
 
 #include <string>
 #include <string_view>
@@ -16,6 +17,9 @@ struct Layer {
     bool frozen = false;          ///< group 70, bit 1
     bool locked = false;          ///< group 70, bit 4
     bool off = false;             ///< group 62 is negative
+
+    /// Takes colour and state from the groups of a LAYER.
+    void readState(dxf::TagReader reader);
 };
 
 /// The layers by the keys of their interned names.

@@ -98,10 +98,7 @@ void Opener::addBlockRecord(EntityId id) {
     block.nameKey = nameKey(id);
     block.handle = store_.record(id).handle;
     block.record = id;
-    dxf::TagReader reader = store_.reader(id);
-    for (dxf::Tag tag; reader.next(tag);) {
-        if (tag.code == 2) block.name = tag.text();
-    }
+    block.name = store_.names.text(store_.record(id).name);
     if (drawing_->blocks_.find(block.name) != kNoBlock) {
         report(id, "a second block record of the name " + block.name);
         return;
@@ -162,18 +159,8 @@ void Opener::addBlock(const BlockRange& range) {
 void Opener::addLayer(EntityId id) {
     Layer layer;
     layer.record = id;
-    dxf::TagReader reader = store_.reader(id);
-    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
-        if (tag.code == 2) layer.name = tag.text();
-        if (tag.code == 62) {
-            layer.color = static_cast<int>(std::abs(tag.integerOr(7)));
-            layer.off = tag.integerOr(7) < 0;
-        }
-        if (tag.code == 70) {
-            layer.frozen = (tag.integerOr(0) & 1) != 0;
-            layer.locked = (tag.integerOr(0) & 4) != 0;
-        }
-    }
+    layer.name = store_.names.text(store_.record(id).name);
+    layer.readState(store_.reader(id));
     drawing_->layers_.add(nameKey(id), std::move(layer));
 }
 

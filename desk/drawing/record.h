@@ -60,6 +60,7 @@ enum TypeId : std::uint16_t {
     kStyleEntry,
     kLineTypeEntry,
     kDimStyleEntry,
+    kAppEntry,
     kTable,
     kTableEnd,
     kDictionary,
@@ -69,9 +70,9 @@ enum TypeId : std::uint16_t {
     kKnownTypes
 };
 inline constexpr std::string_view kTypeNames[] = {
-    "",      "INSERT", "ATTRIB",       "SEQEND", "ATTDEF", "POLYLINE", "VERTEX",
-    "BLOCK", "ENDBLK", "BLOCK_RECORD", "LAYER",  "STYLE",  "LTYPE",    "DIMSTYLE",
-    "TABLE", "ENDTAB", "DICTIONARY",   "LAYOUT", "GROUP",  "LINE"};
+    "",      "INSERT", "ATTRIB",       "SEQEND",     "ATTDEF", "POLYLINE", "VERTEX",
+    "BLOCK", "ENDBLK", "BLOCK_RECORD", "LAYER",      "STYLE",  "LTYPE",    "DIMSTYLE",
+    "APPID", "TABLE",  "ENDTAB",       "DICTIONARY", "LAYOUT", "GROUP",    "LINE"};
 static_assert(std::size(kTypeNames) == kKnownTypes);
 
 }  // namespace drawing

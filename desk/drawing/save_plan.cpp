@@ -88,37 +88,56 @@ void SavePlan::addRecord(EntityId id) {
 }
 
 void SavePlan::addOthers() {
+    bool hasBlocks = false;
     for (const Addition& addition : store_.additions) {
-        beginPatch(addition.offset, addition.offset);
+        hasBlocks = hasBlocks || addition.place == Place::Blocks;
+        if (addition.place != Place::BeforeRecord) continue;
+        const std::size_t offset = store_.fileRange(addition.before).begin;
+        beginPatch(offset, offset);
         addRecord(addition.id);
     }
+    if (!hasBlocks) return;
+    const bool isNew = beginAddition(dxf::SectionKind::Blocks, "BLOCKS");
+    for (const Addition& addition : store_.additions) {
+        if (addition.place == Place::Blocks) addRecord(addition.id);
+    }
+    if (isNew) endSection();
+}
+
+bool SavePlan::beginAddition(dxf::SectionKind kind, std::string_view name) {
+    // The order of sections is that of the format: BLOCKS, ENTITIES, OBJECTS.
+    const dxf::Section* section = store_.outline.find(kind);
+    const dxf::Section* next = nullptr;
+    if (kind == dxf::SectionKind::Blocks) next = store_.outline.find(dxf::SectionKind::Entities);
+    if (next == nullptr) next = store_.outline.find(dxf::SectionKind::Objects);
+    const std::size_t offset = section != nullptr ? section->bodyEnd
+                               : next != nullptr  ? next->begin
+                                                  : store_.outline.eof;
+    beginPatch(offset, offset);
+    const std::string_view file = store_.source().bytes();
+    const bool lineIsOpen = !store_.format().binary && offset > 0 && file[offset - 1] != '\n';
+    if (lineIsOpen) addPiece(store_.format().newline());
+    if (section != nullptr) return false;
+    dxf::TagWriter opening(store_.format(), own());
+    opening.plain(0, "SECTION");
+    opening.plain(2, name);
+    addPiece(owned_.back());
+    return true;
+}
+
+void SavePlan::endSection() {
+    dxf::TagWriter(store_.format(), own()).plain(0, "ENDSEC");
+    addPiece(owned_.back());
 }
 
 void SavePlan::addEntities() {
     const std::vector<EntityId>& entities = drawing_.blocks()[drawing_.modelSpace()].entities;
     const auto first = std::lower_bound(entities.begin(), entities.end(), store_.fileCount());
     if (first == entities.end()) return;
-    const dxf::Section* section = store_.outline.find(dxf::SectionKind::Entities);
-    const dxf::Section* objects = store_.outline.find(dxf::SectionKind::Objects);
-    const std::size_t offset = section != nullptr   ? section->bodyEnd
-                               : objects != nullptr ? objects->begin
-                                                    : store_.outline.eof;
-    const std::string_view file = store_.source().bytes();
-    beginPatch(offset, offset);
-    const bool lineIsOpen = !store_.format().binary && offset > 0 && file[offset - 1] != '\n';
-    if (lineIsOpen) addPiece(store_.format().newline());
-    if (section == nullptr) {
-        dxf::TagWriter opening(store_.format(), own());
-        opening.plain(0, "SECTION");
-        opening.plain(2, "ENTITIES");
-        addPiece(owned_.back());
-    }
+    const bool isNew = beginAddition(dxf::SectionKind::Entities, "ENTITIES");
     newPieces_.reserve(newPieces_.size() + (store_.count() - store_.fileCount()));
     for (auto id = first; id != entities.end(); ++id) addRecord(*id);
-    if (section == nullptr) {
-        dxf::TagWriter(store_.format(), own()).plain(0, "ENDSEC");
-        addPiece(owned_.back());
-    }
+    if (isNew) endSection();
 }
 
 void SavePlan::joinPieces() {

@@ -32,6 +32,9 @@ class SavePlan {
     void patchGroup(EntityId id);
     void addEntities();
     void addOthers();
+    /// Begins a patch at the end of a section; true where the file lacks it and it was opened.
+    bool beginAddition(dxf::SectionKind kind, std::string_view name);
+    void endSection();
     /// Pieces added until the next call belong to this range.
     void beginPatch(std::size_t begin, std::size_t end);
     void addPiece(std::string_view bytes);

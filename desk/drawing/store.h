@@ -35,9 +35,12 @@ struct StepLog {
     }
 };
 
-/// A record that was made outside the spaces, and where in the file it goes.
+/// Where in the file a record goes that doesn't belong to a space.
+enum class Place { BeforeRecord, Blocks };
+/// Such a record: in front of another one of the file, or at the end of the BLOCKS section.
 struct Addition {
-    std::size_t offset;
+    Place place;
+    EntityId before;  ///< of BeforeRecord
     EntityId id;
 };
 
