@@ -28,6 +28,18 @@ int waitFor(pid_t child) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 127;
 }
 
+/// In a child process: starts the program in a child of its own, which the system's first process takes over,
+/// so that nobody has to wait for it.
+[[noreturn]] void runDetached(std::vector<char*>& words, int failure) {
+    setsid();
+    const int null = open("/dev/null", O_RDWR);
+    for (int descriptor = 0; descriptor < 3; ++descriptor) dup2(null, descriptor);
+    const pid_t grandchild = fork();
+    if (grandchild == 0) execvp(words[0], words.data());
+    if (grandchild <= 0 && write(failure, "!", 1) != 1) _exit(126);
+    _exit(grandchild > 0 ? 0 : 127);
+}
+
 }  // namespace
 
 std::optional<std::string> findProgram(const std::string& name) {
@@ -54,20 +66,22 @@ int runProgram(const std::vector<std::string>& command) {
 }
 
 bool startProgram(const std::vector<std::string>& command) {
-    // The child's child is taken over by the system's first process, so nobody has to wait for it.
+    // The pipe closes when the program has started; a byte in it says that it couldn't be.
+    int failure[2];
+    if (pipe2(failure, O_CLOEXEC) != 0) return false;
     std::vector<char*> words = arguments(command);
     const pid_t child = fork();
-    if (child < 0) return false;
-    if (child > 0) return waitFor(child) == 0;
-    setsid();
-    const int null = open("/dev/null", O_RDWR);
-    for (int descriptor = 0; descriptor < 3; ++descriptor) dup2(null, descriptor);
-    const pid_t grandchild = fork();
-    if (grandchild == 0) {
-        execvp(words[0], words.data());
-        _exit(127);
+    if (child == 0) runDetached(words, failure[1]);
+    close(failure[1]);
+    char byte = 0;
+    ssize_t count = 0;
+    if (child > 0) {
+        waitFor(child);
+        while ((count = read(failure[0], &byte, 1)) < 0 && errno == EINTR) {
+        }
     }
-    _exit(grandchild < 0 ? 1 : 0);
+    close(failure[0]);
+    return child > 0 && count == 0;
 }
 
 }  // namespace shell
