@@ -1,0 +1,176 @@
+#include "desk/shell/surroundings.h"
+
+#include "desk/shell/dwg_converter.h"
+#include "desk/shell/linux_platform.h"
+#include "desk/shell/process.h"
+#include "shell_world.h"
+
+#include <map>
+#include <sys/wait.h>
+
+namespace shell {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Variables = std::map<std::string, std::string>;
+
+ReadVariable reading(const Variables& variables) {
+    return [variables](const char* name) {
+        const auto found = variables.find(name);
+        return found == variables.end() ? std::string() : found->second;
+    };
+}
+
+TEST(SurroundingsTest, TheFirstVariableThatIsSetDecides) {
+    struct Row {
+        Variables variables;
+        bool frenchDesktop;
+        bool frenchNumbers;
+    };
+    const Row rows[] = {
+        {{}, false, false},
+        {{{"LANG", "fr_FR.UTF-8"}}, true, true},
+        {{{"LANG", "fr"}, {"LC_NUMERIC", "C"}}, true, false},
+        {{{"LANG", "en_GB.UTF-8"}, {"LC_NUMERIC", "fr_CA.UTF-8"}}, false, true},
+        {{{"LANG", "en_GB.UTF-8"}, {"LC_MESSAGES", "fr_BE.UTF-8"}}, true, false},
+        {{{"LANG", "fr_FR.UTF-8"}, {"LC_ALL", "C"}}, false, false},
+        {{{"LANG", "fr_FR.UTF-8"}, {"LC_ALL", ""}}, true, true},
+    };
+    for (const Row& row : rows) {
+        const ReadVariable variable = reading(row.variables);
+        EXPECT_EQ(isFrenchDesktop(variable), row.frenchDesktop);
+        EXPECT_EQ(desktopRegional(variable).decimal, row.frenchNumbers ? "," : ".");
+    }
+    EXPECT_EQ(regionalByName("fr")->decimal, ",");
+    EXPECT_EQ(regionalByName("en")->decimal, ".");
+    EXPECT_FALSE(regionalByName("FR").has_value());
+}
+
+TEST(SurroundingsTest, TheInstallFolder) {
+    EXPECT_EQ(installFolder(reading({{"XDG_DATA_HOME", "/data"}, {"HOME", "/home/a"}})), "/data/vorlane");
+    EXPECT_EQ(installFolder(reading({{"XDG_DATA_HOME", "data"}, {"HOME", "/home/a"}})),
+              "/home/a/.local/share/vorlane")
+        << "a relative path doesn't count";
+    EXPECT_THROW(installFolder(reading({})), basic::Error);
+    EXPECT_TRUE(fs::exists(resourceFolder() / "languages"));
+    EXPECT_EQ(programFile().filename(), "test_shell");
+}
+
+TEST(LinuxPlatformTest, RegistryFilesAndNames) {
+    fakes::TempFolder folder;
+    for (const char* name : {"b.LNG", "a.LNG", "C.LNG"}) folder.write(name, "");
+    fs::create_directories(folder.file("aa"));
+    Texts told;
+    LinuxPlatform platform(folder.path(), basic::Regional::french(),
+                           [&](const std::string& text) { told.push_back(text); });
+    const auto root = platform::RegistryRoot::LocalMachine;
+    const auto value = platform.queryRegistry(root, "SOFTWARE\\Merovane\\Vorlane\\1.0", "installpath");
+    ASSERT_TRUE(value.has_value());
+    EXPECT_EQ(value->type, platform::kRegistryString);
+    EXPECT_EQ(value->bytes, folder.path());
+    EXPECT_FALSE(platform.queryRegistry(root, "Software\\Merovane\\Vorlane\\2.0", "InstallPath").has_value());
+    EXPECT_FALSE(platform.queryRegistry(root, "Software\\Merovane\\Vorlane\\1.0", "Other").has_value());
+
+    EXPECT_EQ(platform.folderFiles(folder.path()),
+              (Texts{folder.file("C.LNG"), folder.file("a.LNG"), folder.file("b.LNG")}));
+    EXPECT_THROW(platform.folderFiles(folder.file("none")), basic::Error);
+    EXPECT_EQ(platform.joinPath("", "Vorlane.ini"), "/Vorlane.ini");
+    EXPECT_EQ(platform.baseName("/plans/porte.v2.dxf"), "porte.v2");
+    EXPECT_EQ(platform.ownFolder(), programFile().parent_path());
+    EXPECT_EQ(platform.regional().decimal, ",");
+}
+
+/// Programs of a test's own on PATH, and nothing else.
+class ProgramsTest : public testing::Test {
+  protected:
+    void addProgram(const char* name, const std::string& script) {
+        const std::string path = folder.write(name, "#!/bin/sh\n" + script + "\n");
+        fs::permissions(path, fs::perms::owner_all);
+    }
+    fakes::TempFolder folder;
+    ChangedVariable path{"PATH", folder.path()};
+};
+
+TEST_F(ProgramsTest, AreFoundRunAndLeftToThemselves) {
+    addProgram("answer", "echo noise; test \"$1\" = 'a b;c' && exit 42");
+    folder.write("plain", "not executable");
+    EXPECT_EQ(findProgram("answer"), folder.file("answer"));
+    EXPECT_FALSE(findProgram("plain").has_value());
+    EXPECT_EQ(runProgram({"answer", "a b;c"}), 42) << "without a shell in between";
+    EXPECT_EQ(runProgram({"missing"}), 127);
+    EXPECT_TRUE(startProgram({"answer", "x"}));
+    EXPECT_FALSE(startProgram({"missing"}));
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no child is left behind";
+}
+
+TEST_F(ProgramsTest, AnAddressIsToldWhereNothingCanShowIt) {
+    Texts told;
+    LinuxPlatform platform(folder.path(), basic::Regional::english(),
+                           [&](const std::string& text) { told.push_back(text); });
+    const ChangedVariable wayland("WAYLAND_DISPLAY", "");
+    {
+        const ChangedVariable display("DISPLAY", "");
+        platform.openDocument("https://a.example/", "", "");
+        EXPECT_EQ(told, Texts{"https://a.example/"}) << "no display";
+    }
+    const ChangedVariable display("DISPLAY", ":7");
+    platform.openDocument("https://b.example/", "", "");
+    EXPECT_EQ(told.size(), 2U) << "no xdg-open";
+    addProgram("xdg-open", "exit 0");
+    platform.openDocument("https://c.example/", "", "");
+    EXPECT_EQ(told.size(), 2U);
+}
+
+TEST_F(ProgramsTest, ADwgNeedsAConverter) {
+    const std::string dwg = folder.write("my plan.dwg", "DWG");
+    try {
+        convertDwg(dwg);
+        FAIL();
+    } catch (const basic::Error& error) {
+        EXPECT_EQ(error.number(), basic::kFileNotFound);
+        EXPECT_NE(error.description().find("dwg2dxf"), std::string::npos) << error.description();
+        EXPECT_NE(error.description().find(dwg), std::string::npos) << error.description();
+    }
+
+    // The arguments are -y -o OUTPUT INPUT.
+    addProgram("dwg2dxf", "read line < \"$4\"; echo \"dxf of $line\" > \"$3\"");
+    const std::string made = convertDwg(dwg);
+    std::ifstream file(made);
+    std::string line;
+    std::getline(file, line);
+    EXPECT_EQ(line, "dxf of DWG");
+    fs::remove(made);
+
+    // The other converter takes folders: source, target, version, format, recursive, audit, name.
+    fs::remove(folder.file("dwg2dxf"));
+    addProgram("ODAFileConverter", "echo \"$1 $7\" > \"$2/my plan.dxf\"");
+    const std::string other = convertDwg(dwg);
+    std::ifstream otherFile(other);
+    std::getline(otherFile, line);
+    EXPECT_EQ(line, folder.path() + " my plan.dwg");
+    fs::remove(other);
+}
+
+TEST_F(ProgramsTest, AConversionThatFailsLeavesNothingBehind) {
+    const std::string dwg = folder.write("plan.dwg", "DWG");
+    const ChangedVariable temporary("TMPDIR", folder.path());
+    const auto fileCount = [&] {
+        return std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator());
+    };
+    addProgram("dwg2dxf", "");
+    const auto before = fileCount();
+    for (const char* script : {"exit 0", "echo half > \"$3\"; exit 1"}) {
+        addProgram("dwg2dxf", script);
+        try {
+            convertDwg(dwg);
+            FAIL();
+        } catch (const basic::Error& error) {
+            EXPECT_EQ(error.number(), basic::kDeviceError) << script;
+        }
+        EXPECT_EQ(fileCount(), before) << script;
+    }
+}
+
+}  // namespace
+}  // namespace shell
