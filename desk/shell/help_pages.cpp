@@ -36,10 +36,12 @@ std::optional<fs::path> helpPage(const fs::path& help, std::optional<std::int32_
                                  std::string_view language) {
     const std::string name = pageOf(help / "contexts.txt", context.value_or(0));
     if (name.empty()) return std::nullopt;
-    const fs::path page = help / folderOf(help / "languages.txt", language) / (name + ".html");
-    std::error_code error;
-    if (!fs::is_regular_file(page, error)) return std::nullopt;
-    return page;
+    for (const std::string& folder : {folderOf(help / "languages.txt", language), std::string(kOtherwise)}) {
+        const fs::path page = help / folder / (name + ".html");
+        std::error_code error;
+        if (fs::is_regular_file(page, error)) return page;
+    }
+    return std::nullopt;
 }
 
 }  // namespace shell

@@ -1,0 +1,95 @@
+#include "desk/shell/help_pages.h"
+#include "desk/shell/html_text.h"
+#include "desk/shell/linux_platform.h"
+#include "tests/fakes/temp_folder.h"
+
+#include <gtest/gtest.h>
+#include <optional>
+#include <sstream>
+#include <string>
+
+namespace shell {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(HtmlTextTest, BlocksHaveTheirShapes) {
+    EXPECT_EQ(htmlToText("<html><head><title>Hidden</title></head><body>\n"
+                         "<p class=\"nav\"><a href=\"x\">Hidden</a> too</p>\n"
+                         "<h1>Caf\u00E9</h1><p>One\n  <b>two</b>,\nthree.</p>\n"
+                         "<h2>List</h2><ul>\n<li>a</li><li>b</li></ul><ol><li>c</li><li>d</li></ol>\n"
+                         "<table><tr><th>Name</th><td>what it does</td></tr></table></body></html>"),
+              "Caf\u00E9\n====\n\nOne two, three.\n\nList\n----\n"
+              "  - a\n  - b\n  1. c\n  2. d\n  Name\n      what it does\n");
+}
+
+TEST(HtmlTextTest, LinesAreWrappedByCharactersUnderTheirBlock) {
+    std::string words;
+    for (int i = 0; i < 20; ++i) words += "\u00E9t\u00E9-\u00E9t\u00E9 ";  // 8 columns each, with the blank
+    std::istringstream lines(htmlToText("<ul><li>" + words + "</li></ul>"));
+    std::string line;
+    std::getline(lines, line);
+    EXPECT_EQ(line.substr(0, 4), "  - ");
+    EXPECT_EQ(std::count(line.begin(), line.end(), '-'), 10) << "nine words beside the dash of the entry";
+    std::getline(lines, line);
+    EXPECT_EQ(line.substr(0, 5), "    \xC3");
+    const std::string longWord(100, 'x');
+    EXPECT_EQ(htmlToText("<p>a " + longWord + " b</p>"), "a\n" + longWord + "\nb\n");
+}
+
+TEST(HtmlTextTest, EntitiesAndDamagedMarkup) {
+    EXPECT_EQ(htmlToText("<p>&lt;&lt; &amp;amp; &#233;&#xe9; &quot;a&nbsp;b&quot;</p>"),
+              "<< &amp; \u00E9\u00E9 \"a b\"\n");
+    EXPECT_EQ(htmlToText("R&D &unknown; &#; &#12a; & end"), "R&D &unknown; &#; &#12a; & end\n");
+    EXPECT_EQ(htmlToText("</li></ul><li>loose</li> text <p unfinished"), "  - loose\ntext\n");
+    EXPECT_EQ(htmlToText(""), "");
+}
+
+struct HelpPages : testing::Test {
+    std::string told() {
+        std::string text;
+        text.swap(told_);
+        return text;
+    }
+    void show(std::optional<std::int32_t> context) { platform.showHelp(folder.file("Vorlane.chm"), context); }
+    void choose(const std::string& language) { folder.write("Vorlane.ini", "Lng=" + language + "\r\n"); }
+
+    fakes::TempFolder folder;
+    std::string told_;
+    LinuxPlatform platform{folder.path(), basic::Regional::english(),
+                           [this](const std::string& text) { told_ += text + "\n"; }};
+};
+
+TEST_F(HelpPages, EveryContextHasItsPageInTheLanguageChosen) {
+    fs::copy(VORLANE_ROOT "/resources/help", folder.file("help"), fs::copy_options::recursive);
+    choose(
+        "Fran\xE7"
+        "ais");
+    show(101200);
+    EXPECT_TRUE(told().starts_with("[help: fr/replace.html]\nRemplacement de blocs\n====="));
+    show(std::nullopt);
+    EXPECT_TRUE(told().starts_with("[help: fr/start.html]\n"));
+    choose("Deutsch");
+    show(100100);
+    EXPECT_TRUE(told().starts_with("[help: en/about.html]\nAbout Vorlane\n")) << "for want of a page in it";
+    show(100500);
+    EXPECT_EQ(told(), "There is no help page for topic 100500 in " + folder.file("help") + "\n");
+
+    // A language brought by the user, with a single page so far.
+    fs::create_directory(folder.file("help/de"));
+    folder.write("help/de/start.html", "<h1>Hilfe</h1>");
+    folder.write("help/languages.txt", "fr Fran\u00E7ais\nde Deutsch\n");
+    show(std::nullopt);
+    EXPECT_EQ(told(), "[help: de/start.html]\nHilfe\n=====\n[end of help]\n");
+    show(100100);
+    EXPECT_TRUE(told().starts_with("[help: en/about.html]\n"));
+}
+
+TEST_F(HelpPages, WithoutSettingsOrPagesItSaysSo) {
+    show(std::nullopt);
+    EXPECT_EQ(told(), "There is no help page in " + folder.file("help") + "\n");
+    EXPECT_EQ(helpPage(folder.file("help"), 0, ""), std::nullopt);
+}
+
+}  // namespace
+}  // namespace shell
