@@ -163,13 +163,13 @@ class FakeSelectionSets : public FakeObject {
 
 class FakeModelSpace : public FakeObject {
   public:
-    explicit FakeModelSpace(FakeDrawingPtr drawing) : drawing_(std::move(drawing)) {}
+    explicit FakeModelSpace(FakeDrawing& drawing) : drawing_(drawing) {}
 
     Variant call(std::string_view member, Arguments& arguments) override {
         if (is(member, "AddLine")) {
             const auto line = std::make_shared<FakeLine>(drawing_, pointOf(argument(arguments, 0)),
                                                          pointOf(argument(arguments, 1)));
-            drawing_->entities.push_back(line);
+            drawing_.entities.push_back(line);
             return Variant(line);
         }
         if (!is(member, "InsertBlock")) throw basic::Error(basic::kNoSuchMember);
@@ -183,11 +183,11 @@ class FakeModelSpace : public FakeObject {
         reference->rotation = argument(arguments, 5).number();
         for (const auto& [tag, text] : block->attributes)
             reference->attributes.push_back(std::make_shared<FakeAttribute>(tag, text, reference));
-        drawing_->entities.push_back(reference);
+        drawing_.entities.push_back(reference);
         return Variant(reference);
     }
     void enumerate(const std::function<bool(const Variant&)>& visit) override {
-        for (const FakeEntityPtr& entity : drawing_->entities)
+        for (const FakeEntityPtr& entity : drawing_.entities)
             if (!entity->erased && entity->space == Space::Model && !visit(Variant(entity))) return;
     }
 
@@ -198,13 +198,13 @@ class FakeModelSpace : public FakeObject {
     }
     /// The block of that name; a block file's path brings its block in first.
     FakeBlockPtr definition(const std::string& name) {
-        if (auto block = drawing_->findBlock(name)) return block;
-        const auto file = drawing_->files.find(name);
-        if (file == drawing_->files.end()) throw keyNotFound();
-        if (!drawing_->findBlock(file->second->name)) drawing_->blocks.push_back(file->second);
+        if (auto block = drawing_.findBlock(name)) return block;
+        const auto file = drawing_.files.find(name);
+        if (file == drawing_.files.end()) throw keyNotFound();
+        if (!drawing_.findBlock(file->second->name)) drawing_.blocks.push_back(file->second);
         return file->second;
     }
-    FakeDrawingPtr drawing_;
+    FakeDrawing& drawing_;
 };
 
 class FakeBlocks : public FakeObject {
@@ -253,7 +253,7 @@ class FakeDocument : public FakeObject {
   public:
     explicit FakeDocument(FakeDrawingPtr drawing) : drawing_(std::move(drawing)) {}
     Variant get(std::string_view member) override {
-        if (is(member, "ModelSpace")) return Variant(std::make_shared<FakeModelSpace>(drawing_));
+        if (is(member, "ModelSpace")) return Variant(std::make_shared<FakeModelSpace>(*drawing_));
         if (is(member, "Blocks")) return Variant(std::make_shared<FakeBlocks>(*drawing_));
         if (is(member, "Utility")) return Variant(std::make_shared<FakeUtility>(*drawing_));
         if (is(member, "SelectionSets")) return Variant(std::make_shared<FakeSelectionSets>(*drawing_));
@@ -281,7 +281,7 @@ class FakeHost {
     /// on.
     FakeReferencePtr addReference(const std::string& block, Point point = {},
                                   const std::vector<std::string>& texts = {}) {
-        auto reference = std::make_shared<FakeReference>(drawing_, block);
+        auto reference = std::make_shared<FakeReference>(*drawing_, block);
         reference->point = point;
         if (const FakeBlockPtr definition = drawing_->findBlock(block)) {
             for (const auto& [tag, text] : definition->attributes) {
@@ -294,7 +294,7 @@ class FakeHost {
         return reference;
     }
     FakeEntityPtr addEntity(std::string objectName) {
-        drawing_->entities.push_back(std::make_shared<FakeEntity>(drawing_, std::move(objectName)));
+        drawing_->entities.push_back(std::make_shared<FakeEntity>(*drawing_, std::move(objectName)));
         return drawing_->entities.back();
     }
 

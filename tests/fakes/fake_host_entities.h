@@ -68,17 +68,16 @@ struct DrawingState {
         return false;
     }
 };
-using DrawingStatePtr = std::shared_ptr<DrawingState>;
 
 using Point = std::array<double, 3>;
 
 enum class Space { Model, Paper };
 
-/// Any entity: the members that all kinds have.
+/// Any entity: the members that all kinds have. The drawing outlives it.
 class FakeEntity : public FakeObject {
   public:
-    FakeEntity(DrawingStatePtr drawing, std::string objectName)
-        : objectName(std::move(objectName)), layer(drawing->currentLayer), drawing_(std::move(drawing)) {}
+    FakeEntity(DrawingState& drawing, std::string objectName)
+        : objectName(std::move(objectName)), layer(drawing.currentLayer), drawing_(drawing) {}
 
     std::string objectName;
     std::string name;  ///< what group code 2 carries: a reference's block name, else empty
@@ -100,7 +99,7 @@ class FakeEntity : public FakeObject {
     Variant call(std::string_view member, Arguments&) override {
         requireAlive();
         if (is(member, "Update")) {
-            ++drawing_->updates;
+            ++drawing_.updates;
         } else if (is(member, "Delete")) {
             requireUnlocked();
             erased = true;
@@ -115,9 +114,9 @@ class FakeEntity : public FakeObject {
         if (erased) throw erasedError();
     }
     void requireUnlocked() const {
-        if (drawing_->isLocked(layer)) throw basic::Error(kLockedLayer, "Object is on a locked layer");
+        if (drawing_.isLocked(layer)) throw basic::Error(kLockedLayer, "Object is on a locked layer");
     }
-    DrawingStatePtr drawing_;
+    DrawingState& drawing_;
 };
 
 /// An attribute reference. It dies with the reference that carries it.
@@ -152,8 +151,7 @@ class FakeAttribute : public FakeObject {
 /// A block reference.
 class FakeReference : public FakeEntity {
   public:
-    FakeReference(DrawingStatePtr drawing, std::string blockName)
-        : FakeEntity(std::move(drawing), "AcDbBlockReference") {
+    FakeReference(DrawingState& drawing, std::string blockName) : FakeEntity(drawing, "AcDbBlockReference") {
         name = std::move(blockName);
     }
 
@@ -186,7 +184,7 @@ class FakeReference : public FakeEntity {
         if (const int axis = scaleAxis(member); axis >= 0) {
             scale[axis] = scaleFactor(value);
         } else if (is(member, "Rotation")) {
-            rotation = basic::toDouble(value, drawing_->regional);
+            rotation = basic::toDouble(value, drawing_.regional);
         } else if (is(member, "Visible")) {
             visible = value.boolean();
         } else if (is(member, "InsertionPoint")) {
@@ -204,7 +202,7 @@ class FakeReference : public FakeEntity {
 
     /// A scale factor as the host takes it: any number but 0, a text read under the regional settings.
     double scaleFactor(const Variant& value) const {
-        const double factor = basic::toDouble(value, drawing_->regional);
+        const double factor = basic::toDouble(value, drawing_.regional);
         if (factor == 0) throw basic::Error(kRefusedValue, "Invalid input");
         return factor;
     }
@@ -221,8 +219,8 @@ class FakeReference : public FakeEntity {
 /// A line.
 class FakeLine : public FakeEntity {
   public:
-    FakeLine(DrawingStatePtr drawing, Point start, Point end)
-        : FakeEntity(std::move(drawing), "AcDbLine"), start(start), end(end) {}
+    FakeLine(DrawingState& drawing, Point start, Point end)
+        : FakeEntity(drawing, "AcDbLine"), start(start), end(end) {}
 
     Point start;
     Point end;
