@@ -33,7 +33,7 @@ AttributeWriter::Definition AttributeWriter::read(const Drawing& drawing, Entity
     definition.layer = store_.record(id).layer;
     definition.tag = store_.record(id).name;
     bool inCommon = true;
-    bool inAttribute = !store_.format().hasSubclasses();
+    bool inAttribute = true;
     bool flagsRead = false;
     dxf::TagReader reader = drawing.tags(id);
     for (dxf::Tag tag; reader.next(tag) && tag.code < 1000 && tag.code != 101;) {

@@ -17,6 +17,8 @@ struct EntityClass {
 const EntityClass* entityClass(std::string_view type);
 /// The class of a POLYLINE by its flags (group 70).
 std::string_view polylineClass(int flags);
+/// Whether a type is a dimension, whose picture is a block named in group 2.
+inline bool isDimension(std::string_view type) { return type.ends_with("DIMENSION"); }
 /// The class of a DIMENSION by its kind (group 70).
 std::string_view dimensionClass(int kind);
 

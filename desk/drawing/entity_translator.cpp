@@ -1,5 +1,6 @@
 #include "desk/drawing/entity_translator.h"
 
+#include "desk/drawing/class_names.h"
 #include "desk/drawing/subclass_layout.h"
 #include "desk/dxf/tag_writer.h"
 
@@ -202,12 +203,12 @@ void EntityTranslator::writeGroup(std::uint16_t type, const dxf::Tag& tag, dxf::
         return;
     }
     const std::string_view name = from_.typeName(type);
-    if (tag.code == 2 && (type == kInsert || name == "DIMENSION")) {
+    if (tag.code == 2 && (type == kInsert || isDimension(name))) {
         writer.text(2, links_.block(tag.text()));
         return;
     }
     if (tag.code == 7) links_.use(kStyleEntry, tag.text());
-    if (tag.code == 3 && (name == "DIMENSION" || name == "LEADER" || name == "TOLERANCE")) {
+    if (tag.code == 3 && (isDimension(name) || name == "LEADER" || name == "TOLERANCE")) {
         links_.use(kDimStyleEntry, tag.text());
     }
     writer.copy(tag);

@@ -1,6 +1,7 @@
 #include "desk/drawing/importer.h"
 
 #include "basic/text.h"
+#include "desk/drawing/class_names.h"
 #include "desk/drawing/creator.h"
 #include "desk/dxf/number_text.h"
 #include "desk/dxf/tag_writer.h"
@@ -217,7 +218,7 @@ void Importer::fill(BlockId target, BlockId source) {
             return true;
         }
         const Record& record = from_.record(id);
-        if (record.type == kInsert || from_.typeName(record.type) == "DIMENSION") {
+        if (record.type == kInsert || isDimension(from_.typeName(record.type))) {
             block(from_.names.text(record.name));
         }
         content.push_back(id);

@@ -208,14 +208,7 @@ void Opener::addToBlock(BlockId id, EntityId entity) {
                    "a reference of a block that the drawing lacks: " + store_.names.text(record.name));
         }
     } else if (record.type == kAttDef) {
-        dxf::TagReader reader = store_.reader(entity);
-        int flags = 0;
-        bool inAttribute = !store_.format().hasSubclasses();
-        for (dxf::Tag tag; reader.next(tag) && tag.code != 101 && tag.code < 1000;) {
-            if (tag.code == 100) inAttribute = tag.raw == "AcDbAttributeDefinition";
-            if (inAttribute && tag.code == 70) flags = static_cast<int>(tag.integerOr(0));
-        }
-        if ((flags & 2) != 0) {
+        if (drawing_->attribute(entity).isConstant()) {
             block.hasConstantAttributes = true;
         } else {
             block.attributeDefinitions.push_back(entity);

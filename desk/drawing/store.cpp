@@ -95,7 +95,9 @@ void Store::indexName(EntityId id) {
     const NameId name = names.key(records_[id].name);
     if (name == kNoName) return;
     if (name >= named_.size()) named_.resize(std::max<std::size_t>(names.size(), name + 1));
-    named_[name].push_back(id);
+    std::vector<EntityId>& list = named_[name];
+    const bool isLast = list.empty() || list.back() < id;
+    list.insert(isLast ? list.end() : std::lower_bound(list.begin(), list.end(), id), id);
 }
 
 void Store::unindexName(EntityId id) {
