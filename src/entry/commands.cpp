@@ -23,12 +23,9 @@ struct Command {
 
 /// In the order in which the code is compared. A command is dispatched once its dialog is registered.
 constexpr Command kCommands[] = {
-    {"0", "fmLabels", labels::StartLabels},
-    {"1", "fmReplace", replace::RunReplaceCommand},
-    {"2", "fmExtract", showExtract},
-    {"3", "fmReInsert", extract::StartReInsert},
-    {"4", "fmHelpHidden", StartHelp},
-    {"5", "fmAbout", StartAbout},
+    {"0", "fmLabels", labels::StartLabels}, {"1", "fmReplace", replace::RunReplaceCommand},
+    {"2", "fmExtract", showExtract},        {"3", "fmReInsert", extract::StartReInsert},
+    {"4", "fmHelpHidden", StartHelp},       {"5", "fmAbout", StartAbout},
 };
 
 }  // namespace
