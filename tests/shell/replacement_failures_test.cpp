@@ -1,7 +1,7 @@
 #include "replace/fm_replace.h"
 #include "replace/replace_command.h"
-#include "replace/replacement_engine.h"
 #include "tests/fakes/faulty_host.h"
+#include "tests/fakes/replacement_fields.h"
 #include "tests/fakes/session_world.h"
 #include "tests/shell/shell_world.h"
 
@@ -13,24 +13,6 @@ namespace {
 using basic::Variant;
 using Counts = std::pair<std::size_t, std::size_t>;  ///< references of LAMP and of SPOT
 
-/// Fields and a table without a dialog: replaces by SPOT.
-struct Fields : replace::ReplacementFields, replace::TranscriptionTable {
-    std::string name = "SPOT", angle;
-    std::vector<std::string> destinations;
-
-    const std::string& blockName() const override { return name; }
-    const std::string* xScale() const override { return nullptr; }
-    const std::string* yScale() const override { return nullptr; }
-    const std::string* zScale() const override { return nullptr; }
-    const std::string* rotation() const override { return angle.empty() ? nullptr : &angle; }
-    bool overridesVisibility() const override { return false; }
-    int visibilityIndex() const override { return 2; }
-    bool transcribesAttributes() const override { return !destinations.empty(); }
-    const TranscriptionTable& transcriptionTable() const override { return *this; }
-    int rowCount() const override { return static_cast<int>(destinations.size()); }
-    const std::string& destination(int row) const override { return destinations.at(row - 1); }
-};
-
 /// The replacement on the objects of a drawing, behind a host that can fail: three LAMPs, which the set
 /// holds, and a SPOT.
 class ReplacementOnDrawingTest : public testing::Test, protected fakes::SessionWorld {
@@ -41,6 +23,7 @@ class ReplacementOnDrawingTest : public testing::Test, protected fakes::SessionW
             return std::make_unique<forms::Form>("fmOwner", "", "Owner");
         });
         replace::registerForms(session);
+        fields.name = "SPOT";
         open(fakes::BigDrawing::make(3));
     }
     void open(const std::string& bytes) {
@@ -60,7 +43,7 @@ class ReplacementOnDrawingTest : public testing::Test, protected fakes::SessionW
         host->reset();
     }
     const drawing::Drawing& drawing() const { return application->active()->drawing(); }
-    int failure(const Fields& fields) {
+    int failure(const fakes::ReplacementFields& fields) {
         return fakes::errorOf([&] { replace::ReplaceBlocks(session, fields); });
     }
     Counts counts() const {
@@ -89,7 +72,7 @@ class ReplacementOnDrawingTest : public testing::Test, protected fakes::SessionW
     fakes::ScriptedPrompter prompter;
     std::shared_ptr<model::Application> application;
     std::unique_ptr<fakes::FaultyHost> host;
-    Fields fields;
+    fakes::ReplacementFields fields;
 };
 
 TEST_F(ReplacementOnDrawingTest, WhatAFailureLeavesInTheDrawing) {
