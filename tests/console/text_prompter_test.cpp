@@ -96,7 +96,7 @@ TEST_F(TextPrompterTest, Selections) {
     EXPECT_EQ(selected("all"), (Ids{entity(0xA1), entity(0xA2)}))
         << "frozen ones and paper space don't count";
     EXPECT_EQ(selected("@A2 @A1\n@A2\n@A6"), (Ids{entity(0xA2), entity(0xA1), entity(0xA6)}));
-    EXPECT_EQ(selected("w 90,90 120,120"), (Ids{entity(0xA2)}));
+    EXPECT_EQ(selected("w 90,90 @30,30"), (Ids{entity(0xA2)}));
     EXPECT_EQ(selected("W -1,-1 50,1"), Ids{}) << "the line reaches out of it";
     EXPECT_EQ(selected("c -1,-1 @51,2"), (Ids{entity(0xA1)}));
     EXPECT_EQ(selected("50,0\n@A3"), (Ids{entity(0xA1), entity(0xA2)}));

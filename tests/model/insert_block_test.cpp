@@ -94,11 +94,11 @@ TEST_F(InsertBlockTest, ABlockOfThatNameIsRedefinedAndTheCommandLineSaysSo) {
 
     insert(path.c_str());
     EXPECT_EQ(prompter.messages.size(), 1U) << "the same file again brings nothing new";
-    folder.write("plain.dxf", blockFile(4.25));
+    folder.write("plain.dxf", blockFile(14.25));
     insert(path.c_str());
     EXPECT_EQ(prompter.messages, (Texts{"Block plain redefined", "Block plain redefined",
                                         "Duplicate definition of block LEG ignored."}));
-    EXPECT_EQ(lineEnd("PLAIN")[0], 4.25) << "a changed file is read anew";
+    EXPECT_EQ(lineEnd("PLAIN")[0], 14.25) << "a changed file is read anew";
 }
 
 TEST_F(InsertBlockTest, AfterAnUndoTheFileIsReadAgain) {
