@@ -17,7 +17,7 @@ void Drawing::erase(EntityId id) {
     if (!store_->isNewInStep(id)) return;
     // Made and erased in one step, like a trial insertion: nothing can bring it back.
     if (!record.has(kPart)) {
-        store_->unindexName(id);
+        store_->unindexNewest(id);
         std::vector<EntityId>& entities = blocks_[record.owner].entities;
         if (!entities.empty() && entities.back() == id) entities.pop_back();
     }

@@ -132,7 +132,8 @@ void SavePlan::endSection() {
 
 void SavePlan::addEntities() {
     const std::vector<EntityId>& entities = drawing_.blocks()[drawing_.modelSpace()].entities;
-    const auto first = std::lower_bound(entities.begin(), entities.end(), store_.fileCount());
+    const auto first = std::find_if(std::lower_bound(entities.begin(), entities.end(), store_.fileCount()),
+                                    entities.end(), [this](EntityId id) { return !store_.isErased(id); });
     if (first == entities.end()) return;
     const bool isNew = beginAddition(dxf::SectionKind::Entities, "ENTITIES");
     newPieces_.reserve(newPieces_.size() + (store_.count() - store_.fileCount()));

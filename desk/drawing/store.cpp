@@ -100,6 +100,11 @@ void Store::indexName(EntityId id) {
     list.insert(isLast ? list.end() : std::lower_bound(list.begin(), list.end(), id), id);
 }
 
+void Store::unindexNewest(EntityId id) {
+    const std::vector<EntityId>& list = named(names.key(records_[id].name));
+    if (!list.empty() && list.back() == id) unindexName(id);
+}
+
 void Store::unindexName(EntityId id) {
     const NameId name = names.key(records_[id].name);
     if (name == kNoName || name >= named_.size()) return;

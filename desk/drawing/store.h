@@ -115,6 +115,8 @@ class Store {
     const std::vector<EntityId>& named(NameId name) const;
     void indexName(EntityId id);
     void unindexName(EntityId id);
+    /// The same if the entity is the last of its name; else it stays listed among the erased ones.
+    void unindexNewest(EntityId id);
 
     /// An empty edit. There is one at a time: it is kept for its buffers.
     TagEdit& freshEdit() {

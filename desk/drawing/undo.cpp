@@ -55,12 +55,12 @@ void Drawing::undoRecords(const StepLog& log) {
             !record.has(kPart) && record.owner != kNoBlock && blocks_[record.owner].isLayout();
         if (inSpace && !record.has(kErased)) {
             store_->unindexName(id);
-            std::vector<EntityId>& entities = blocks_[record.owner].entities;
-            if (!entities.empty() && entities.back() == id) entities.pop_back();
         }
         record.set(kErased);
         store_->dropBytes(id);
     }
+    std::vector<EntityId>& entities = blocks_[modelSpace()].entities;
+    while (!entities.empty() && entities.back() >= log.firstNew) entities.pop_back();
     for (auto changed = log.records.rbegin(); changed != log.records.rend(); ++changed) {
         const auto& [id, before] = *changed;
         Record& record = store_->records_[id];

@@ -61,6 +61,21 @@ TEST(Undo, ATrialInsertionLeavesNothing) {
     EXPECT_EQ(drawing->savedBytes(), before);
 }
 
+TEST(Undo, ErasedOutOfOrderTheyAreGoneAllTheSame) {
+    const std::string text = SampleDrawing::words("0 SECTION 2 HEADER 9 $ACADVER 1 AC1009 0 ENDSEC 0 EOF");
+    const auto drawing = Drawing::parse(text, "bare.dxf");
+    drawing->beginStep();
+    const EntityId first = drawing->addLine({}, {1, 0, 0});
+    const EntityId second = drawing->addLine({}, {2, 0, 0});
+    drawing->erase(first);
+    drawing->erase(second);
+    drawing->endStep();
+    EXPECT_EQ(drawing->savedBytes(), text) << "not even an empty section";
+    drawing->undo();
+    EXPECT_EQ(drawing->entityCount(drawing->modelSpace()), 0u);
+    EXPECT_EQ(drawing->savedBytes(), text);
+}
+
 TEST(Undo, SavingMarksTheState) {
     const auto drawing = SampleDrawing().make();
     drawing->addLine({}, {1, 0, 0});
