@@ -130,7 +130,7 @@ BlockId Importer::blockFor(BlockId source) {
 std::string Importer::freeName(std::string_view anonymous) const {
     const std::string stem(anonymous.substr(0, anonymous.find_last_not_of("0123456789") + 1));
     for (std::size_t number = target_.blocks().size();; ++number) {
-        const std::string name = stem + std::to_string(number);
+        std::string name = stem + std::to_string(number);
         if (target_.blocks().find(name) == kNoBlock) return name;
     }
 }
