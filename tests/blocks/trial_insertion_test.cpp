@@ -1,30 +1,14 @@
 #include "blocks/trial_insertion.h"
 
 #include "blocks/block_file.h"
-#include "forms/controls.h"
-#include "tests/blocks/blocks_world.h"
+#include "tests/fakes/dialog_world.h"
 
 #include <gtest/gtest.h>
 
 namespace blocks {
 namespace {
 
-/// Keeps the arguments of a call of `InsertBlock`.
-struct ArgumentKeeper : fakes::FakeObject {
-    host::Arguments kept;
-    basic::Variant get(std::string_view) override { return std::make_shared<Space>(kept); }
-
-    struct Space : fakes::FakeObject {
-        explicit Space(host::Arguments& kept) : kept(kept) {}
-        host::Arguments& kept;
-        basic::Variant call(std::string_view, host::Arguments& arguments) override {
-            kept = arguments;
-            return basic::ObjectRef();
-        }
-    };
-};
-
-class BrowseTest : public testing::Test, public BlocksWorld {
+class TrialInsertionTest : public testing::Test, public fakes::DialogWorld {
   protected:
     struct Dialog : forms::Form {
         using Form::Form;
@@ -32,82 +16,57 @@ class BrowseTest : public testing::Test, public BlocksWorld {
     } dialog{"fmTest", "", ""};
     basic::Variant attributes{"as it was"};
 
-    /// A drawing file with a block of one attribute, or of none.
+    /// A drawing file with a block.
     void addFile(const std::string& path, const std::string& block, fakes::FakeBlock::Attributes tags) {
         host.drawing().files[path] = std::make_shared<fakes::FakeBlock>(block, std::move(tags));
     }
-    std::string browse(const std::string& title = "") {
-        return BrowseBlockFile(session, dialog.CommonDialog1, attributes, "", title);
+    /// The user chooses a path, or none.
+    std::string browse(const std::optional<std::string>& path) {
+        screen.paths = {path};
+        return BrowseBlockFile(session, dialog.CommonDialog1, attributes, "", "Select a block file");
     }
 };
 
-TEST(TrialInsertionTest, PassesTheTrialPointAndSixteenBitNumbers) {
-    BlocksWorld world;
-    const auto keeper = std::make_shared<ArgumentKeeper>();
-    world.session.AcadDoc = keeper;
-    InsertTrialReference(world.session, "DOOR");
-    ASSERT_EQ(keeper->kept.size(), 6U);
-    EXPECT_EQ(keeper->kept[0].doubles(), (basic::Doubles{0, 0, 0}));
-    EXPECT_EQ(keeper->kept[1].text(), "DOOR");
-    for (int i = 2; i < 6; ++i) {
-        EXPECT_TRUE(keeper->kept[i].is(basic::Variant::Kind::Int16)) << i;
-        EXPECT_EQ(keeper->kept[i].integer(), i < 5 ? 1 : 0) << i;
-    }
+TEST_F(TrialInsertionTest, AsksTheHostForNothingWithoutANameAndLetsFailuresOut) {
+    EXPECT_TRUE(InsertTrialReference(session, "").isNothing());
+    EXPECT_EQ(faulty.calls(), 0);
+    EXPECT_EQ(fakes::errorOf([&] { InsertTrialReference(session, "NONE"); }), fakes::kKeyNotFound);
+    host.addBlock("DOOR");
+    EXPECT_EQ(InsertTrialReference(session, "DOOR").Name(), "DOOR");
+    ASSERT_EQ(host.references("DOOR").size(), 1U) << "the caller deletes it";
+    EXPECT_EQ(host.references("DOOR")[0]->point, fakes::Point{});
+    EXPECT_EQ(host.references("DOOR")[0]->scale, (fakes::Point{1, 1, 1}));
 }
 
-TEST(TrialInsertionTest, AsksTheHostForNothingWithoutANameAndLetsFailuresOut) {
-    BlocksWorld world;
-    EXPECT_TRUE(InsertTrialReference(world.session, "").isNothing());
-    EXPECT_EQ(world.faulty.calls(), 0);
-    EXPECT_EQ(fakes::errorOf([&] { InsertTrialReference(world.session, "NONE"); }), fakes::kKeyNotFound);
+TEST_F(TrialInsertionTest, ABlockFileBringsItsBlockIn) {
+    dialog.CommonDialog1.setFileName("/blocks/old.dwg");
+    EXPECT_EQ(browse(std::nullopt), "") << "cancelled, whatever was chosen before";
+    EXPECT_EQ(faulty.calls(), 0);
 
-    world.host.addBlock("DOOR");
-    EXPECT_EQ(InsertTrialReference(world.session, "DOOR").Name(), "DOOR");
-    EXPECT_EQ(world.host.references("DOOR").size(), 1U) << "the caller deletes it";
-}
+    addFile("/blocks/chair.dwg", "chair", {});
+    EXPECT_EQ(browse("/blocks/chair.dwg"), "chair");
+    EXPECT_EQ(attributes.text(), "as it was") << "for a block without any";
 
-TEST_F(BrowseTest, BringsTheBlockInAndDeletesTheTrialReference) {
     addFile("/blocks/door.v2.dwg", "door.v2", {{"MARK", "D"}});
-    screen.paths = {"/blocks/door.v2.dwg"};
-    EXPECT_EQ(browse("Select a block file"), "door.v2");
+    EXPECT_EQ(browse("/blocks/door.v2.dwg"), "door.v2");
     EXPECT_NE(host.drawing().findBlock("door.v2"), nullptr);
-    EXPECT_TRUE(host.references("door.v2").empty());
+    EXPECT_TRUE(host.references("door.v2").empty()) << "the trial reference is gone";
     EXPECT_EQ(attributes.array().size(), 1U);
     EXPECT_EQ(dialog.CommonDialog1.filter(), "Dessin bloc AutoCAD (*.dwg)|*.dwg");
     EXPECT_EQ(dialog.CommonDialog1.flags(), 4);
     EXPECT_EQ(dialog.CommonDialog1.dialogTitle(), "Select a block file");
 }
 
-TEST_F(BrowseTest, LeavesTheAttributesAloneForABlockWithoutAny) {
-    addFile("/blocks/chair.dwg", "chair", {});
-    screen.paths = {"/blocks/chair.dwg"};
-    EXPECT_EQ(browse(), "chair");
-    EXPECT_EQ(attributes.text(), "as it was");
-}
-
-TEST_F(BrowseTest, GivesTheEmptyTextOnCancelWhateverWasChosenBefore) {
-    dialog.CommonDialog1.setFileName("/blocks/old.dwg");
-    screen.paths = {std::nullopt};
-    EXPECT_EQ(browse(), "");
-    EXPECT_EQ(attributes.text(), "as it was");
-    EXPECT_EQ(faulty.calls(), 0);
-}
-
-TEST_F(BrowseTest, PassesOverFailuresOfTheHost) {
-    screen.paths = {"/blocks/broken.dwg"};
-    EXPECT_EQ(browse(), "broken") << "a file that the host refuses shows only when its name is used";
+TEST_F(TrialInsertionTest, ABlockFilePassesOverFailuresOfTheHost) {
+    EXPECT_EQ(browse("/blocks/broken.dwg"), "broken") << "refused, which shows only when its name is used";
 
     addFile("/blocks/door.dwg", "door", {{"MARK", "D"}});
-    for (const char* access : {"get hasAttributes", "call GetAttributes"}) {
-        screen.paths = {"/blocks/door.dwg"};
+    for (const char* access : {"get hasAttributes", "call GetAttributes", "call Delete"}) {
         faulty.failAt(access);
-        EXPECT_EQ(browse(), "door") << access;
-        EXPECT_TRUE(host.references("door").empty()) << access;
+        EXPECT_EQ(browse("/blocks/door.dwg"), "door") << access;
+        EXPECT_TRUE(faulty.failed()) << access;
+        EXPECT_EQ(host.references("door").size(), access == std::string("call Delete") ? 1U : 0U) << access;
     }
-    screen.paths = {"/blocks/door.dwg"};
-    faulty.failAt("call Delete");
-    EXPECT_EQ(browse(), "door");
-    EXPECT_EQ(host.references("door").size(), 1U) << "a failed deletion leaves the trial reference";
 }
 
 }  // namespace
