@@ -19,6 +19,11 @@ fs::path nativePath(const std::string& path) {
             reinterpret_cast<const char8_t*>(path.data()) + path.size()};
 }
 
+/// Raises an error with its standard description and the file that it is about.
+[[noreturn]] void raiseAbout(ErrorNumber number, const std::string& path) {
+    throw Error(number, std::string(standardDescription(number)) + ": " + path);
+}
+
 /// Raises the error that a failed call on `path` stands for.
 [[noreturn]] void raise(const std::string& path, int reason) {
     std::error_code ignored;
@@ -26,27 +31,28 @@ fs::path nativePath(const std::string& path) {
         case ENOENT: {
             const fs::path folder = nativePath(path).parent_path();
             const bool folderThere = folder.empty() || fs::is_directory(folder, ignored);
-            throw Error(folderThere ? kFileNotFound : kPathNotFound);
+            raiseAbout(folderThere ? kFileNotFound : kPathNotFound, path);
         }
         case ENOTDIR:
-            throw Error(kPathNotFound);
+            raiseAbout(kPathNotFound, path);
         case EISDIR:
-            throw Error(kPathFileAccess);
+            raiseAbout(kPathFileAccess, path);
         case EACCES:
         case EPERM:
         case EROFS:
-            throw Error(fs::is_directory(nativePath(path), ignored) ? kPathFileAccess : kPermissionDenied);
+            raiseAbout(fs::is_directory(nativePath(path), ignored) ? kPathFileAccess : kPermissionDenied,
+                       path);
         case EINVAL:
         case ENAMETOOLONG:
-            throw Error(kBadFileName);
+            raiseAbout(kBadFileName, path);
         case ENOSPC:
 #ifdef EDQUOT  // not every system has quotas
         case EDQUOT:
 #endif
         case EFBIG:
-            throw Error(kDiskFull);
+            raiseAbout(kDiskFull, path);
         default:
-            throw Error(kDeviceError);
+            raiseAbout(kDeviceError, path);
     }
 }
 
