@@ -61,6 +61,22 @@ TEST_F(PickTest, GivesNothingOnCancelAndNeverFailsOutwards) {
     EXPECT_EQ(pick({}), line);
 }
 
+TEST_F(PickTest, SelectsReferencesOfOneBlockOnScreen) {
+    host.drawing().sets.push_back(std::make_shared<fakes::FakeSelectionSet>(host.drawing(), "SS1"));
+    const auto set = host.drawing().sets.front();
+    const auto chair = host.addReference("CHAIR");
+    set->members = {chair};
+    line->name = "DOOR";  // another kind of entity with the block's name doesn't pass
+    const auto select = [&] { SelectBlockReferencesOnScreen(host::SelectionSet(set), "DOOR"); };
+
+    host.select({line, door, chair});
+    select();
+    EXPECT_EQ(set->members, (std::vector<fakes::FakeEntityPtr>{door}));
+    host.breakOffSelection();
+    EXPECT_EQ(fakes::errorOf(select), fakes::kEscape);
+    EXPECT_TRUE(set->members.empty()) << "the set is emptied before the pick";
+}
+
 TEST(SelectListEntryTest, TakesTheLastExactMatchOrNone) {
     struct : forms::Form {
         using Form::Form;
