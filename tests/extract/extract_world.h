@@ -4,29 +4,15 @@
 #include "extract/fm_extract.h"
 #include "extract/fm_re_insert.h"
 #include "extract/fm_vn_message.h"
-#include "tests/fakes/fake_host.h"
-#include "tests/fakes/faulty_host.h"
-#include "tests/fakes/session_world.h"
+#include "tests/fakes/dialog_world.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
-#include <memory>
 #include <string>
-#include <vector>
 
-using Texts = std::vector<std::string>;
+using fakes::Texts;
 
-/// A session with the dialogs of extraction and re-insertion, on a drawing in memory behind the host that can
-/// fail, with the English texts.
-struct ExtractWorld : fakes::SessionWorld {
-    ExtractWorld() {
-        session.AcadDoc = faulty.root();
-        session.CurLng = {"English", VORLANE_ROOT "/resources/languages/English.LNG"};
-        session.registerForm("fmOwner", [](session::Session&) {
-            return std::make_unique<forms::Form>("fmOwner", "", "Owner");
-        });
-        extract::registerForms(session);
-    }
+/// The dialogs of extraction and re-insertion.
+struct ExtractWorld : fakes::DialogWorld {
+    ExtractWorld() { extract::registerForms(session); }
 
     extract::fmExtract& extraction() { return session.form<extract::fmExtract>("fmExtract"); }
     extract::fmReInsert& insertion() { return session.form<extract::fmReInsert>("fmReInsert"); }
@@ -39,27 +25,6 @@ struct ExtractWorld : fakes::SessionWorld {
     void runInsertion() {
         extract::StartReInsert(session);
         EXPECT_TRUE(screen.acts.empty()) << "acts that nobody did";
-    }
-    /// Queues a look at the state in the middle of the acts.
-    template <typename Look>
-    void look(Look look) {
-        screen.acts.push_back([look](forms::Form&) { look(); });
-    }
-
-    int shows(const std::string& form) const {
-        return static_cast<int>(std::count(screen.log.begin(), screen.log.end(), "show " + form));
-    }
-    /// The failures that left a handler.
-    Texts failures() const {
-        Texts found;
-        for (const std::string& entry : screen.log)
-            if (entry.starts_with("failure")) found.push_back(entry);
-        return found;
-    }
-    static Texts entries(const forms::ListControl& list) {
-        Texts found;
-        for (int i = 0; i < list.listCount(); ++i) found.push_back(list.list(i));
-        return found;
     }
     static Texts headers(const forms::ListView& view) {
         Texts found;
@@ -81,10 +46,4 @@ struct ExtractWorld : fakes::SessionWorld {
             found.push_back(parameters.listItems().item(i).subItem(1));
         return found;
     }
-
-    fakes::FakeHost host;
-    fakes::FaultyHost faulty{host.document()};
 };
-
-inline const char* const kColumnLine =
-    "N\xB0\tX insertion\tY insertion\tZ insertion\tEch. X\tEch. Y\tEch. Z\tRotation";
