@@ -4,56 +4,38 @@ namespace {
 
 TEST(Evaluator, EvaluatesForms) {
     expectRows({
-        {"unset", "nil"},
         {"(setq a 1 b (+ a 1))", "2"},
         {"(setq a)", "error: too few arguments"},
         {"(setq \"a\" 1)", "error: bad argument type: symbolp: \"a\""},
-        {"(set 'a 5) (1+ a)", "6"},
         {"(set (read \"a\") 'b) a", "B"},
         {"(setq t 1)", "error: assignment to protected symbol: T"},
         {"(setq nil 1)", "error: bad argument type: symbolp: nil"},
-        {"(if nil 1)", "nil"},
         {"(if 0 1 2)", "1"},
-        {"(if 1 2 3 4)", "2"},
         {"(if nil 2 3 4)", "error: too many arguments"},
         {"(cond ((= 1 2) 'a) ((+ 1 1)) (t 'c))", "2"},
-        {"(cond (nil 1))", "nil"},
-        {"(and 1 2) ", "T"},
-        {"(and) ", "T"},
         {"(and 1 nil (car 1))", "nil"},
         {"(or nil 2 (car 1))", "T"},
-        {"(or)", "nil"},
-        {"(progn 1 2)", "2"},
         {"(setq i 0) (while (< i 5) (setq i (1+ i)))", "5"},
         {"(setq i 0) (repeat 3 (setq i (+ i 2)))", "6"},
-        {"(repeat -1 1)", "nil"},
         {"(repeat 'a 1)", "error: bad argument type: fixnump: A"},
         {"(setq x 9 s 0) (foreach x '(1 2 3) (setq s (+ s x))) (list s x)", "(6 9)"},
-        {"(boundp 'a)", "nil"},
-        {"(setq a 1) (boundp 'a)", "T"},
-        {"(vl-symbol-value 'pi)", "3.14159"},
     });
 }
 
 TEST(Evaluator, CallsFunctions) {
     expectRows({
-        {"(defun f (x) (* x x))", "F"},
-        {"(defun f (x) (* x x)) (f 4)", "16"},
         {"(defun F(x)(* x x))(f 4)", "16"},
         {"(defun f (x) x) (f)", "error: too few arguments"},
         {"(defun f (x) x) (f 1 2)", "error: too many arguments"},
         {"(defun f (x 1) x)", "error: bad argument type: symbolp: 1"},
         {"(defun f (t) t)", "error: assignment to protected symbol: T"},
-        {"(defun f () ) (f)", "nil"},
         {"((lambda (x y) (- x y)) 5 3)", "2"},
         {"(setq g '(lambda (x) (1+ x))) (g 1)", "2"},
-        {"(setq g '((x) (1+ x))) (g 1)", "2"},
         {"(setq first car) (first '(1 2))", "1"},
         {"(defun fact (n) (if (< n 2) 1 (* n (fact (1- n))))) (fact 10)", "3628800"},
         {"(nowhere 1)", "error: no function definition: NOWHERE"},
         {"(5 1)", "error: bad function: 5"},
         {"(setq x 5) (x)", "error: no function definition: X"},
-        {"(car)", "error: too few arguments"},
         {"(car '(1) 2)", "error: too many arguments"},
         {"(+ 1 . 2)", "error: bad argument list"},
     });
@@ -73,18 +55,12 @@ TEST(Evaluator, BindsDynamicallyAndPutsValuesBack) {
 TEST(Evaluator, AppliesAndMaps) {
     expectRows({
         {"(apply '+ '(1 2 3))", "6"},
-        {"(apply 'strcat (list \"a\" \"b\"))", "\"ab\""},
-        {"(apply (function (lambda (x) (list x))) '(1))", "(1)"},
         {"(apply 'quote '(1))", "error: no function definition: QUOTE"},
         {"(mapcar '+ '(1 2 3) '(10 20))", "(11 22)"},
-        {"(mapcar '(lambda (x) (* 2 x)) '(1 2))", "(2 4)"},
         {"(mapcar 'car 5)", "error: bad argument type: listp: 5"},
-        {"(mapcar 'list nil)", "nil"},
-        {"(vl-remove-if 'minusp '(1 -1 2))", "(1 2)"},
         {"(vl-remove-if-not 'minusp '(1 -1 2))", "(-1)"},
         {"(vl-member-if 'minusp '(1 -1 2))", "(-1 2)"},
         {"(vl-some '(lambda (x) (if (> x 1) x)) '(1 2 3))", "2"},
-        {"(vl-every 'numberp '(1 2.0))", "T"},
     });
 }
 
@@ -94,9 +70,7 @@ TEST(Evaluator, TellsTypes) {
          "(INT REAL STR SYM LIST nil SUBR USUBR)"},
         {"(mapcar 'type (list quote t :vlax-true (vlax-make-variant) (vlax-make-safearray 5 '(0 . 1))))",
          "(SUBR SYM SYM VARIANT SAFEARRAY)"},
-        {"(= (type 1) 'int)", "T"},
         {"(type (vl-catch-all-apply 'car '(1)))", "VL-CATCH-ALL-APPLY-ERROR"},
-        {"car", "#<SUBR CAR>"},
         {"(lambda (x) x)", "#<USUBR LAMBDA>"},
         {"(defun f ()) f", "#<USUBR F>"},
     });
@@ -104,10 +78,7 @@ TEST(Evaluator, TellsTypes) {
 
 TEST(Evaluator, CatchesFailures) {
     expectRows({
-        {"(vl-catch-all-error-p (vl-catch-all-apply '/ '(1 0)))", "T"},
         {"(vl-catch-all-error-message (vl-catch-all-apply '/ '(1 0)))", "\"divide by zero\""},
-        {"(vl-catch-all-apply '/ '(6 2))", "3"},
-        {"(vl-catch-all-error-p 5)", "nil"},
         {"(vl-catch-all-error-message 5)", "error: bad argument type: VL-CATCH-ALL-APPLY-ERROR: 5"},
         {"(exit)", "error: quit / exit abort"},
         {"(vl-catch-all-error-message (vl-catch-all-apply 'quit))", "\"quit / exit abort\""},

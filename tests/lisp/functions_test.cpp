@@ -5,52 +5,34 @@ namespace {
 TEST(ListFunctions, TakeApartAndBuild) {
     expectRows({
         {"(car nil)", "nil"},
-        {"(cdr '(1 . 2))", "2"},
         {"(car 5)", "error: bad argument type: consp: 5"},
         {"(mapcar '(lambda (f) (apply f '(((1 (2)) 3 (4 5))))) '(caar cadr cdar cddr caddr cadar))",
          "(1 3 ((2)) ((4 5)) (4 5) (2))"},
-        {"(caaddr '(a b (c)))", "C"},
         {"(cddddr '(1 2 3 4 5))", "(5)"},
-        {"(cadddr '(1 2 3 4))", "4"},
-        {"(cons 1 nil)", "(1)"},
-        {"(cons 1 2)", "(1 . 2)"},
-        {"(list)", "nil"},
         {"(vl-list* 1 2 '(3))", "(1 2 3)"},
-        {"(append '(1) nil '(2 3) '(4))", "(1 2 3 4)"},
         {"(append '(1) 2)", "(1 . 2)"},
         {"(append 1 '(2))", "error: bad argument type: listp: 1"},
-        {"(reverse '(1 2 3))", "(3 2 1)"},
-        {"(list (length nil) (length '(1 2)))", "(0 2)"},
         {"(length '(1 . 2))", "error: bad argument type: listp: (1 . 2)"},
         {"(vl-list-length '(1 . 2))", "nil"},
         {"(list (nth 0 '(a b)) (nth 2 '(a b)))", "(A nil)"},
         {"(nth -1 '(a b))", "error: bad argument value: positive: -1"},
-        {"(last '(1 2))", "2"},
-        {"(mapcar 'atom '(1 nil (1)))", "(T T nil)"},
-        {"(mapcar 'listp '(1 nil (1)))", "(nil T T)"},
         {"(mapcar 'vl-consp '(1 nil (1)))", "(nil nil T)"},
-        {"(mapcar 'null '(1 nil))", "(nil T)"},
-        {"(not 1)", "nil"},
     });
 }
 
 TEST(ListFunctions, SearchAndSort) {
     expectRows({
         {"(member '(2) '(1 (2) 3))", "((2) 3)"},
-        {"(member 9 '(1))", "nil"},
         {"(assoc 2 '((1 . a) (2 . b)))", "(2 . B)"},
-        {"(assoc \"k\" '((\"k\" 1)))", "(\"k\" 1)"},
         {"(assoc 1 '(5))", "error: bad argument type: consp: 5"},
         {"(subst 'x 'a '(a b a (a)))", "(X B X (A))"},
         {"(vl-remove 1 '(1 2 1.0 3))", "(2 3)"},
-        {"(vl-position 'b '(a b))", "1"},
         {"(vl-sort '(3 1 2 1) '<)", "(1 1 2 3)"},
         {"(vl-sort '((2 a) (1 b) (2 c) (1 d)) '(lambda (x y) (< (car x) (car y))))",
          "((1 B) (1 D) (2 A) (2 C))"},
         {"(length (vl-sort '(3 1 2 5 4) '(lambda (a b) t)))", "5"},  // an order that contradicts itself
         {"(vl-sort '(1 a) '<)", "error: bad argument type: numberp: A"},
         {"(acad_strlsort '(\"b\" \"A\" \"c\"))", "(\"A\" \"b\" \"c\")"},
-        {"(acad_strlsort '(1))", "error: bad argument type: stringp: 1"},
     });
 }
 
@@ -77,9 +59,7 @@ TEST(NumberFunctions, Calculate) {
         {"(list (/ 7 2) (/ 7 2.0) (/ -7 2) (/ 24 2 3) (/ 5))", "(3 3.5 -3 4 5)"},
         {"(list (rem 7 3) (rem -7 3) (rem 7.5 2) (rem 26 7 2))", "(1 -1 1.5 1)"},
         {"(/ 1.0 0)", "error: divide by zero"},
-        {"(rem 1 0)", "error: divide by zero"},
         {"(+ 1 \"2\")", "error: bad argument type: numberp: \"2\""},
-        {"(/ 'a)", "error: bad argument type: numberp: A"},
         {"(list (+ 2147483647 1) (* 65536 65536) (1- -2147483648) (/ -2147483648 -1) (abs -2147483648))",
          "(-2147483648 0 2147483647 -2147483648 -2147483648)"},  // integers wrap around
         {"(list (1+ 1) (1- 1.5) (abs -2) (abs -2.5) (min 1 2.0) (max 1 2 3) (gcd 12 -18))",
@@ -139,7 +119,6 @@ TEST(NumberFunctions, TakeUnitsFromTheHostsVariables) {
 TEST(StringFunctions, CountCharacters) {
     expectRows({
         {"(list (strcat) (strcat \"a\" \"b\") (strlen) (strlen \"é€\" \"x\"))", "(\"\" \"ab\" 0 3)"},
-        {"(strcat \"a\" 1)", "error: bad argument type: stringp: 1"},
         {"(list (substr \"héllo\" 2) (substr \"héllo\" 2 1) (substr \"ab\" 9) (substr \"ab\" 1 9))",
          "(\"éllo\" \"é\" \"\" \"ab\")"},
         {"(substr \"ab\" 0)", "error: bad argument value: positive: 0"},
