@@ -36,10 +36,16 @@ TEST_F(Languages, AreListedInTheFoldersOrder) {
     const std::vector<LngRecord> expected{
         {"", folder.file("c.Lng")}, {"English", folder.file("aLNG")}, {"Français", folder.file("b.lng")}};
     EXPECT_EQ(session.LngList, expected);
-    EXPECT_EQ(session.CurLng, expected[1]);
     EXPECT_EQ(GetMsg(session, 1), "one");
+    // A second command builds the list anew; of two files with one name the first serves.
+    folder.write("z.lng", ":Language=English\r\nmsg_1=autre\r\n");
+    platform.order = {"z.lng"};
     load("English");
-    EXPECT_EQ(session.LngList.size(), 3U) << "a second command builds the list anew";
+    EXPECT_EQ(session.LngList.size(), 4U);
+    EXPECT_EQ(GetMsg(session, 1), "autre");
+    EXPECT_EQ(GetMsg(session, -3), "");
+    language::SetLanguage(session, "Français");
+    EXPECT_EQ(GetMsg(session, 2), "deux");
 }
 
 TEST_F(Languages, AStaleChoiceFallsToTheFirstAndIsSaved) {
@@ -55,17 +61,6 @@ TEST_F(Languages, AStaleChoiceFallsToTheFirstAndIsSaved) {
     std::filesystem::remove(session.IniFile);
     language::SetLanguage(session, "English");
     EXPECT_EQ(GetMsg(session, 1), "one");
-}
-
-TEST_F(Languages, OfTwoFilesWithOneNameTheFirstServesAndMissingMessagesAreEmpty) {
-    folder.write("z.lng", ":Language=English\r\nmsg_1=autre\r\n");
-    platform.order = {"z.lng"};
-    load("English");
-    EXPECT_EQ(session.LngList.size(), 4U);
-    EXPECT_EQ(GetMsg(session, 1), "autre");
-    EXPECT_EQ(GetMsg(session, -3), "");
-    language::SetLanguage(session, "Français");
-    EXPECT_EQ(GetMsg(session, 2), "deux");
 }
 
 TEST_F(Languages, FoldersThatFail) {
