@@ -27,7 +27,7 @@ std::string TextPrompter::ask(const std::string& prompt) {
     while (true) {
         const std::optional<std::string> line = source_.next(output_, prompt);
         if (!line) text_face::endedWhile("a prompt of the drawing");
-        const std::string answer(basic::trim(*line));
+        std::string answer(basic::trim(*line));
         if (!answer.starts_with(';')) return answer;
     }
 }

@@ -36,7 +36,7 @@ fs::path findFile(const Context& context, const std::string& name) {
     }
     for (const fs::path& folder : folders) {
         for (const char* extension : {"", ".dxf", ".dwg"}) {
-            const fs::path candidate = folder / (name + extension);
+            fs::path candidate = folder / (name + extension);
             std::error_code ignored;
             if (fs::is_regular_file(candidate, ignored) &&
                 (hasExtension(candidate, ".dxf") || hasExtension(candidate, ".dwg"))) {

@@ -92,7 +92,7 @@ void deliver(const fs::path& folder, const fs::path& resources) {
     }
     if (after == before) return;
     std::string list;
-    for (const auto& [name, sum] : after) list += sum + " " + name + "\n";
+    for (const auto& [name, sum] : after) list.append(sum).append(" ").append(name).append("\n");
     writeBytes(folder, folder / kDeliveryList, list);
 }
 

@@ -46,8 +46,9 @@ std::optional<std::string> findProgram(const std::string& name) {
     const char* path = std::getenv("PATH");
     std::istringstream folders(path == nullptr ? "" : path);
     for (std::string folder; std::getline(folders, folder, ':');) {
-        const std::string candidate = folder + "/" + name;
-        if (!folder.empty() && access(candidate.c_str(), X_OK) == 0) return candidate;
+        if (folder.empty()) continue;
+        std::string candidate = folder.append("/").append(name);
+        if (access(candidate.c_str(), X_OK) == 0) return candidate;
     }
     return std::nullopt;
 }
