@@ -71,6 +71,13 @@ class SampleForm : public forms::Form {
     }
     /// The events since the last call.
     std::vector<std::string> taken() { return std::exchange(events, {}); }
+    /// The events of an act.
+    template <typename Act>
+    std::vector<std::string> after(Act act) {
+        events.clear();
+        act();
+        return taken();
+    }
 
   protected:
     void Form_Initialize() override { events.push_back("Initialize"); }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "basic/error.h"
 #include "platform/version.h"
 #include "session/session.h"
+#include "tests/fakes/error_of.h"
 #include "tests/fakes/fake_platform.h"
 #include "tests/fakes/recording_screen.h"
 #include "tests/fakes/temp_folder.h"
@@ -26,16 +26,5 @@ struct SessionWorld {
     RecordingScreen screen;
     session::Session session{platform, screen};
 };
-
-/// The number of the error that `act` raises, 0 for none.
-template <typename Act>
-int errorOf(Act&& act) {
-    try {
-        act();
-    } catch (const basic::Error& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 }  // namespace fakes

@@ -1,4 +1,5 @@
 // Who raises what when code assigns, the values that controls refuse, and what lists keep.
+#include "tests/fakes/error_of.h"
 #include "tests/fakes/sample_form.h"
 
 #include <gtest/gtest.h>
@@ -6,6 +7,7 @@
 namespace {
 
 using Events = std::vector<std::string>;
+using fakes::errorOf;
 
 class EventsTest : public testing::Test {
   protected:
@@ -14,17 +16,13 @@ class EventsTest : public testing::Test {
         form.fillLists();
         form.taken();
     }
-    Events after(const std::function<void()>& statement) {
-        statement();
-        return form.taken();
-    }
-    static int errorOf(const std::function<void()>& statement) {
-        try {
-            statement();
-        } catch (const basic::Error& error) {
-            return error.number();
-        }
-        return 0;
+    struct Row {
+        std::function<void()> statement;
+        Events events;
+    };
+    void expectEvents(const std::vector<Row>& rows) {
+        for (const Row& row : rows)
+            EXPECT_EQ(form.after(row.statement), row.events) << "row " << &row - &rows[0];
     }
     fakes::SampleForm form;
 };
@@ -40,20 +38,29 @@ TEST_F(EventsTest, NothingIsRaisedBeforeTheFormIsInitialised) {
 }
 
 TEST_F(EventsTest, AnAssignmentRaisesOnlyWhenItChangesSomething) {
-    EXPECT_EQ(after([&] { form.Check1.setValue(1); }), Events{"Check1.Click"});
-    EXPECT_EQ(after([&] { form.Check1.setValue(1); }), Events{});
-    EXPECT_EQ(errorOf([&] { form.Check1.setValue(3); }), basic::kInvalidProperty);
-    EXPECT_EQ(form.Check1.value(), 1);
-    EXPECT_EQ(after([&] { form.Text1.setText("a"); }), Events{"Text1.Change"});
-    EXPECT_EQ(after([&] { form.Text1.setText("a"); }), Events{});
-    EXPECT_EQ(after([&] { form.setHeight(5000); }), Events{"Resize"});
-    EXPECT_EQ(after([&] { form.setHeight(5000); }), Events{});
+    expectEvents({{[&] { form.Check1.setValue(1); }, {"Check1.Click"}},
+                  {[&] { form.Check1.setValue(1); }, {}},
+                  {[&] { form.Text1.setText("a"); }, {"Text1.Change"}},
+                  {[&] { form.Text1.setText("a"); }, {}},
+                  {[&] { form.setHeight(5000); }, {"Resize"}},
+                  {[&] { form.setHeight(5000); }, {}},
+                  {[&] { form.List1.setSelected(1, true); }, {"List1.Click"}},
+                  {[&] { form.List1.setListIndex(1); }, {}},
+                  {[&] { form.List1.setListIndex(2); }, {"List1.Click"}},
+                  {[&] { form.List1.setSelected(2, false); }, {}},
+                  {[&] { form.Combo2.setText("window"); }, {"Combo2.Click"}},
+                  {[&] { form.Combo2.setText("window"); }, {}},
+                  // Blanking raises nothing: a handler that stores the text must not store the blank.
+                  {[&] { form.Combo2.setListIndex(-1); }, {}}});
+    EXPECT_FALSE(form.List1.selected(1));
+    EXPECT_EQ(form.List1.selCount(), 0);
+    EXPECT_EQ(form.Combo2.text(), "");
 }
 
 TEST_F(EventsTest, TurningAnOptionOnTurnsItsGroupOffSilently) {
-    EXPECT_EQ(after([&] { form.Option2.setValue(true); }), Events{"Option2.Click"});
-    EXPECT_FALSE(form.Option1.value());
-    EXPECT_EQ(after([&] { form.Option2.setValue(false); }), Events{});
+    expectEvents({{[&] { form.Option2.setValue(true); }, {"Option2.Click"}},
+                  {[&] { EXPECT_FALSE(form.Option1.value()); }, {}},
+                  {[&] { form.Option2.setValue(false); }, {}}});
     EXPECT_FALSE(form.Option1.value() || form.Option2.value());
 
     form.Option1.setValue(true);
@@ -62,43 +69,54 @@ TEST_F(EventsTest, TurningAnOptionOnTurnsItsGroupOffSilently) {
     EXPECT_TRUE(form.Option1.value());
 }
 
-TEST_F(EventsTest, ListBoxSelection) {
-    EXPECT_EQ(after([&] { form.List1.setSelected(1, true); }), Events{"List1.Click"});
-    EXPECT_EQ(form.List1.text(), "window");
-    EXPECT_EQ(after([&] { form.List1.setListIndex(1); }), Events{});
-    EXPECT_EQ(after([&] { form.List1.setListIndex(2); }), Events{"List1.Click"});
-    EXPECT_FALSE(form.List1.selected(1));
-    EXPECT_EQ(form.List1.selCount(), 1);
-    EXPECT_EQ(after([&] { form.List1.setSelected(2, false); }), Events{});
-    EXPECT_EQ(form.List1.selCount(), 0);
-    EXPECT_EQ(errorOf([&] { form.List1.setListIndex(3); }), basic::kInvalidProperty);
-    EXPECT_EQ(errorOf([&] { form.List1.setListIndex(-2); }), basic::kInvalidProperty);
-    EXPECT_EQ(errorOf([&] { form.List1.setSelected(3, true); }), basic::kInvalidProperty);
-    EXPECT_EQ(errorOf([&] { form.List1.addItem("x", 4); }), basic::kInvalidCall);
-    EXPECT_EQ(errorOf([&] { form.List1.removeItem(3); }), basic::kInvalidCall);
-}
-
 TEST_F(EventsTest, EditableCombo) {
-    EXPECT_EQ(after([&] { form.Combo1.setListIndex(1); }), Events{"Combo1.Click"});
-    EXPECT_EQ(form.Combo1.text(), "window");
-    EXPECT_EQ(after([&] { form.Combo1.setText("chair"); }), Events{"Combo1.Change"});
-    EXPECT_EQ(form.Combo1.listIndex(), 2);
-    EXPECT_EQ(after([&] { form.Combo1.setText("Chair"); }), Events{"Combo1.Change"});
-    EXPECT_EQ(form.Combo1.listIndex(), -1);
-    EXPECT_EQ(after([&] { form.Combo1.clear(); }), Events{});
-    EXPECT_EQ(form.Combo1.text(), "");
-    EXPECT_EQ(after([&] { form.Combo1.setText("chair"); }), Events{"Combo1.Change"});
-    EXPECT_EQ(form.Combo1.listIndex(), -1);
+    const struct {
+        std::function<void()> statement;
+        Events events;
+        const char* text;
+        int index;
+    } rows[] = {
+        {[&] { form.Combo1.setListIndex(1); }, {"Combo1.Click"}, "window", 1},
+        {[&] { form.Combo1.setText("chair"); }, {"Combo1.Change"}, "chair", 2},
+        {[&] { form.Combo1.setText("Chair"); }, {"Combo1.Change"}, "Chair", -1},
+        {[&] { form.Combo1.clear(); }, {}, "", -1},
+        {[&] { form.Combo1.setText("chair"); }, {"Combo1.Change"}, "chair", -1},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(form.after(row.statement), row.events) << row.text;
+        EXPECT_EQ(form.Combo1.text(), row.text);
+        EXPECT_EQ(form.Combo1.listIndex(), row.index) << row.text;
+    }
 }
 
-TEST_F(EventsTest, DropDownListTakesOnlyTextsThatItHolds) {
-    EXPECT_EQ(after([&] { form.Combo2.setText("window"); }), Events{"Combo2.Click"});
-    EXPECT_EQ(after([&] { form.Combo2.setText("window"); }), Events{});
-    EXPECT_EQ(errorOf([&] { form.Combo2.setText(""); }), basic::kReadOnlyText);
-    EXPECT_EQ(form.Combo2.text(), "window");
-    // Blanking raises nothing: a handler that stores the text must not store the blank.
-    EXPECT_EQ(after([&] { form.Combo2.setListIndex(-1); }), Events{});
-    EXPECT_EQ(form.Combo2.text(), "");
+TEST_F(EventsTest, WhatControlsRefuse) {
+    forms::ListView& view = form.ListView1;
+    forms::Label label(form, "Label1");
+    const std::pair<std::function<void()>, int> rows[] = {
+        {[&] { form.Check1.setValue(3); }, basic::kInvalidProperty},
+        {[&] { form.List1.setListIndex(3); }, basic::kInvalidProperty},
+        {[&] { form.List1.setListIndex(-2); }, basic::kInvalidProperty},
+        {[&] { form.List1.setSelected(3, true); }, basic::kInvalidProperty},
+        {[&] { form.List1.addItem("x", 4); }, basic::kInvalidCall},
+        {[&] { form.List1.removeItem(3); }, basic::kInvalidCall},
+        {[&] { form.Combo2.setText(""); }, basic::kReadOnlyText},  // takes only texts that it holds
+        {[&] { view.selectedItem().setSubItem(2, "x"); }, basic::kInvalidProperty},
+        {[&] { view.selectedItem().subItem(0); }, basic::kInvalidProperty},
+        {[&] { view.listItems().item(4); }, basic::kSubscript},
+        {[&] { view.columnHeaders().item(0); }, basic::kSubscript},
+        {[&] { view.listItems().clear(), view.selectedItem(); }, basic::kObjectNotSet},
+        {[&] { form.control(form.controlCount()); }, basic::kSubscript},
+        {[&] { form.Text1.caption(); }, basic::kNoSuchMember},
+        {[&] { form.Picture1.setCaption("x"); }, basic::kNoSuchMember},
+        {[&] { form.Line1.setEnabled(true); }, basic::kNoSuchMember},
+        {[&] { form.CommonDialog1.setEnabled(true); }, basic::kNoSuchMember},
+        {[&] { form.Line1.setHelpContextId(1); }, basic::kNoSuchMember},
+        {[&] { label.setHelpContextId(1); }, basic::kNoSuchMember},
+    };
+    for (const auto& [statement, error] : rows) EXPECT_EQ(errorOf(statement), error);
+    EXPECT_EQ(form.taken(), Events{});
+    view.listItems().add("again");
+    EXPECT_EQ(view.selectedItem().text(), "again");
 }
 
 TEST_F(EventsTest, SortedListsKeepOrderAndTheCurrentEntry) {
@@ -123,7 +141,7 @@ TEST_F(EventsTest, AFailingHandlerFailsTheAssignment) {
     EXPECT_EQ(form.Text1.text(), "new");
 }
 
-TEST_F(EventsTest, ListViewRows) {
+TEST_F(EventsTest, ListViewRowsAndControlsByIndex) {
     forms::ListView& view = form.ListView1;
     EXPECT_EQ(view.selectedItem().index(), 1);
     view.selectItem(3);
@@ -131,31 +149,11 @@ TEST_F(EventsTest, ListViewRows) {
     EXPECT_EQ(form.taken(), Events{});
     EXPECT_EQ(view.selectedItem().subItem(1), "x");
     EXPECT_EQ(view.listItems().item(1).subItem(1), "");
-    EXPECT_EQ(errorOf([&] { view.selectedItem().setSubItem(2, "x"); }), basic::kInvalidProperty);
-    EXPECT_EQ(errorOf([&] { view.selectedItem().subItem(0); }), basic::kInvalidProperty);
-    EXPECT_EQ(errorOf([&] { view.listItems().item(4); }), basic::kSubscript);
-    EXPECT_EQ(errorOf([&] { view.columnHeaders().item(0); }), basic::kSubscript);
-    view.listItems().clear();
-    EXPECT_EQ(errorOf([&] { view.selectedItem(); }), basic::kObjectNotSet);
-    view.listItems().add("again");
-    EXPECT_EQ(view.selectedItem().text(), "again");
-}
 
-TEST_F(EventsTest, ControlsByIndexLackSomeProperties) {
     EXPECT_EQ(form.control(0).caption(), "Values");
     EXPECT_EQ(&form.control(form.controlCount() - 1), &form.CommonDialog1);
     EXPECT_EQ(form.findControl("LISTVIEW1"), &form.ListView1);
     EXPECT_EQ(form.findControl("ListView"), nullptr);
-    EXPECT_EQ(errorOf([&] { form.control(form.controlCount()); }), basic::kSubscript);
-    EXPECT_EQ(errorOf([&] { form.Text1.caption(); }), basic::kNoSuchMember);
-    EXPECT_EQ(errorOf([&] { form.Picture1.setCaption("x"); }), basic::kNoSuchMember);
-    EXPECT_EQ(errorOf([&] { form.Line1.setEnabled(true); }), basic::kNoSuchMember);
-    EXPECT_EQ(errorOf([&] { form.CommonDialog1.setEnabled(true); }), basic::kNoSuchMember);
-    EXPECT_EQ(errorOf([&] { form.Line1.setHelpContextId(1); }), basic::kNoSuchMember);
-    forms::Label label(form, "Label1");
-    EXPECT_EQ(errorOf([&] { label.setHelpContextId(1); }), basic::kNoSuchMember);
-    label.setCaption("text");
-    EXPECT_EQ(form.control(14).caption(), "text");
 }
 
 TEST_F(EventsTest, FileDialogFilters) {

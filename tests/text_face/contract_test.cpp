@@ -17,7 +17,6 @@ struct Outcome {
     std::vector<std::string> events;
     std::string state;
     int help = 0;
-    bool operator==(const Outcome&) const = default;
 };
 
 /// One act as the text face's line and as the call that another face makes.
@@ -119,30 +118,14 @@ TEST(ContractTest, TheSameActsGiveTheSameEventsAndTheSameModel) {
     EXPECT_EQ(text.help, expected.help);
 
     EXPECT_EQ(expected.help, 109900);
-    EXPECT_EQ(expected.events, (std::vector<std::string>{"Initialize",
-                                                         "Load",
-                                                         "Activate",
-                                                         "Check1.Click",
-                                                         "Option2.Click",
-                                                         "List1.Click",
-                                                         "List1.Click",
-                                                         "Combo1.Change",
-                                                         "Combo1.Click",
-                                                         "Combo2.Click",
-                                                         "ListView1.ItemClick 2",
-                                                         "ListView1.Click",
-                                                         "ListView1.BeforeLabelEdit",
-                                                         "ListView1.BeforeLabelEdit",
-                                                         "ListView1.Click",
-                                                         "ListView1.KeyDown at 3",
-                                                         "ListView1.KeyDown at 2",
-                                                         "Resize",
-                                                         "Button1.Click",
-                                                         "yes a.dxf",
-                                                         "Activate",
-                                                         "Button1.Click",
-                                                         "Text1.Change",
-                                                         "Button1.Click"}));
+    std::string events;
+    for (const std::string& event : expected.events) events += event + ", ";
+    EXPECT_EQ(events,
+              "Initialize, Load, Activate, Check1.Click, Option2.Click, List1.Click, List1.Click, "
+              "Combo1.Change, Combo1.Click, Combo2.Click, ListView1.ItemClick 2, ListView1.Click, "
+              "ListView1.BeforeLabelEdit, ListView1.BeforeLabelEdit, ListView1.Click, "
+              "ListView1.KeyDown at 3, ListView1.KeyDown at 2, Resize, Button1.Click, yes a.dxf, Activate, "
+              "Button1.Click, Text1.Change, Button1.Click, ");
 }
 
 }  // namespace
