@@ -8,6 +8,8 @@ Comments at the head of the script say what it needs:
     ; drawing: samples/apartment.dxf   the drawing, copied into the folder; corpus/NAME stands for the corpus of
                                        real drawings, and the transcript is skipped where that isn't there;
                                        big N stands for a generated drawing of N references
+    ; drawing: FILE | VALUE | VALUE    several such lines: the script is run for each, with the values in the places
+                                       of {1}, {2}...
     ; copy: samples/a.dxf              a further file for the folder
     ; options: --regional fr           options of the console
     ; language: fr                     the desktop's language (en without it)
@@ -37,6 +39,17 @@ SKIPPED = 77
 PYTHON = "/usr/bin/python3"  # Debian's, which has python3-ezdxf
 
 
+def runs(script):
+    """The script's text for each of its drawings."""
+    lines = script.read_text(encoding="utf-8").splitlines(True)
+    rows = [line for line in lines if line.startswith("; drawing:")]
+    for row in rows:
+        text = "".join(line for line in lines if line == row or line not in rows)
+        for i, value in enumerate(row.split("|")[1:], 1):
+            text = text.replace("{%d}" % i, value.strip())
+        yield text
+
+
 def directives(script):
     for line in script.read_text(encoding="utf-8").splitlines():
         match = re.match(r";\s*(drawing|copy|options|language|exit|check|run|prepare|before|disk):\s*(.*)$", line)
@@ -46,7 +59,7 @@ def directives(script):
             return
 
 
-def find_file(name, console):
+def find_file(name):
     if name.startswith("big "):
         return None
     if name.startswith("corpus/"):
@@ -60,7 +73,7 @@ def find_file(name, console):
 
 def bring(name, folder, console):
     """Puts a drawing into the folder; its name there."""
-    source = find_file(name, console)
+    source = find_file(name)
     if source is None:
         subprocess.run([console.parent / "make-big-drawing", name.split()[1], folder / "big.dxf"], check=True)
         return "big.dxf"
@@ -76,7 +89,7 @@ def tell(console, script, folder):
     """The story."""
     settings, story = list(directives(script)), ""
     of = lambda key: [value for k, value in settings if k == key]
-    drawing = bring(of("drawing")[0], folder, console)
+    drawing = bring(of("drawing")[0].split("|")[0].strip(), folder, console)
     for name in of("copy"):
         bring(name, folder, console)
     original = folder / ("original-" + drawing)
@@ -120,9 +133,13 @@ def run_tool(command, folder):
 
 def main():
     console, script = Path(sys.argv[1]).resolve(), Path(sys.argv[2]).resolve()
-    expected_file = script.with_suffix(".story")
-    with tempfile.TemporaryDirectory(prefix="vorlane-act-") as name:
-        story = tell(console, script, Path(name).resolve())
+    expected_file, story = script.with_suffix(".story"), ""
+    for text in runs(script):
+        with tempfile.TemporaryDirectory(prefix="vorlane-act-") as name:
+            filled, folder = Path(name).resolve() / script.name, Path(name).resolve() / "folder"
+            folder.mkdir()
+            filled.write_text(text, encoding="utf-8")
+            story += tell(console, filled, folder)
     expected = expected_file.read_text(encoding="utf-8") if expected_file.exists() else ""
     if story != expected:
         sys.stdout.writelines(difflib.unified_diff(expected.splitlines(True), story.splitlines(True), "expected", "told"))

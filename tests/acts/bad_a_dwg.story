@@ -1,1 +1,0 @@
-vorlane-console: drawing.dwg: this is a DWG drawing, not a DXF drawing

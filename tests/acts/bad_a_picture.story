@@ -1,1 +1,0 @@
-vorlane-console: picture.dxf: this is a PNG picture, not a DXF drawing
