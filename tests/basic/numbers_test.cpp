@@ -1,7 +1,10 @@
 #include "basic/numbers.h"
 
+#include "tests/fakes/error_of.h"
+
 #include <cmath>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace basic {
 namespace {
@@ -9,35 +12,37 @@ namespace {
 const Regional kEnglish = Regional::english();
 const Regional kFrench = Regional::french();
 
-template <typename Call>
-int errorOf(Call call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.number();
-    }
-    return 0;
+using fakes::errorOf;
+
+/// A value with its text, or a text with its value, where the point or the comma separates.
+template <typename From, typename To>
+using Rows = std::vector<std::pair<From, To>>;
+
+void expectTexts(const Regional& regional, const Rows<Variant, const char*>& rows) {
+    for (const auto& [value, text] : rows) EXPECT_EQ(toText(value, regional), text);
+}
+void expectValues(const Regional& regional, const Rows<std::string, double>& rows) {
+    for (const auto& [text, value] : rows) EXPECT_EQ(toDouble(text, regional), value) << text;
 }
 
 TEST(ToText, GivesFifteenDigitsWithoutTrailingZeros) {
-    EXPECT_EQ(toText(0.5, kEnglish), "0.5");
-    EXPECT_EQ(toText(-12.25, kEnglish), "-12.25");
-    EXPECT_EQ(toText(0.1 + 0.2, kEnglish), "0.3");
-    EXPECT_EQ(toText(1.0 / 3, kEnglish), "0.333333333333333");
-    EXPECT_EQ(toText(2.0 / 3, kFrench), "0,666666666666667");
-    EXPECT_EQ(toText(1234567.891, kFrench), "1234567,891");  // no thousands separator
-    EXPECT_EQ(toText(-0.0, kEnglish), "0");
-    EXPECT_EQ(toText(299999999999999.96, kEnglish), "300000000000000");
+    expectTexts(kEnglish, {{0.5, "0.5"},
+                           {-12.25, "-12.25"},
+                           {0.1 + 0.2, "0.3"},
+                           {1.0 / 3, "0.333333333333333"},
+                           {-0.0, "0"},
+                           {299999999999999.96, "300000000000000"}});
+    expectTexts(kFrench,
+                {{2.0 / 3, "0,666666666666667"}, {1234567.891, "1234567,891"}});  // no thousands separator
 }
 
 TEST(ToText, TurnsToAnExponentForVeryLargeAndVerySmallValues) {
-    EXPECT_EQ(toText(999999999999999.0, kEnglish), "999999999999999");
-    EXPECT_EQ(toText(1e15, kEnglish), "1E+15");
-    EXPECT_EQ(toText(-1234567890123456.0, kFrench), "-1,23456789012346E+15");
-    EXPECT_EQ(toText(0.0001, kEnglish), "0.0001");
-    EXPECT_EQ(toText(0.00001, kEnglish), "1E-05");
-    EXPECT_EQ(toText(1.5e-5, kFrench), "1,5E-05");
-    EXPECT_EQ(toText(1e300, kEnglish), "1E+300");
+    expectTexts(kEnglish, {{999999999999999.0, "999999999999999"},
+                           {1e15, "1E+15"},
+                           {0.0001, "0.0001"},
+                           {0.00001, "1E-05"},
+                           {1e300, "1E+300"}});
+    expectTexts(kFrench, {{-1234567890123456.0, "-1,23456789012346E+15"}, {1.5e-5, "1,5E-05"}});
 }
 
 TEST(ToText, GivesAFloatSevenDigits) {
@@ -48,41 +53,35 @@ TEST(ToText, GivesAFloatSevenDigits) {
 }
 
 TEST(ToText, TakesEveryVariantThatHasAText) {
-    EXPECT_EQ(toText(Variant("a,b"), kFrench), "a,b");
-    EXPECT_EQ(toText(Variant(std::int16_t{-3}), kFrench), "-3");
-    EXPECT_EQ(toText(Variant(2.5), kFrench), "2,5");
-    EXPECT_EQ(toText(Variant(true), kFrench), "True");
-    EXPECT_EQ(toText(Variant(), kFrench), "");
+    expectTexts(kFrench,
+                {{"a,b", "a,b"}, {std::int16_t{-3}, "-3"}, {2.5, "2,5"}, {true, "True"}, {Variant(), ""}});
     EXPECT_EQ(errorOf([] { toText(Variant(Doubles{1}), kFrench); }), kTypeMismatch);
     EXPECT_EQ(errorOf([] { toText(Variant(Missing{}), kFrench); }), kTypeMismatch);
 }
 
-TEST(ToDouble, ReadsTextUnderPointAndComma) {
-    EXPECT_EQ(toDouble(" 12.5\t", kEnglish), 12.5);
-    EXPECT_EQ(toDouble("12,5", kEnglish), 125);  // a thousands separator wherever it stands
-    EXPECT_EQ(toDouble("1,2,34,.5", kEnglish), 1234.5);
-    EXPECT_EQ(toDouble("- 5", kEnglish), -5);
-    EXPECT_EQ(toDouble("5 -", kEnglish), -5);
-    EXPECT_EQ(toDouble("(1,000)", kEnglish), -1000);
-    EXPECT_EQ(toDouble("+.5", kEnglish), 0.5);
-    EXPECT_EQ(toDouble("5.", kEnglish), 5);
-    EXPECT_EQ(toDouble("1E3", kEnglish), 1000);
-    EXPECT_EQ(toDouble("2.5d-1", kEnglish), 0.25);
-    EXPECT_EQ(toDouble("&HFF", kEnglish), 255);
-    EXPECT_EQ(toDouble(" &o17 ", kEnglish), 15);
-    EXPECT_EQ(toDouble("0.1", kEnglish), 0.1);
-}
-
-TEST(ToDouble, ReadsTextUnderACommaAndBlanks) {
-    EXPECT_EQ(toDouble("12,5", kFrench), 12.5);
-    EXPECT_EQ(toDouble("1 234 567,5", kFrench), 1234567.5);
-    EXPECT_EQ(toDouble("1\u00A0234", kFrench), 1234);
-    EXPECT_EQ(toDouble("-1\u202F234,25", kFrench), -1234.25);
-    EXPECT_EQ(toDouble("1,5E-05", kFrench), 1.5e-5);
-    EXPECT_FALSE(isNumeric("12.5", kFrench));
-    EXPECT_FALSE(isNumeric("1 234", kEnglish));
+TEST(ToDouble, ReadsTextUnderTheSettings) {
+    // A thousands separator counts wherever it stands.
+    expectValues(kEnglish, {{" 12.5\t", 12.5},
+                            {"12,5", 125},
+                            {"1,2,34,.5", 1234.5},
+                            {"- 5", -5},
+                            {"5 -", -5},
+                            {"(1,000)", -1000},
+                            {"+.5", 0.5},
+                            {"5.", 5},
+                            {"1E3", 1000},
+                            {"2.5d-1", 0.25},
+                            {"&HFF", 255},
+                            {" &o17 ", 15},
+                            {"0.1", 0.1}});
+    expectValues(kFrench, {{"12,5", 12.5},
+                           {"1 234 567,5", 1234567.5},
+                           {"1\u00A0234", 1234},
+                           {"-1\u202F234,25", -1234.25},
+                           {"1,5E-05", 1.5e-5}});
     const Regional german{",", "."};
-    EXPECT_EQ(toDouble("1.234,5", german), 1234.5);
+    expectValues(german, {{"1.234,5", 1234.5}});
+    EXPECT_FALSE(isNumeric("12.5", kFrench));
     EXPECT_FALSE(isNumeric("1 234", german));
 }
 
@@ -96,12 +95,10 @@ TEST(ToDouble, RefusesWhatIsNoNumber) {
 }
 
 TEST(ToDouble, MeetsTheLimitsOfAFloat) {
-    EXPECT_EQ(errorOf([] { toDouble("1E400", kEnglish); }), kOverflow);
-    EXPECT_EQ(errorOf([] { toDouble("-1E99999999999999999999", kEnglish); }), kOverflow);
-    EXPECT_EQ(errorOf([] { toDouble(std::string(400, '9'), kEnglish); }), kOverflow);
-    EXPECT_EQ(toDouble("1E-400", kEnglish), 0);
-    EXPECT_EQ(toDouble("0." + std::string(400, '0') + "1", kEnglish), 0);
-    EXPECT_EQ(toDouble("0E99999", kEnglish), 0);
+    for (const std::string& text :
+         {std::string("1E400"), std::string("-1E99999999999999999999"), std::string(400, '9')})
+        EXPECT_EQ(errorOf([&] { toDouble(text, kEnglish); }), kOverflow) << text;
+    expectValues(kEnglish, {{"1E-400", 0}, {"0." + std::string(400, '0') + "1", 0}, {"0E99999", 0}});
 }
 
 TEST(ToDouble, TakesVariantsAsTheyAre) {
@@ -123,55 +120,48 @@ TEST(ToDouble, ReadsBackWhatToTextGives) {
 }
 
 TEST(LeadingNumber, StopsAtTheFirstForeignCharacter) {
-    EXPECT_EQ(leadingNumber("12b"), 12);
-    EXPECT_EQ(leadingNumber(""), 0);
-    EXPECT_EQ(leadingNumber("b12"), 0);
-    EXPECT_EQ(leadingNumber(" 1 6\t1\n5 rue"), 1615);
-    EXPECT_EQ(leadingNumber("001"), 1);
-    EXPECT_EQ(leadingNumber("2,5"), 2);  // only the point separates, whatever the settings
-    EXPECT_EQ(leadingNumber("-2.5.1"), -2.5);
-    EXPECT_EQ(leadingNumber("1e2x"), 100);
-    EXPECT_EQ(leadingNumber("1Ex"), 1);
-    EXPECT_EQ(leadingNumber("&HFF&"), 255);
-    EXPECT_EQ(leadingNumber("&HFFFF"), -1);
-    EXPECT_EQ(leadingNumber("&HFFFF&"), 65535);
-    EXPECT_EQ(leadingNumber("&O17"), 15);
+    // Only the point separates, whatever the settings.
+    const Rows<const char*, double> rows{
+        {"12b", 12}, {"", 0},        {"b12", 0},       {" 1 6\t1\n5 rue", 1615},
+        {"001", 1},  {"2,5", 2},     {"-2.5.1", -2.5}, {"1e2x", 100},
+        {"1Ex", 1},  {"&HFF&", 255}, {"&HFFFF", -1},   {"&HFFFF&", 65535},
+        {"&O17", 15}};
+    for (const auto& [text, value] : rows) EXPECT_EQ(leadingNumber(text), value) << text;
     EXPECT_EQ(errorOf([] { leadingNumber("1e400"); }), kOverflow);
 }
 
 TEST(Rounding, GoesToTheEvenNeighbourAndOverflows) {
-    EXPECT_EQ(toInt16(0.5), 0);
-    EXPECT_EQ(toInt16(1.5), 2);
-    EXPECT_EQ(toInt16(-2.5), -2);
-    EXPECT_EQ(toInt16(32767.4), 32767);
-    EXPECT_EQ(toInt16(-32768.5), -32768);
-    EXPECT_EQ(errorOf([] { toInt16(32767.5); }), kOverflow);
-    EXPECT_EQ(errorOf([] { toInt16(-32769); }), kOverflow);
-    EXPECT_EQ(errorOf([] { toInt16(std::nan("")); }), kOverflow);
+    const Rows<double, int> rows{{0.5, 0}, {1.5, 2}, {-2.5, -2}, {32767.4, 32767}, {-32768.5, -32768}};
+    for (const auto& [value, rounded] : rows) EXPECT_EQ(toInt16(value), rounded);
+    for (const double value : {32767.5, -32769.0, std::nan("")})
+        EXPECT_EQ(errorOf([&] { toInt16(value); }), kOverflow) << value;
     EXPECT_EQ(toInt32(2147483647.25), 2147483647);
     EXPECT_EQ(errorOf([] { toInt32(2147483647.5); }), kOverflow);
 }
 
-TEST(Picture, RoundsAHalfAwayFromZeroOnTheDecimalText) {
-    EXPECT_EQ(toPicture(2.675, 2, kEnglish), "2.68");
+TEST(Picture, RoundsAHalfAwayFromZeroOnTheDecimalTextToTheDecimalsAskedFor) {
+    const struct {
+        double value;
+        int decimals;
+        const char* text;
+    } rows[] = {{2.675, 2, "2.68"},
+                {1.005, 2, "1.01"},
+                {12.346, 2, "12.35"},
+                {-0.5, 0, "-1"},
+                {0.5, 0, "1"},
+                {9.999, 2, "10.00"},
+                {0.05, 1, "0.1"},
+                {0.04, 0, "0"},
+                {2.5, 3, "2.500"},
+                {0.001, 2, "0.00"},
+                {-0.001, 2, "0.00"},
+                {1e20, 1, "100000000000000000000.0"},
+                {1e-7, 8, "0.00000010"},
+                {-1234567.5, 0, "-1234568"},
+                {0, 0, "0"}};
+    for (const auto& row : rows) EXPECT_EQ(toPicture(row.value, row.decimals, kEnglish), row.text);
     EXPECT_EQ(toPicture(1.005, 2, kFrench), "1,01");
-    EXPECT_EQ(toPicture(12.346, 2, kEnglish), "12.35");
-    EXPECT_EQ(toPicture(-0.5, 0, kEnglish), "-1");
-    EXPECT_EQ(toPicture(0.5, 0, kEnglish), "1");
-    EXPECT_EQ(toPicture(9.999, 2, kEnglish), "10.00");
-    EXPECT_EQ(toPicture(0.05, 1, kEnglish), "0.1");
-    EXPECT_EQ(toPicture(0.04, 0, kEnglish), "0");
-}
-
-TEST(Picture, GivesExactlyTheDecimalsAskedFor) {
-    EXPECT_EQ(toPicture(2.5, 3, kFrench), "2,500");
-    EXPECT_EQ(toPicture(0.001, 2, kEnglish), "0.00");
-    EXPECT_EQ(toPicture(-0.001, 2, kEnglish), "0.00");  // no sign on a zero
-    EXPECT_EQ(toPicture(1e20, 1, kEnglish), "100000000000000000000.0");
-    EXPECT_EQ(toPicture(1e-7, 8, kEnglish), "0.00000010");
-    EXPECT_EQ(toPicture(-1234567.5, 0, kEnglish), "-1234568");
     EXPECT_EQ(toPicture(3, 0, kFrench, true), "3,");
-    EXPECT_EQ(toPicture(0, 0, kFrench), "0");
 }
 
 }  // namespace

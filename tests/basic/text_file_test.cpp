@@ -1,6 +1,6 @@
 #include "basic/text_file.h"
 
-#include "basic/error.h"
+#include "tests/fakes/error_of.h"
 #include "tests/fakes/temp_folder.h"
 
 #include <filesystem>
@@ -13,6 +13,7 @@ namespace basic {
 namespace {
 
 namespace fs = std::filesystem;
+using fakes::errorOf;
 
 /// Lays root's rights down as long as it lives, since root may read everything.
 class CommonUser {
@@ -40,15 +41,6 @@ class TextFile : public testing::Test {
         while (!reader.atEnd()) lines.push_back(reader.readLine());
         return lines;
     }
-    template <typename Call>
-    static int errorOf(Call call) {
-        try {
-            call();
-        } catch (const Error& error) {
-            return error.number();
-        }
-        return 0;
-    }
     static int readError(const std::string& path) {
         return errorOf([&] { TextReader reader(path); });
     }
@@ -66,18 +58,12 @@ TEST_F(TextFile, ReadsLinesByCarriageReturns) {
     EXPECT_EQ(linesOf(write("b", "bare\nfeeds\n")), (Lines{"bare\nfeeds\n"}));
     EXPECT_EQ(linesOf(write("c", "no end")), (Lines{"no end"}));
     EXPECT_EQ(linesOf(write("d", "")), Lines{});
-    EXPECT_EQ(linesOf(write("e",
-                            "Fran\xE7"
-                            "ais\r\n")),
-              (Lines{"Français"}));
+    EXPECT_EQ(linesOf(write("e", "caf\xE9\r\n")), (Lines{"café"}));
+    const std::string line(70000, 'x');  // longer than one chunk
+    EXPECT_EQ(linesOf(write("g", line + "\r\n" + line)), (Lines{line, line}));
     TextReader reader(write("f", "x\r"));
     reader.readLine();
     EXPECT_EQ(errorOf([&] { reader.readLine(); }), kInputPastEnd);
-}
-
-TEST_F(TextFile, ReadsAFileLargerThanOneChunk) {
-    const std::string line(70000, 'x');
-    EXPECT_EQ(linesOf(write("a", line + "\r\n" + line)), (Lines{line, line}));
 }
 
 TEST_F(TextFile, WritesAndAppendsInTheCodePage) {
@@ -87,27 +73,23 @@ TEST_F(TextFile, WritesAndAppendsInTheCodePage) {
     replacing.close();
     replacing.close();
     EXPECT_EQ(errorOf([&] { replacing.writeLine("late"); }), kBadFileName);
-    TextWriter appending(file, TextWriter::Mode::Append);
-    appending.writeLine("Ж");
-    appending.close();
+    TextWriter(file, TextWriter::Mode::Append).writeLine("Ж");  // closed when dropped
     EXPECT_EQ(folder_.read("a"), "N\xB0\r\n?\r\n");
 }
 
-TEST_F(TextFile, ClosesWhenDropped) {
-    { TextWriter(path("new"), TextWriter::Mode::Append).writeLine("kept"); }
-    EXPECT_EQ(folder_.read("new"), "kept\r\n");
-}
-
 TEST_F(TextFile, NamesTheFailure) {
-    EXPECT_EQ(readError(""), kBadFileName);
-    EXPECT_EQ(readError(std::string("a\0b", 3)), kBadFileName);
-    EXPECT_EQ(readError(path(std::string(300, 'n'))), kBadFileName);
-    EXPECT_EQ(readError(path("none")), kFileNotFound);
-    EXPECT_EQ(readError("no such file beside us"), kFileNotFound);
-    EXPECT_EQ(readError(path("none/file")), kPathNotFound);
+    const std::pair<std::string, int> rows[] = {
+        {"", kBadFileName},
+        {std::string("a\0b", 3), kBadFileName},
+        {path(std::string(300, 'n')), kBadFileName},
+        {path("none"), kFileNotFound},
+        {"no such file beside us", kFileNotFound},
+        {path("none/file"), kPathNotFound},
+        {write("plain", "") + "/file", kPathNotFound},
+        {folder_.path(), kPathFileAccess},
+    };
+    for (const auto& [name, error] : rows) EXPECT_EQ(readError(name), error) << name;
     EXPECT_EQ(writeError(path("none/file")), kPathNotFound);
-    EXPECT_EQ(readError(write("plain", "") + "/file"), kPathNotFound);
-    EXPECT_EQ(readError(folder_.path()), kPathFileAccess);
     EXPECT_EQ(writeError(folder_.path()), kPathFileAccess);
 }
 
