@@ -1,7 +1,7 @@
 // What the three dialogs have in common: the layout and the remembered window.
 
 #include "tests/extract/extract_world.h"
-#include "tests/labels/layout_check.h"
+#include "tests/fakes/layout_check.h"
 
 namespace extract {
 namespace {

@@ -30,7 +30,7 @@ class FakeBlock : public FakeObject {
         if (is(member, "Name")) return Variant(name);
         if (is(member, "IsLayout")) return Variant(isLayout);
         if (is(member, "IsXRef")) return Variant(isXRef);
-        throw basic::Error(basic::kNoSuchMember);
+        return FakeObject::get(member);
     }
 };
 using FakeBlockPtr = std::shared_ptr<FakeBlock>;
@@ -57,22 +57,56 @@ struct FakeDrawing : DrawingState {
             if (basic::NameEqual{}(block->name, name)) return block;
         return nullptr;
     }
+    /// A reference in model space with its block's attributes; `texts` replace their defaults from the first
+    /// on.
+    FakeReferencePtr addReference(const std::string& block, Point point,
+                                  const std::vector<std::string>& texts = {}) {
+        auto reference = std::make_shared<FakeReference>(*this, block);
+        reference->point = point;
+        if (const FakeBlockPtr definition = findBlock(block)) {
+            for (const auto& [tag, text] : definition->attributes) {
+                const std::size_t index = reference->attributes.size();
+                reference->attributes.push_back(std::make_shared<FakeAttribute>(
+                    tag, index < texts.size() ? texts[index] : text, reference));
+            }
+        }
+        entities.push_back(reference);
+        return reference;
+    }
+    /// The living entities of a class, oldest first.
+    template <typename Entity>
+    std::vector<std::shared_ptr<Entity>> living() const {
+        std::vector<std::shared_ptr<Entity>> found;
+        for (const FakeEntityPtr& any : entities)
+            if (auto entity = std::dynamic_pointer_cast<Entity>(any); entity && !entity->erased)
+                found.push_back(std::move(entity));
+        return found;
+    }
     template <typename Answer>
     static Answer nextAnswer(std::deque<std::optional<Answer>>& answers) {
         if (answers.empty()) throw std::logic_error("the host asked for a pick that the test doesn't give");
         const bool brokenOff = !answers.front().has_value();
         Answer answer = brokenOff ? Answer() : std::move(*answers.front());
         answers.pop_front();
-        if (brokenOff) throw escapeError();
+        if (brokenOff) throw basic::Error(kEscape, "User input was cancelled");
         return answer;
     }
 };
 using FakeDrawingPtr = std::shared_ptr<FakeDrawing>;
 
-/// A named selection set.
-class FakeSelectionSet : public FakeObject {
+/// An object that looks into the drawing, which outlives it.
+class OfDrawing : public FakeObject {
   public:
-    FakeSelectionSet(FakeDrawing& drawing, std::string name) : name(std::move(name)), drawing_(drawing) {}
+    explicit OfDrawing(FakeDrawing& drawing) : drawing_(drawing) {}
+
+  protected:
+    FakeDrawing& drawing_;
+};
+
+/// A named selection set.
+class FakeSelectionSet : public OfDrawing {
+  public:
+    FakeSelectionSet(FakeDrawing& drawing, std::string name) : OfDrawing(drawing), name(std::move(name)) {}
 
     std::string name;
     std::vector<FakeEntityPtr> members;
@@ -80,7 +114,7 @@ class FakeSelectionSet : public FakeObject {
     Variant get(std::string_view member) override {
         if (is(member, "Name")) return Variant(name);
         if (is(member, "Count")) return Variant(static_cast<std::int32_t>(members.size()));
-        throw basic::Error(basic::kNoSuchMember);
+        return FakeObject::get(member);
     }
     Variant call(std::string_view member, Arguments& arguments) override {
         if (is(member, "Item")) return item(argument(arguments, 0).integer());
@@ -124,12 +158,11 @@ class FakeSelectionSet : public FakeObject {
         return basic::equalIgnoringCase(value, "AcDbEntity") ||
                basic::equalIgnoringCase(value, entity.objectName);
     }
-    FakeDrawing& drawing_;
 };
 
-class FakeSelectionSets : public FakeObject {
+class FakeSelectionSets : public OfDrawing {
   public:
-    explicit FakeSelectionSets(FakeDrawing& drawing) : drawing_(drawing) {}
+    using OfDrawing::OfDrawing;
 
     Variant get(std::string_view member) override {
         if (is(member, "Count")) return Variant(static_cast<std::int32_t>(drawing_.sets.size()));
@@ -158,12 +191,11 @@ class FakeSelectionSets : public FakeObject {
             if (basic::equalIgnoringCase(set->name, name)) return set;
         return nullptr;
     }
-    FakeDrawing& drawing_;
 };
 
-class FakeModelSpace : public FakeObject {
+class FakeModelSpace : public OfDrawing {
   public:
-    explicit FakeModelSpace(FakeDrawing& drawing) : drawing_(drawing) {}
+    using OfDrawing::OfDrawing;
 
     Variant call(std::string_view member, Arguments& arguments) override {
         if (is(member, "AddLine")) {
@@ -173,17 +205,14 @@ class FakeModelSpace : public FakeObject {
             return Variant(line);
         }
         if (!is(member, "InsertBlock")) throw basic::Error(basic::kNoSuchMember);
+        const Point point = pointOf(argument(arguments, 0));
+        Point scale;
+        for (std::size_t i = 0; i < 3; ++i) scale[i] = drawing_.scaleFactor(argument(arguments, 2 + i));
+        const double rotation = argument(arguments, 5).number();
         const FakeBlockPtr block = definition(argument(arguments, 1).text());
-        auto reference = std::make_shared<FakeReference>(drawing_, block->name);
-        const basic::Doubles& point = argument(arguments, 0).doubles();
-        for (std::size_t i = 0; i < 3; ++i) {
-            reference->point[i] = point.at(i);
-            reference->scale[i] = reference->scaleFactor(argument(arguments, 2 + i));
-        }
-        reference->rotation = argument(arguments, 5).number();
-        for (const auto& [tag, text] : block->attributes)
-            reference->attributes.push_back(std::make_shared<FakeAttribute>(tag, text, reference));
-        drawing_.entities.push_back(reference);
+        const auto reference = drawing_.addReference(block->name, point);
+        reference->scale = scale;
+        reference->rotation = rotation;
         return Variant(reference);
     }
     void enumerate(const std::function<bool(const Variant&)>& visit) override {
@@ -204,24 +233,22 @@ class FakeModelSpace : public FakeObject {
         if (!drawing_.findBlock(file->second->name)) drawing_.blocks.push_back(file->second);
         return file->second;
     }
-    FakeDrawing& drawing_;
 };
 
-class FakeBlocks : public FakeObject {
+class FakeBlocks : public OfDrawing {
   public:
-    explicit FakeBlocks(FakeDrawing& drawing) : drawing_(drawing) {}
+    using OfDrawing::OfDrawing;
+
     void enumerate(const std::function<bool(const Variant&)>& visit) override {
         for (const FakeBlockPtr& block : drawing_.blocks)
             if (!visit(Variant(block))) return;
     }
-
-  private:
-    FakeDrawing& drawing_;
 };
 
-class FakeUtility : public FakeObject {
+class FakeUtility : public OfDrawing {
   public:
-    explicit FakeUtility(FakeDrawing& drawing) : drawing_(drawing) {}
+    using OfDrawing::OfDrawing;
+
     Variant call(std::string_view member, Arguments& arguments) override {
         if (is(member, "GetEntity")) return pick(arguments);
         const bool wantsPoint = is(member, "GetPoint");
@@ -246,7 +273,6 @@ class FakeUtility : public FakeObject {
         arguments.at(1) = Variant(basic::Doubles(place.begin(), place.end()));
         return {};
     }
-    FakeDrawing& drawing_;
 };
 
 class FakeDocument : public FakeObject {
@@ -277,21 +303,10 @@ class FakeHost {
         drawing_->blocks.push_back(std::make_shared<FakeBlock>(std::move(name), std::move(attributes)));
         return *drawing_->blocks.back();
     }
-    /// A reference in model space with its block's attributes; `texts` replace their defaults from the first
-    /// on.
+    /// See FakeDrawing.
     FakeReferencePtr addReference(const std::string& block, Point point = {},
                                   const std::vector<std::string>& texts = {}) {
-        auto reference = std::make_shared<FakeReference>(*drawing_, block);
-        reference->point = point;
-        if (const FakeBlockPtr definition = drawing_->findBlock(block)) {
-            for (const auto& [tag, text] : definition->attributes) {
-                const std::size_t index = reference->attributes.size();
-                reference->attributes.push_back(std::make_shared<FakeAttribute>(
-                    tag, index < texts.size() ? texts[index] : text, reference));
-            }
-        }
-        drawing_->entities.push_back(reference);
-        return reference;
+        return drawing_->addReference(block, point, texts);
     }
     FakeEntityPtr addEntity(std::string objectName) {
         drawing_->entities.push_back(std::make_shared<FakeEntity>(*drawing_, std::move(objectName)));
@@ -307,20 +322,12 @@ class FakeHost {
 
     /// The living references of a block, oldest first.
     std::vector<FakeReferencePtr> references(std::string_view block) const {
-        std::vector<FakeReferencePtr> found;
-        for (const FakeEntityPtr& entity : drawing_->entities)
-            if (auto reference = std::dynamic_pointer_cast<FakeReference>(entity))
-                if (!reference->erased && reference->name == block) found.push_back(std::move(reference));
+        auto found = drawing_->living<FakeReference>();
+        std::erase_if(found, [block](const auto& reference) { return reference->name != block; });
         return found;
     }
     /// The living lines, oldest first.
-    std::vector<FakeLinePtr> lines() const {
-        std::vector<FakeLinePtr> found;
-        for (const FakeEntityPtr& entity : drawing_->entities)
-            if (auto line = std::dynamic_pointer_cast<FakeLine>(entity))
-                if (!line->erased) found.push_back(std::move(line));
-        return found;
-    }
+    std::vector<FakeLinePtr> lines() const { return drawing_->living<FakeLine>(); }
     std::vector<std::string> setNames() const {
         std::vector<std::string> names;
         for (const auto& set : drawing_->sets) names.push_back(set->name);

@@ -26,13 +26,10 @@ using host::ObjectPtr;
 enum HostErrorNumber : std::int32_t {
     kEscape = -2147352567,       ///< the user broke off a pick
     kWasErased = -2145386420,    ///< a member of an erased object
-    kLockedLayer = -2145386390,  ///< an edit on a locked layer
     kKeyNotFound = -2145386476,  ///< no entry, block or file of that name
     kRefusedValue = -2145386493  ///< a value that the property doesn't take
 };
 
-inline basic::Error escapeError() { return {kEscape, "User input was cancelled"}; }
-inline basic::Error erasedError() { return {kWasErased, "Object was erased"}; }
 inline basic::Error keyNotFound() { return {kKeyNotFound, "Key not found"}; }
 
 /// Base of the host's objects: a member that a class doesn't know is missing.
@@ -57,15 +54,14 @@ class FakeObject : public host::Object {
 
 /// What entities share of their drawing.
 struct DrawingState {
-    std::string currentLayer = "0";
-    std::vector<std::string> lockedLayers;
     basic::Regional regional = basic::Regional::english();  ///< under which a text given for a number is read
     int updates = 0;                                        ///< calls of `Update`
 
-    bool isLocked(std::string_view layer) const {
-        for (const std::string& locked : lockedLayers)
-            if (basic::NameEqual{}(locked, layer)) return true;
-        return false;
+    /// A scale factor as the host takes it: any number but 0.
+    double scaleFactor(const Variant& value) const {
+        const double factor = basic::toDouble(value, regional);
+        if (factor == 0) throw basic::Error(kRefusedValue, "Invalid input");
+        return factor;
     }
 };
 
@@ -77,11 +73,11 @@ enum class Space { Model, Paper };
 class FakeEntity : public FakeObject {
   public:
     FakeEntity(DrawingState& drawing, std::string objectName)
-        : objectName(std::move(objectName)), layer(drawing.currentLayer), drawing_(drawing) {}
+        : objectName(std::move(objectName)), drawing_(drawing) {}
 
     std::string objectName;
     std::string name;  ///< what group code 2 carries: a reference's block name, else empty
-    std::string layer;
+    std::string layer = "0";
     std::int32_t color = 256;
     Space space = Space::Model;
     bool erased = false;
@@ -94,14 +90,13 @@ class FakeEntity : public FakeObject {
         if (is(member, "ObjectName")) return Variant(objectName);
         if (is(member, "Layer")) return Variant(layer);
         if (is(member, "Color")) return Variant(color);
-        throw basic::Error(basic::kNoSuchMember);
+        return FakeObject::get(member);
     }
     Variant call(std::string_view member, Arguments&) override {
         requireAlive();
         if (is(member, "Update")) {
             ++drawing_.updates;
         } else if (is(member, "Delete")) {
-            requireUnlocked();
             erased = true;
         } else {
             throw basic::Error(basic::kNoSuchMember);
@@ -111,10 +106,7 @@ class FakeEntity : public FakeObject {
 
   protected:
     void requireAlive() const {
-        if (erased) throw erasedError();
-    }
-    void requireUnlocked() const {
-        if (drawing_.isLocked(layer)) throw basic::Error(kLockedLayer, "Object is on a locked layer");
+        if (erased) throw basic::Error(kWasErased, "Object was erased");
     }
     DrawingState& drawing_;
 };
@@ -143,7 +135,7 @@ class FakeAttribute : public FakeObject {
   private:
     void requireAlive() const {
         const auto owner = owner_.lock();
-        if (owner == nullptr || owner->erased) throw erasedError();
+        if (owner == nullptr || owner->erased) throw basic::Error(kWasErased, "Object was erased");
     }
     std::weak_ptr<FakeEntity> owner_;
 };
@@ -180,9 +172,8 @@ class FakeReference : public FakeEntity {
     }
     void set(std::string_view member, const Variant& value) override {
         requireAlive();
-        requireUnlocked();
         if (const int axis = scaleAxis(member); axis >= 0) {
-            scale[axis] = scaleFactor(value);
+            scale[axis] = drawing_.scaleFactor(value);
         } else if (is(member, "Rotation")) {
             rotation = basic::toDouble(value, drawing_.regional);
         } else if (is(member, "Visible")) {
@@ -198,13 +189,6 @@ class FakeReference : public FakeEntity {
         if (!is(member, "GetAttributes")) return FakeEntity::call(member, arguments);
         requireAlive();
         return Variant(basic::Array(attributes.begin(), attributes.end()));
-    }
-
-    /// A scale factor as the host takes it: any number but 0, a text read under the regional settings.
-    double scaleFactor(const Variant& value) const {
-        const double factor = basic::toDouble(value, drawing_.regional);
-        if (factor == 0) throw basic::Error(kRefusedValue, "Invalid input");
-        return factor;
     }
 
   private:

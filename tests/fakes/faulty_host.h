@@ -29,17 +29,16 @@ class FaultyHost {
     /// Forgets the counts, the log and the failure that was ordered.
     void reset() { *state_ = State{}; }
     /// The nth access of all from now on fails, n from 1.
-    void failAtCall(int n, basic::Error error = standardFailure()) { order({}, n, std::move(error)); }
+    void failAtCall(int n) { failAt({}, n); }
     /// The nth access of this kind fails, n from 1: a kind and a member as in the log, or a member alone.
-    void failAt(std::string access, int n = 1, basic::Error error = standardFailure()) {
-        order(std::move(access), n, std::move(error));
+    void failAt(std::string access, int n = 1) {
+        state_->target = std::move(access);
+        state_->countdown = n;
+        state_->failed = false;
     }
-    /// Without the log a run of many accesses stays small.
-    void keepLog(bool keep) { state_->keepLog = keep; }
-
     /// Whether the ordered failure has been raised.
     bool failed() const { return state_->failed; }
-    int calls() const { return state_->calls; }
+    int calls() const { return static_cast<int>(state_->log.size()); }
     const std::vector<std::string>& log() const { return state_->log; }
     /// How many entries of the log are this access or this member.
     int count(std::string_view access) const {
@@ -58,13 +57,10 @@ class FaultyHost {
 
   private:
     struct State {
-        int calls = 0;
         std::vector<std::string> log;
-        bool keepLog = true;
         std::string target;
         int countdown = 0;  ///< 0: no failure is ordered
         bool failed = false;
-        basic::Error error = standardFailure();
     };
     using StatePtr = std::shared_ptr<State>;
 
@@ -97,16 +93,14 @@ class FaultyHost {
       private:
         void pass(std::string_view kind, std::string_view member) {
             State& state = *state_;
-            ++state.calls;
-            if (!state.keepLog && state.countdown == 0) return;
             std::string access(kind);
             if (!member.empty()) access.append(" ").append(member);
             const bool hit = state.countdown > 0 && (state.target.empty() || matches(access, state.target)) &&
                              --state.countdown == 0;
-            if (state.keepLog) state.log.push_back(std::move(access));
+            state.log.push_back(std::move(access));
             if (!hit) return;
             state.failed = true;
-            throw state.error;
+            throw standardFailure();
         }
         basic::Variant wrap(const basic::Variant& value) const {
             if (value.is(basic::Variant::Kind::Object)) {
@@ -136,13 +130,6 @@ class FaultyHost {
         const std::size_t blank = entry.find(' ');
         return blank != std::string_view::npos && entry.substr(blank + 1) == access;
     }
-    void order(std::string access, int n, basic::Error error) {
-        state_->target = std::move(access);
-        state_->countdown = n;
-        state_->failed = false;
-        state_->error = std::move(error);
-    }
-
     StatePtr state_;
     host::ObjectPtr root_;
 };

@@ -28,28 +28,18 @@ class RecordingScreen : public forms::Screen {
     int changes = 0;
 
     // The common acts by control name, in the order in which they are to run.
-    void click(std::string name) {
-        acts.push_back(
-            [name](forms::Form& form) { forms::acts::click(forms::acts::controlNamed(form, name)); });
-    }
+    void click(std::string name) { on(name, forms::acts::click); }
     void type(std::string name, std::string text) {
-        acts.push_back([name, text](forms::Form& form) {
-            forms::acts::type(forms::acts::controlNamed(form, name), text);
-        });
+        on(name, [text](forms::Control& control) { forms::acts::type(control, text); });
     }
     void choose(std::string name, std::string text) {
-        acts.push_back([name, text](forms::Form& form) {
-            forms::acts::chooseText(forms::acts::controlNamed(form, name), text);
-        });
+        on(name, [text](forms::Control& control) { forms::acts::chooseText(control, text); });
     }
     void choose(std::string name, int index) {
-        acts.push_back([name, index](forms::Form& form) {
-            forms::acts::chooseIndex(forms::acts::controlNamed(form, name), index);
-        });
+        on(name, [index](forms::Control& control) { forms::acts::chooseIndex(control, index); });
     }
     void key(std::string name, forms::Key key) {
-        acts.push_back(
-            [name, key](forms::Form& form) { forms::acts::key(forms::acts::controlNamed(form, name), key); });
+        on(name, [key](forms::Control& control) { forms::acts::key(control, key); });
     }
     void closeBox() {
         acts.push_back([](forms::Form& form) { forms::acts::closeBox(form); });
@@ -85,6 +75,9 @@ class RecordingScreen : public forms::Screen {
     void showHelp(int context) override { helpContexts.push_back(context); }
 
   private:
+    void on(const std::string& name, std::function<void(forms::Control&)> act) {
+        acts.push_back([=](forms::Form& form) { act(forms::acts::controlNamed(form, name)); });
+    }
     template <typename Value>
     static Value next(std::deque<Value>& queue, const std::string& what) {
         if (queue.empty()) throw std::logic_error("no " + what);

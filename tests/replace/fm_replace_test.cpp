@@ -28,8 +28,8 @@ TEST_F(DialogTest, OpensOnTheFirstBlockOfTheWholeDrawing) {
         EXPECT_EQ(dialog().owner(), &session.form("fmOwner"));
         EXPECT_EQ(entries(dialog().lstDestination), (Texts{"chair", "DOOR"})) << "sorted without case";
         EXPECT_EQ(dialog().Check1.value(), 0);
-        fakes::expectTidy(dialog(), 0, 0);
-        fakes::expectTidy(table(), 0, 0);
+        expectTidy(dialog());
+        expectTidy(table());
     });
     expectZone("1", false);
     screen.choose("lstDestination", "DOOR");
