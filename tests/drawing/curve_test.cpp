@@ -2,17 +2,10 @@
 
 #include "desk/drawing/curve_spline.h"
 #include "desk/drawing/measure_curve.h"
-
-#include <gtest/gtest.h>
+#include "plain_drawing.h"
 
 namespace drawing {
 namespace {
-
-void expectNear(const Point3& found, const Point3& wanted, double slack = 1e-9) {
-    EXPECT_NEAR(distance(found, wanted), 0, slack)
-        << found.x << ' ' << found.y << ' ' << found.z << " is not " << wanted.x << ' ' << wanted.y << ' '
-        << wanted.z;
-}
 
 ArcCurve circle(const Point3& center, double radius, double start = 0, double end = 2 * kPi) {
     return {center, {radius, 0, 0}, {0, radius, 0}, start, end};
@@ -90,15 +83,6 @@ TEST(CurveTest, ReversedCurvesRunBackOverTheSamePoints) {
         EXPECT_NEAR(curveLength(back), curveLength(curve), 1e-9);
     }
     expectNear(evaluate(uneven, 1.7).point, evaluate(std::get<SplineCurve>(reversed(uneven)), -1.7).point);
-}
-
-TEST(SplineTest, RationalQuarterIsACircle) {
-    const SplineCurve spline = quarter();
-    for (double t : {0.0, 0.1, 0.5, 0.77, 1.0}) {
-        const SplinePoint at = evaluate(spline, t);
-        EXPECT_NEAR(length(at.point), 1, 1e-12);
-        EXPECT_NEAR(dot(at.point, at.derivative), 0, 1e-12);
-    }
 }
 
 TEST(SplineTest, InterpolationMeetsPointsAndTangents) {

@@ -3,48 +3,45 @@
 #include "plain_drawing.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace drawing {
 namespace {
 
-/// Index in model space of what a pick finds, -1 for nothing.
-int picked(const Drawing& drawing, double x, double y, double tolerance = 0.1) {
-    const auto found = pickEntity(drawing, {x, y, 0}, tolerance);
-    if (!found) return -1;
+/// Place in model space of an entity, -1 for none.
+int indexOf(const Drawing& drawing, const std::optional<EntityId>& id) {
     const auto all = modelEntities(drawing);
-    return static_cast<int>(std::find(all.begin(), all.end(), *found) - all.begin());
+    const auto found = std::find(all.begin(), all.end(), id);
+    return found == all.end() ? -1 : static_cast<int>(found - all.begin());
+}
+
+/// What is found within 0.1 of each of some places, by its index.
+void expectPicks(const Drawing& drawing, int index, const std::vector<Point3>& places) {
+    for (const Point3& place : places)
+        EXPECT_EQ(indexOf(drawing, pickEntity(drawing, place, 0.1)), index) << place.x << ',' << place.y;
 }
 
 /// Indices that a window (`crossing` or not) finds.
 std::vector<int> windowed(const Drawing& drawing, const Point3& a, const Point3& b, bool crossing) {
-    const auto all = modelEntities(drawing);
     std::vector<int> result;
-    for (EntityId id : selectWindow(drawing, a, b, crossing)) {
-        result.push_back(static_cast<int>(std::find(all.begin(), all.end(), id) - all.begin()));
-    }
+    for (EntityId id : selectWindow(drawing, a, b, crossing)) result.push_back(indexOf(drawing, id));
     return result;
 }
 
 TEST(PickTest, NearestWithinTheTolerance) {
-    const auto drawing = PlainDrawing()
-                             .entity("LINE 8 0 10 0 20 0 11 10 21 0")
-                             .entity("LINE 8 0 10 0 20 0.15 11 10 21 0.15")
-                             .entity("CIRCLE 8 LOCKED 10 50 20 0 40 5")
-                             .entity("POINT 8 0 10 50 20 0 30 9")
-                             .entity("LWPOLYLINE 8 0 90 2 70 0 43 4 10 0 20 20 10 10 20 20")
-                             .make();
-    EXPECT_EQ(picked(*drawing, 5, 0.05), 0);
-    EXPECT_EQ(picked(*drawing, 5, 0.12), 1);
-    EXPECT_EQ(picked(*drawing, 5, -0.11), -1);
-    EXPECT_EQ(picked(*drawing, 50, 4.95), 2);
-    EXPECT_EQ(picked(*drawing, 50, 0.05), 3);
-    EXPECT_EQ(picked(*drawing, 50, 2), -1);
+    PlainDrawing plain;
+    plain.entity("LINE 8 0 10 0 20 0 11 10 21 0").entity("LINE 8 0 10 0 20 0.15 11 10 21 0.15");
+    plain.entity("CIRCLE 8 LOCKED 10 50 20 0 40 5").entity("POINT 8 0 10 50 20 0 30 9");
+    const auto drawing = plain.entity("LWPOLYLINE 8 0 90 2 70 0 43 4 10 0 20 20 10 10 20 20").make();
+    expectPicks(*drawing, 0, {{5, 0.05}});
+    expectPicks(*drawing, 1, {{5, 0.12}});
+    expectPicks(*drawing, 2, {{50, 4.95}});
+    expectPicks(*drawing, 3, {{50, 0.05}});
     // On the band of a wide polyline, 2 to either side.
-    EXPECT_EQ(picked(*drawing, 5, 21.9), 4);
-    EXPECT_EQ(picked(*drawing, 5, 22.2), -1);
+    expectPicks(*drawing, 4, {{5, 21.9}});
+    expectPicks(*drawing, -1, {{5, -0.11}, {50, 2}, {5, 22.2}});
 }
 
 TEST(PickTest, FillsAndTextsAreFoundInsideBehindStrokes) {
@@ -58,15 +55,13 @@ TEST(PickTest, FillsAndTextsAreFoundInsideBehindStrokes) {
                 "HATCH 8 0 10 0 20 0 30 0 2 SOLID 70 1 71 0 91 2 92 3 72 0 73 1 93 4 10 50 20 0 10 60 20 0"
                 " 10 60 20 10 10 50 20 10 97 0 92 2 72 1 73 1 93 2 10 54 20 5 42 1 10 56 20 5 42 1 97 0 75 0")
             .make();
-    EXPECT_EQ(picked(*drawing, 5, 5), 1);
-    // Drawn as an hourglass it wouldn't cover this place.
-    EXPECT_EQ(picked(*drawing, 9, 5), 1);
-    EXPECT_EQ(picked(*drawing, 5, 1.02), 0);
-    EXPECT_EQ(picked(*drawing, 19, 3), 2);
-    EXPECT_EQ(picked(*drawing, 22, 1), -1);
-    EXPECT_EQ(picked(*drawing, 39, 5), 3);
-    EXPECT_EQ(picked(*drawing, 52, 5), 4);
-    EXPECT_EQ(picked(*drawing, 55, 5), -1);
+    expectPicks(*drawing, 0, {{5, 1.02}});
+    // Drawn as an hourglass the solid wouldn't cover the second place.
+    expectPicks(*drawing, 1, {{5, 5}, {9, 5}});
+    expectPicks(*drawing, 2, {{19, 3}});
+    expectPicks(*drawing, 3, {{39, 5}});
+    expectPicks(*drawing, 4, {{52, 5}});
+    expectPicks(*drawing, -1, {{22, 1}, {55, 5}});
 }
 
 TEST(PickTest, OnlyWhatIsShown) {
@@ -85,19 +80,14 @@ TEST(PickTest, OnlyWhatIsShown) {
         .entity("ATTRIB 8 0 10 502 20 20 40 1 1 Text 2 TAG 70 0");
     plain.entity("ATTRIB 8 0 10 502 20 30 40 1 1 Text 2 TAG 70 1").entity("SEQEND 8 0");
     const auto drawing = plain.make();
-    for (double y : {0, 1, 2}) EXPECT_EQ(picked(*drawing, 5, y), -1) << y;
+    expectPicks(*drawing, -1, {{5, 0}, {5, 1}, {5, 2}});
     // On a layer that is off a reference still shows what its block has on other layers.
-    EXPECT_EQ(picked(*drawing, 105, 0), -1);
-    EXPECT_EQ(picked(*drawing, 105, 5), 3);
-    EXPECT_EQ(picked(*drawing, 205, 5), -1);
-    EXPECT_EQ(picked(*drawing, 305, 5), -1);
-    EXPECT_EQ(picked(*drawing, 405, 0), 6);
-    EXPECT_EQ(picked(*drawing, 405, 7), -1);
+    expectPicks(*drawing, 3, {{105, 5}});
+    expectPicks(*drawing, -1, {{105, 0}, {205, 5}, {305, 5}, {405, 7}});
     // Of the definitions only the constant one is drawn; of the attributes the visible one.
-    EXPECT_EQ(picked(*drawing, 400.3, 9.5), -1);
-    EXPECT_EQ(picked(*drawing, 405.3, 9.5), 6);
-    EXPECT_EQ(picked(*drawing, 503, 20.5), 7);
-    EXPECT_EQ(picked(*drawing, 503, 30.5), -1);
+    expectPicks(*drawing, 6, {{405, 0}, {405.3, 9.5}});
+    expectPicks(*drawing, 7, {{503, 20.5}});
+    expectPicks(*drawing, -1, {{400.3, 9.5}, {503, 30.5}});
 }
 
 TEST(PickTest, NestedScaledMirroredAndArrayed) {
@@ -111,22 +101,15 @@ TEST(PickTest, NestedScaledMirroredAndArrayed) {
     plain.entity("INSERT 8 0 2 ARM 10 0 20 500 50 90 70 1000 71 1000 44 10 45 20");
     plain.entity("INSERT 8 0 2 NOWHERE 10 0 20 0");
     const auto drawing = plain.make();
-    // The first arm of the pair points to the left.
-    EXPECT_EQ(picked(*drawing, 99, 0), 0);
-    EXPECT_EQ(picked(*drawing, 97, 0), 0);
-    EXPECT_EQ(picked(*drawing, 101, 0), -1);
-    // The second one upwards, twice as long; its circle an ellipse of 2 by 0.5.
-    EXPECT_EQ(picked(*drawing, 100, 3), 0);
-    EXPECT_EQ(picked(*drawing, 100, 6), 0);
-    EXPECT_EQ(picked(*drawing, 99.5, 4, 0.05), 0);
-    EXPECT_EQ(picked(*drawing, 99, 4), -1);
+    // The first arm of the pair points to the left, the second one upwards, twice as long; its circle is an
+    // ellipse of 2 by 0.5.
+    expectPicks(*drawing, 0, {{99, 0}, {97, 0}, {100, 3}, {100, 6}, {99.5, 4}});
+    expectPicks(*drawing, -1, {{101, 0}, {99, 4}});
     // Seen from below.
-    EXPECT_EQ(picked(*drawing, 199, 0), 1);
+    expectPicks(*drawing, 1, {{199, 0}});
     // A million copies: turned upwards, columns go up and rows to the left.
-    EXPECT_EQ(picked(*drawing, 0, 501), 2);
-    EXPECT_EQ(picked(*drawing, -20 * 700, 500 + 10 * 900 + 1), 2);
-    EXPECT_EQ(picked(*drawing, -20 * 700 - 10, 500 + 10 * 900 + 1), -1);
-    EXPECT_EQ(picked(*drawing, -20 * 1000, 501), -1);
+    expectPicks(*drawing, 2, {{0, 501}, {-20 * 700, 500 + 10 * 900 + 1}});
+    expectPicks(*drawing, -1, {{-20 * 700 - 10, 500 + 10 * 900 + 1}, {-20 * 1000, 501}});
     EXPECT_EQ(windowed(*drawing, {-1e6, 499, 0}, {1e6, 1e6, 0}, false), (std::vector<int>{2}));
 }
 
@@ -143,9 +126,9 @@ TEST(PickTest, BlocksThatContainThemselvesOrMultiplyAreSurvived) {
     }
     plain.entity("INSERT 8 0 2 LOOP 10 0 20 0").entity("INSERT 8 0 2 L 10 50 20 0");
     const auto drawing = plain.make();
-    EXPECT_EQ(picked(*drawing, 0.5, 0), 0);
-    EXPECT_EQ(picked(*drawing, 5.5, 0), -1);
-    EXPECT_EQ(picked(*drawing, 50.5, 0), 1);
+    expectPicks(*drawing, 0, {{0.5, 0}});
+    expectPicks(*drawing, 1, {{50.5, 0}});
+    expectPicks(*drawing, -1, {{5.5, 0}});
 }
 
 TEST(PickTest, WindowsAndCrossings) {
@@ -179,19 +162,20 @@ TEST(PickTest, KeptShapesFollowTheDrawing) {
 // A door of the sample by its swing, a label by its text, the array by one of its posts.
 TEST(PickTest, Sample) {
     const auto drawing = Drawing::open(VORLANE_ROOT "/samples/apartment.dxf");
-    const auto nameAt = [&](double x, double y) {
-        const auto found = pickEntity(*drawing, {x, y, 0}, 0.05);
-        return found ? drawing->name(*found) : std::string("nothing");
-    };
     const double diagonal = 0.8 * std::sqrt(0.5);
-    EXPECT_EQ(nameAt(1.5 + diagonal, 5.8 + diagonal), "PORTE_80");
-    EXPECT_EQ(nameAt(16.5 - diagonal, 5.8 + diagonal), "PORTE_80");
-    EXPECT_EQ(nameAt(2.2, 2.9), "ETIQUETTE_PIECE");
-    EXPECT_EQ(nameAt(0.4 + 3 * 1.8 + 0.1, -2.7 + 2.2), "POTEAU");
-    // A chair, two references down.
-    EXPECT_EQ(nameAt(2.2 + 0.4 + 0.22, 1.6 + 0.65), "ENSEMBLE_REPAS");
-    // The invisible door.
-    EXPECT_EQ(nameAt(11.1 - diagonal, 8.75 - diagonal), "nothing");
+    const std::pair<Point3, const char*> places[] = {
+        {{1.5 + diagonal, 5.8 + diagonal, 0}, "PORTE_80"},
+        {{16.5 - diagonal, 5.8 + diagonal, 0}, "PORTE_80"},
+        {{2.2, 2.9, 0}, "ETIQUETTE_PIECE"},
+        {{0.4 + 3 * 1.8 + 0.1, -2.7 + 2.2, 0}, "POTEAU"},
+        // A chair, two references down, and the invisible door.
+        {{2.2 + 0.4 + 0.22, 1.6 + 0.65, 0}, "ENSEMBLE_REPAS"},
+        {{11.1 - diagonal, 8.75 - diagonal, 0}, ""},
+    };
+    for (const auto& [place, name] : places) {
+        const auto found = pickEntity(*drawing, place, 0.05);
+        EXPECT_EQ(found ? drawing->name(*found) : "", name);
+    }
 }
 
 }  // namespace

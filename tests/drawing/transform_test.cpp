@@ -1,15 +1,9 @@
 #include "desk/drawing/transform.h"
 
-#include <gtest/gtest.h>
+#include "plain_drawing.h"
 
 namespace drawing {
 namespace {
-
-void expectNear(const Point3& found, const Point3& wanted) {
-    EXPECT_NEAR(found.x, wanted.x, 1e-9);
-    EXPECT_NEAR(found.y, wanted.y, 1e-9);
-    EXPECT_NEAR(found.z, wanted.z, 1e-9);
-}
 
 TEST(TransformTest, ArbitraryAxesAreRightHandedAndKeepTheirNormal) {
     for (const Vector3& extrusion :
@@ -19,9 +13,6 @@ TEST(TransformTest, ArbitraryAxesAreRightHandedAndKeepTheirNormal) {
         expectNear(axes.zAxis, normalized(extrusion));
         expectNear(wcsToOcs(ocsToWcs({1, 2, 3}, extrusion), extrusion), {1, 2, 3});
     }
-}
-
-TEST(TransformTest, ArbitraryAxesOfKnownDirections) {
     // Looking from below mirrors X, which mirrored doors and texts rest upon.
     expectNear(ocsToWcs({1, 2, 3}, {0, 0, -1}), {-1, 2, -3});
     expectNear(objectToWorld({1, 0, 0}).xAxis, {0, 1, 0});
@@ -31,37 +22,22 @@ TEST(TransformTest, ArbitraryAxesOfKnownDirections) {
     expectNear(ocsToWcs({1, 2, 3}, {0, 0, 0}), {1, 2, 3});
 }
 
-TEST(TransformTest, ReferencePlacesTheBasePointOnTheInsertionPoint) {
-    Placement placement;
-    placement.insertion = {100, 50, 0};
-    placement.scale = {2, -1, 1};
-    placement.rotation = kPi / 2;
-    const Point3 base{10, 5, 0};
-    const Transform transform = referenceTransform(placement, base);
-    expectNear(transform.apply(base), placement.insertion);
-    // One to the right: doubled, then turned upwards.
+TEST(TransformTest, ReferencesPlaceTheirBlock) {
+    Placement placement{.insertion = {100, 50, 0}, .scale = {2, -1, 1}, .rotation = kPi / 2};
+    const Transform transform = referenceTransform(placement, {10, 5, 0});
+    expectNear(transform.apply({10, 5, 0}), {100, 50, 0});
+    // One to the right: doubled, then turned upwards. One up: mirrored, then turned to the right.
     expectNear(transform.apply({11, 5, 0}), {100, 52, 0});
-    // One up: mirrored, then turned to the right.
     expectNear(transform.apply({10, 6, 0}), {101, 50, 0});
     expectNear(transform.inverse().apply({101, 50, 0}), {10, 6, 0});
-}
 
-TEST(TransformTest, ArraySpacingTurnsButIsNotScaled) {
-    Placement placement;
-    placement.scale = {3, 3, 3};
-    placement.rotation = kPi / 2;
+    // The spacing of an array turns but isn't scaled.
     placement.columnSpacing = 10;
     placement.rowSpacing = 4;
-    expectNear(referenceTransform(placement, {}, 2, 1).apply({}), {-4, 20, 0});
-}
+    expectNear(referenceTransform(placement, {}, 2, 1).apply({}), {96, 70, 0});
 
-TEST(TransformTest, MirroredExtrusionPlacesInObjectCoordinates) {
-    Placement placement;
-    placement.insertion = {-100, 50, 0};
-    placement.extrusion = {0, 0, -1};
-    const Transform transform = referenceTransform(placement, {});
-    expectNear(transform.apply({}), {100, 50, 0});
-    expectNear(transform.apply({1, 2, 0}), {99, 52, 0});
+    const Placement below{.insertion = {-100, 50, 0}, .extrusion = {0, 0, -1}};
+    expectNear(referenceTransform(below, {}).apply({1, 2, 0}), {99, 52, 0});
 }
 
 }  // namespace

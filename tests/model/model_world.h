@@ -5,7 +5,6 @@
 #include "tests/drawing/plain_drawing.h"
 #include "tests/fakes/scripted_prompter.h"
 
-#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <utility>
@@ -13,6 +12,7 @@
 
 namespace model {
 
+using fakes::errorOf;
 using Texts = std::vector<std::string>;
 
 /// A document on a drawing, reached as the add-in reaches it: by names.
@@ -30,6 +30,7 @@ struct ModelWorld {
     host::ObjectPtr space() const { return object("ModelSpace"); }
     /// An entity of model space by its index.
     host::ObjectPtr item(int index) const { return host::asObject(space()->invoke("Item", {index})); }
+    std::int32_t entityCount() const { return space()->get("Count").integer(); }
     host::ObjectPtr byHandle(const char* handle) const {
         return host::asObject(document->invoke("HandleToObject", {handle}));
     }
@@ -51,11 +52,8 @@ inline std::string textOf(const host::ObjectPtr& object, const char* member) {
 inline double numberOf(const host::ObjectPtr& object, const char* member) {
     return object->get(member).number();
 }
-inline basic::Doubles pointOf(const host::ObjectPtr& object, const char* member) {
-    return object->get(member).doubles();
-}
 inline void expectPoint(const host::ObjectPtr& object, const char* member, const basic::Doubles& wanted) {
-    const basic::Doubles found = pointOf(object, member);
+    const basic::Doubles found = object->get(member).doubles();
     for (std::size_t axis = 0; axis < 3; ++axis) EXPECT_NEAR(found.at(axis), wanted[axis], 1e-9) << member;
 }
 
@@ -70,6 +68,12 @@ inline Texts attributeTexts(const host::ObjectPtr& reference) {
     return texts;
 }
 
+/// The object that a method gives.
+inline host::ObjectPtr called(const host::ObjectPtr& object, const char* member,
+                              std::initializer_list<Variant> arguments) {
+    return host::asObject(object->invoke(member, arguments));
+}
+
 /// A member's text for each element of a collection.
 inline Texts walked(const host::ObjectPtr& collection, const char* member) {
     Texts texts;
@@ -78,17 +82,6 @@ inline Texts walked(const host::ObjectPtr& collection, const char* member) {
         return true;
     });
     return texts;
-}
-
-/// The number of the error that `act` raises, 0 for none.
-template <typename Act>
-int errorOf(Act&& act) {
-    try {
-        act();
-    } catch (const basic::Error& error) {
-        return error.number();
-    }
-    return 0;
 }
 
 /// The blocks DOOR (attributes MARK and ROOM, a constant one MAKER between them), FIXED (only a constant

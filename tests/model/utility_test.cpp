@@ -18,12 +18,6 @@ TEST_F(UtilityTest, GetEntityGivesObjectAndPointInItsArguments) {
     EXPECT_EQ(textOf(host::asObject(arguments[0]), "Handle"), "A1");
     EXPECT_EQ(arguments[1].doubles(), (basic::Doubles{1, 2, 3}));
     EXPECT_EQ(prompter.prompts, (Texts{"Select a block: "}));
-
-    prompter.entities.push_back({Answer::Given, toEntity(item(Furnished::LockedLine)), {}});
-    host::Arguments without{Variant(), Variant()};
-    utility->call("GetEntity", without);
-    EXPECT_EQ(textOf(host::asObject(without[0]), "ObjectName"), "AcDbLine");
-    EXPECT_EQ(prompter.prompts.back(), "");
 }
 
 TEST_F(UtilityTest, EscapeEnterAndAMissAreErrors) {
@@ -42,15 +36,14 @@ TEST_F(UtilityTest, EscapeEnterAndAMissAreErrors) {
 }
 
 TEST_F(UtilityTest, PointsAndAnglesWithAndWithoutABasePoint) {
-    for (int i = 0; i < 3; ++i) prompter.points.push_back({Answer::Given, {4, 5, 6}});
+    prompter.points = {{Answer::Given, {4, 5, 6}}, {Answer::Given, {}}, {Answer::Given, {}}};
+    prompter.angles = {{Answer::Given, 1.25}};
     EXPECT_EQ(utility->invoke("GetPoint").doubles(), (basic::Doubles{4, 5, 6}));
     utility->invoke("GetPoint", {basic::Missing{}, "Where: "});
     utility->invoke("GetPoint", {basic::Doubles{1, 1, 0}, "To: "});
-    prompter.angles.push_back({Answer::Given, 1.25});
     EXPECT_EQ(utility->invoke("GetAngle", {basic::Array{2.0, 2.0, 0.0}, "Angle: "}).number(), 1.25);
-    EXPECT_EQ(prompter.bases,
-              (std::vector<std::optional<drawing::Point3>>{
-                  std::nullopt, std::nullopt, drawing::Point3{1, 1, 0}, drawing::Point3{2, 2, 0}}));
+    const auto none = std::optional<drawing::Point3>();
+    EXPECT_EQ(prompter.bases, (std::vector{none, none, {{1, 1, 0}}, {{2, 2, 0}}}));
     EXPECT_EQ(prompter.prompts, (Texts{"", "Where: ", "To: ", "Angle: "}));
     EXPECT_EQ(errorOf([&] { utility->invoke("GetPoint", {"1,1", "To: "}); }), basic::kTypeMismatch);
     utility->invoke("Prompt", {"told"});
