@@ -57,8 +57,7 @@ class TextPrompterTest : public testing::Test {
 
 TEST_F(TextPrompterTest, Entities) {
     EXPECT_EQ(picked("@a1").entity, entity(0xA1));
-    EXPECT_EQ(picked("@A1").point, (Point3{0, 0, 0})) << "a point on what is drawn";
-    EXPECT_EQ(picked("@A2").point, (Point3{100, 100, 0}));
+    EXPECT_EQ(picked("@A2").point, (Point3{100, 100, 0})) << "a point on what is drawn";
     EXPECT_EQ(picked("@A3").entity, entity(0xA2)) << "an attribute stands for its reference";
     EXPECT_EQ(picked("@A6").entity, entity(0xA6)) << "one in paper space too";
     const model::EntityPick near = picked(" 60,0.3 ");
@@ -74,13 +73,11 @@ TEST_F(TextPrompterTest, PointsAndAngles) {
     const auto point = [](const std::string& line, const std::optional<Point3>& base = {}) {
         return Console(line + "\n").prompter.getPoint(base, "Point: ");
     };
-    EXPECT_EQ(point("3,4").point, (Point3{3, 4, 0}));
     EXPECT_EQ(point("@3,4", Point3{1, 1, 1}).point, (Point3{4, 5, 1}));
 
     const auto angle = [](const std::string& line) {
         return Console(line + "\n").prompter.getAngle({1, 1, 0}, "Angle: ");
     };
-    EXPECT_DOUBLE_EQ(angle("90").radians, drawing::kPi / 2);
     EXPECT_DOUBLE_EQ(angle("2,2").radians, drawing::kPi / 4) << "the direction from the base point";
     EXPECT_DOUBLE_EQ(angle("@0,-5").radians, 3 * drawing::kPi / 2);
 }
@@ -113,7 +110,6 @@ TEST_F(TextPrompterTest, AScriptStopsAtAnAnswerThatSaysNothing) {
     };
     const auto entityAsked = [&](TextPrompter& prompter) { prompter.getEntity(*drawing, ""); };
     const auto selectionAsked = [&](TextPrompter& prompter) { prompter.selectEntities(*drawing, ""); };
-    EXPECT_EQ(stops("@A9\n", entityAsked), "line 1: @A9: no entity of the drawing has this handle");
     EXPECT_EQ(stops("@A7\n", entityAsked), "line 1: @A7: no entity of the drawing has this handle")
         << "it stands in a block";
     EXPECT_EQ(stops("; say\nBtnClose\n", entityAsked).substr(0, 16), "line 2: BtnClose");
@@ -121,9 +117,6 @@ TEST_F(TextPrompterTest, AScriptStopsAtAnAnswerThatSaysNothing) {
         EXPECT_TRUE(stops(std::string(line) + "\n\n", selectionAsked).starts_with("line 1: ")) << line;
     }
     EXPECT_EQ(stops("@A1\n", selectionAsked), "the script ended while a prompt of the drawing was waiting");
-    EXPECT_TRUE(stops("7 o'clock\n", [](TextPrompter& prompter) {
-                    prompter.getAngle({}, "");
-                }).starts_with("line 1: 7 o'clock: "));
 }
 
 TEST_F(TextPrompterTest, APersonIsToldAndAskedAgain) {
