@@ -86,13 +86,6 @@ TEST_F(TableTest, SurvivesAsLongAsTheBlocksAreTheSame) {
         EXPECT_EQ(destinations(), (Texts{"", ""}));
         EXPECT_EQ(entries(table().Combo2), (Texts{"MARK", "ROOM"}));
     });
-    screen.closeBox();
-    look([&] { EXPECT_EQ(table().rowCount(), 0) << "the close box unloads it"; });
-    screen.click("BtnAttSet");
-    look([&] {
-        EXPECT_EQ(destinations(), (Texts{"", ""}));
-        EXPECT_EQ(table().Frame1.caption(), "Matching table") << "translated as before";
-    });
     screen.click("OKButton");
     close();
     run();
