@@ -126,17 +126,5 @@ TEST(MeasureTest, WhatHasNone) {
     EXPECT_EQ(errorOf([&] { measure(*drawing, id, Measure::Area); }), kObjectErased);
 }
 
-// The sample's rooms are rectangles whose areas their labels tell.
-TEST(MeasureTest, RoomsOfTheSample) {
-    const auto drawing = Drawing::open(VORLANE_ROOT "/samples/apartment.dxf");
-    std::vector<double> areas;
-    for (const EntityId id : drawing->select({{8, std::string("PIECES")}})) {
-        areas.push_back(measure(*drawing, id, Measure::Area));
-    }
-    ASSERT_EQ(areas.size(), 17u);
-    EXPECT_NEAR(areas[0], 18.06, 1e-9);
-    EXPECT_NEAR(areas[16], 17.46, 1e-9);
-}
-
 }  // namespace
 }  // namespace drawing

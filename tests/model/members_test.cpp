@@ -3,10 +3,7 @@
 namespace model {
 namespace {
 
-class MembersTest : public testing::Test, protected ModelWorld {
-  protected:
-    MembersTest() : ModelWorld(Furnished::drawing().make()) {}
-};
+using MembersTest = FurnishedTest;
 
 TEST_F(MembersTest, NamesAreMatchedWithoutRegardToCase) {
     const host::ObjectPtr door = item(Furnished::Door);

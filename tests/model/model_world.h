@@ -17,11 +17,10 @@ using Texts = std::vector<std::string>;
 
 /// A document on a drawing, reached as the add-in reaches it: by names.
 struct ModelWorld {
-    explicit ModelWorld(std::unique_ptr<drawing::Drawing> drawing,
-                        basic::Regional regional = basic::Regional::english()) {
+    explicit ModelWorld(std::unique_ptr<drawing::Drawing> drawing) {
         Environment environment;
         environment.prompter = &prompter;
-        environment.regional = std::move(regional);
+        environment.regional = basic::Regional::english();
         application = std::make_shared<Application>(std::move(environment));
         document = application->open(std::move(drawing));
     }
@@ -113,6 +112,12 @@ struct Furnished {
             .entity("SEQEND 5 AB 8 0");
         return plain;
     }
+};
+
+/// Tests on the document of `Furnished`.
+class FurnishedTest : public testing::Test, protected ModelWorld {
+  protected:
+    FurnishedTest() : ModelWorld(Furnished::drawing().make()) {}
 };
 
 }  // namespace model

@@ -5,12 +5,8 @@ namespace {
 
 constexpr std::int16_t kWindow = 0, kCrossing = 1, kLast = 4, kAll = 5;
 
-class SelectionTest : public testing::Test, protected ModelWorld {
+class SelectionTest : public FurnishedTest {
   protected:
-    SelectionTest() : ModelWorld(Furnished::drawing().make()) {
-        sets = object("SelectionSets");
-        set = add("SS1");
-    }
     host::ObjectPtr add(const char* name) { return called(sets, "Add", {name}); }
     /// The handles of what a selection finds.
     Texts found(host::Arguments arguments) {
@@ -25,7 +21,7 @@ class SelectionTest : public testing::Test, protected ModelWorld {
         return errorOf([&] { set->call("Select", arguments); });
     }
 
-    host::ObjectPtr sets, set;
+    host::ObjectPtr sets = object("SelectionSets"), set = add("SS1");
 };
 
 TEST_F(SelectionTest, SetsByNameAndIndex) {

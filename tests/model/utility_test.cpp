@@ -4,10 +4,8 @@
 namespace model {
 namespace {
 
-class UtilityTest : public testing::Test, protected ModelWorld {
+class UtilityTest : public FurnishedTest {
   protected:
-    UtilityTest() : ModelWorld(Furnished::drawing().make()) {}
-
     host::ObjectPtr utility = object("Utility");
 };
 
