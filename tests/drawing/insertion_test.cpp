@@ -63,8 +63,10 @@ TEST(Insertion, RefusesWhatTheHostRefuses) {
     const std::string before = drawing->savedBytes();
     const BlockId door = drawing->blocks().find("DOOR");
     const std::tuple<BlockId, Vector3, double, int> rows[] = {
-        {door, {1, 0, 1}, 0, kInvalidInput},         {door, {1, 1, 1}, INFINITY, kInvalidInput},
-        {door, {1e308, 1e308, 1}, 0, basic::kOverflow}, {drawing->modelSpace(), {1, 1, 1}, 0, kInvalidInput},
+        {door, {1, 0, 1}, 0, kInvalidInput},
+        {door, {1, 1, 1}, INFINITY, kInvalidInput},
+        {door, {1e308, 1e308, 1}, 0, basic::kOverflow},
+        {drawing->modelSpace(), {1, 1, 1}, 0, kInvalidInput},
         {kNoBlock, {1, 1, 1}, 0, kKeyNotFound},
     };
     for (const auto& [block, scale, rotation, number] : rows)

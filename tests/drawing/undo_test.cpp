@@ -70,14 +70,12 @@ TEST(Undo, ADrawingWithoutSectionsGetsOneOnlyForWhatStays) {
     EXPECT_EQ(drawing->savedBytes(), text);
 }
 
-TEST(Undo, SavingMarksTheState) {
+TEST(Undo, BehindTheSavedStateItIsAChange) {
     const fakes::TempFolder folder;
     const auto drawing = PlainDrawing(Kind::R2000).make();
     drawing->addLine({}, {1, 0, 0});
     drawing->save(folder.file("saved.dxf"));
     EXPECT_FALSE(drawing->isModified());
-    EXPECT_EQ(drawing->path(), folder.file("saved.dxf"));
-    EXPECT_EQ(folder.read("saved.dxf"), drawing->savedBytes());
     drawing->undo();
     EXPECT_TRUE(drawing->isModified());
 }
