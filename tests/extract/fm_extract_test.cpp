@@ -53,6 +53,8 @@ TEST_F(ExtractTest, MakesARowOfEachReferenceInTheZone) {
         EXPECT_EQ(headers(table()),
                   (Texts{"N°", "X insertion", "Y insertion", "Z insertion", "Ech. X", "Ech. Y", "Ech. Z",
                          "Rotation", "SPECIES", "GIRTH", "Calque", "Couleur"}));
+        EXPECT_EQ(table().columnHeaders().item(1).width, 400);
+        EXPECT_EQ(table().columnHeaders().item(12).width, 700);
         ASSERT_EQ(table().listItems().count(), 2) << "the bench is of another block";
         EXPECT_EQ(row(table(), 1), (Texts{"1", "1.5", "-2", "0", "2", "2", "0.1", "0.333333333333333", "ash",
                                           "0.5", "0", "256"}));
@@ -196,9 +198,14 @@ TEST_F(ExtractTest, CountsAsSavedAfterAFailedSaveAndWritesTheOldPathAfterACancel
 
 TEST_F(ExtractTest, AsksForTheUnsavedDataOfAnErasedTableToo) {
     extract(first, {first});
+    host.breakOffPick();
+    screen.click("BtnNew");
+    screen.answers.push_back(Answer::Cancel);
+    look([&] { EXPECT_EQ(table().listItems().count(), 1) << "a broken-off pick changes nothing"; });
     screen.click("BtnErase");
     closeUnsaved();
-    EXPECT_EQ(boxTexts(), Texts{"The current data were not saved.\r\nDo you want to save them now?"});
+    EXPECT_EQ(boxTexts().back(), "The current data were not saved.\r\nDo you want to save them now?");
+    EXPECT_EQ(shows("fmVnMessage"), 1);
 }
 
 }  // namespace

@@ -39,6 +39,7 @@ TEST_F(ReInsertTest, ReadsWhatIsThereOfAnOddFile) {
     });
     load(folder.write("narrow.txt", "x\tTREE\r\nN\tX\tY\r\n"));
     look([&] {
+        EXPECT_EQ(form().ListView2.columnHeaders().item(1).width, 300);
         EXPECT_EQ(mappings(form().ListView1), (Texts{"X", "Y", "", "", "", "", "", "0", "0", "0"}));
     });
     screen.click("BtnData");  // a cancel hands back the old name: its column line is a row by now
