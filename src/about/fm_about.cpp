@@ -19,7 +19,7 @@ fmAbout::fmAbout(session::Session& session)
 }
 
 void fmAbout::layOut() {
-    resizeTo(7200, 4620);
+    resizeTo(7200 + kFrameWidth, 4620 + kFrameHeight);
     Label1.place(120, 120, 6960, 255);
     Label1.setCaption("Label1");
     Label2.place(120, 420, 6960, 255);

@@ -8,7 +8,7 @@
 namespace about {
 
 fmHelp::fmHelp(session::Session& session) : Form("fmHelp", "007", "Aide "), session_(session) {
-    resizeTo(4920, 1380);
+    resizeTo(4920 + kFrameWidth, 1380 + kFrameHeight);
     BtnHelp.place(120, 180, 2280, 375);
     BtnHelp.setCaption("Aide local");
     Command1.place(2520, 180, 2280, 375);

@@ -32,9 +32,9 @@ fmExtract::fmExtract(session::Session& session)
 void fmExtract::layOut() {
     setResizable(true);
     resizeTo(kLeastWidth, kLeastHeight);
-    Label0.place(285, 195, 1305, 255);
+    Label0.place(285, 195, 1245, 255);
     Label0.setCaption("Nom du bloc :");
-    Label1.place(1590, 195, 6975, 255);
+    Label1.place(1530, 195, 6975, 255);
     Frame2.place(285, 540, 8055, 5295);
     Frame2.setCaption("Données extraites");
     ListView2.place(Frame2, 120, 240, 7815, 4935);

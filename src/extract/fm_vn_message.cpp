@@ -13,7 +13,7 @@ fmVnMessage::fmVnMessage(session::Session& session)
 }
 
 void fmVnMessage::layOut() {
-    resizeTo(6000, 2040);
+    resizeTo(6000 + kFrameWidth, 2040 + kFrameHeight);
     Label1.place(240, 240, 5520, 855);  // three lines, for the longest of names
     Label1.setCaption("#");
     Line1.setEnds(240, 1230, 5760, 1230);

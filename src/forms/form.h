@@ -21,6 +21,9 @@ class Screen;
 class Form {
   public:
     static constexpr int kAlreadyShown = 400;  ///< number of the failure of a second show
+    /// What the frame takes of a form's width and height, in twips: its sides, its title bar and bottom.
+    static constexpr Twips kFrameWidth = 120;
+    static constexpr Twips kFrameHeight = 405;
 
     Form(std::string name, std::string tag, std::string caption, int helpContextId = 0);
     Form(const Form&) = delete;
@@ -70,6 +73,7 @@ class Form {
     int mousePointer() const { return state_.mousePointer; }
     void setMousePointer(int shape);
 
+    /// The window with its frame; controls have kFrameWidth and kFrameHeight less.
     const Bounds& bounds() const { return state_.bounds; }
     Twips left() const { return state_.bounds.left; }
     Twips top() const { return state_.bounds.top; }

@@ -15,7 +15,7 @@ fmAttSet::fmAttSet(session::Session& session)
 }
 
 void fmAttSet::layOut() {
-    resizeTo(7200, 4620);
+    resizeTo(7200 + kFrameWidth, 4620 + kFrameHeight);
     Frame1.place(120, 120, 6960, 3480);
     Frame1.setCaption("Tableau des correspondances");
     ListView1.place(Frame1, 120, 300, 6720, 3060);

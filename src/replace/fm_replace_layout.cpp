@@ -24,7 +24,7 @@ fmReplace::fmReplace(session::Session& session)
 }
 
 void fmReplace::layOut() {
-    resizeTo(9360, 5880);
+    resizeTo(9360 + kFrameWidth, 5880 + kFrameHeight);
     layOutSource();
     layOutReplacement();
     layOutParameters();

@@ -110,11 +110,11 @@ TEST_F(FmLabelsTest, ASecondCommandOnTheSameObjectsStartsItsTableAnew) {
 }
 
 TEST_F(FmLabelsTest, OverlapsNothingAndFitsItsForm) {
-    expectTidy(dialog(), 120, 405);
-    expectTidy(parameters(), 120, 405);
+    expectTidy(dialog());
+    expectTidy(parameters());
     for (const ValueMode mode : {kObjectLength, kObjectLayer, kCounter}) {
         format().showFieldsOf(mode);
-        expectTidy(format(), 120, 405);
+        expectTidy(format());
     }
     format().showFieldsOf(kObjectColor);
     EXPECT_TRUE(format().Text4.visible());
