@@ -19,7 +19,8 @@ drawing::Box roughExtents(const Drawing& drawing) {
     drawing::Box box;
     drawing.forEachEntity(drawing.modelSpace(), [&](EntityId id) {
         if (drawing.type(id) == "INSERT") {
-            box.add(drawing.insert(id).insertion);
+            const drawing::Placement placement = drawing.placement(id);
+            box.add(drawing::ocsToWcs(placement.insertion, placement.extrusion));
         } else {
             box.add(drawing::readGeometry(drawing, id).bounds());
         }
