@@ -1,7 +1,7 @@
 #include "labels/fm_labels.h"
 
-#include "tests/labels/labels_world.h"
 #include "tests/fakes/layout_check.h"
+#include "tests/labels/labels_world.h"
 
 #include <gtest/gtest.h>
 
