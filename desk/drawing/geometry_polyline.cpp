@@ -158,6 +158,15 @@ Polyline::Kind kindOf(int flags) {
     return (flags & kThreeD) != 0 ? Polyline::Kind::kSpace : Polyline::Kind::kPlane;
 }
 
+/// Groups 40, 41 and 42, which a vertex has in either kind of polyline. Returns whether the group is one of
+/// them.
+bool takeWidthOrBulge(const dxf::Tag& tag, PolylineVertex& vertex) {
+    if (tag.code < 40 || tag.code > 42) return false;
+    double& value = tag.code == 40 ? vertex.startWidth : tag.code == 41 ? vertex.endWidth : vertex.bulge;
+    value = tag.numberOr(0);
+    return true;
+}
+
 /// Reads one VERTEX: to `vertices` or, where it is a face of a polyface mesh, to `faces`.
 void readVertex(dxf::TagReader tags, const Head& head, std::vector<PolylineVertex>& vertices,
                 std::vector<Face>& faces) {
@@ -166,19 +175,10 @@ void readVertex(dxf::TagReader tags, const Head& head, std::vector<PolylineVerte
     int flags = 0;
     bool isVertex = false;
     forEachTag(tags, [&](const dxf::Tag& tag) {
-        if (takePoint(tag, 10, vertex.point)) return;
+        if (takePoint(tag, 10, vertex.point) || takeWidthOrBulge(tag, vertex)) return;
         switch (tag.code) {
             case 0:
                 isVertex = tag.raw == "VERTEX";
-                break;
-            case 40:
-                vertex.startWidth = tag.numberOr(0);
-                break;
-            case 41:
-                vertex.endWidth = tag.numberOr(0);
-                break;
-            case 42:
-                vertex.bulge = tag.numberOr(0);
                 break;
             case 70:
                 flags = static_cast<int>(tag.integerOr(0));
@@ -226,21 +226,13 @@ Polyline readLwPolyline(dxf::TagReader tags) {
         }
         if (result.vertices.empty()) return;
         PolylineVertex& vertex = result.vertices.back();
+        if (takeWidthOrBulge(tag, vertex)) return;
         switch (tag.code) {
             case 10:
                 vertex.point.x = tag.numberOr(0);
                 break;
             case 20:
                 vertex.point.y = tag.numberOr(0);
-                break;
-            case 40:
-                vertex.startWidth = tag.numberOr(0);
-                break;
-            case 41:
-                vertex.endWidth = tag.numberOr(0);
-                break;
-            case 42:
-                vertex.bulge = tag.numberOr(0);
                 break;
             default:
                 break;
