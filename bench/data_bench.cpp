@@ -1,12 +1,12 @@
 // Extraction to a file and re-insertion with a save, as a script of the console does them, by the number of
 // rows: each row has three attributes. What is measured is everything but the start of the process.
 
+#include "bench/big_drawing.h"
 #include "desk/console/session_loop.h"
 #include "desk/console/text_prompter.h"
 #include "desk/shell/desk.h"
 #include "desk/shell/surroundings.h"
 #include "faces/text/text_screen.h"
-#include "tests/fakes/big_drawing.h"
 #include "tests/fakes/temp_folder.h"
 
 #include <benchmark/benchmark.h>
@@ -19,8 +19,8 @@ namespace {
 class Work {
   public:
     explicit Work(int rows) {
-        folder_.write("full.dxf", fakes::BigDrawing::make(rows));
-        folder_.write("empty.dxf", fakes::BigDrawing::make(1));
+        folder_.write("full.dxf", bench::BigDrawing::make(rows));
+        folder_.write("empty.dxf", bench::BigDrawing::make(1));
     }
 
     /// Opens a drawing and carries out a script on it.
@@ -28,7 +28,7 @@ class Work {
         std::istringstream lines(script);
         std::ostringstream story;
         text_face::StreamLines source(lines, false);
-        text_face::TextScreen screen(source, story, [](int) {});
+        text_face::TextScreen screen(source, story);
         console::TextPrompter prompter(source, story);
         shell::DeskOptions options;
         options.installFolder = folder_.file("install");

@@ -1,12 +1,12 @@
+#include "bench/big_drawing.h"
 #include "bench/sizes.h"
 #include "desk/drawing/drawing.h"
-#include "tests/fakes/big_drawing.h"
 #include "tests/fakes/temp_folder.h"
 
 namespace {
 
 std::string bigDrawing(const benchmark::State& state) {
-    return fakes::BigDrawing::make(static_cast<int>(state.range(0)));
+    return bench::BigDrawing::make(static_cast<int>(state.range(0)));
 }
 
 void openDrawing(benchmark::State& state) {

@@ -1,7 +1,7 @@
+#include "bench/big_drawing.h"
 #include "bench/sizes.h"
 #include "desk/model/document.h"
-#include "host/selection.h"
-#include "tests/fakes/big_drawing.h"
+#include "host/document.h"
 #include "tests/fakes/fake_platform.h"
 #include "tests/fakes/recording_screen.h"
 #include "tests/fakes/replacement_fields.h"
@@ -12,7 +12,7 @@ namespace {
 /// All references of LAMP become references of SPOT, each of the three attributes taking its value from the
 /// old one: what a click on BtnReplace does, through the automation objects.
 void replaceWithThreeAttributes(benchmark::State& state) {
-    const std::string bytes = fakes::BigDrawing::make(static_cast<int>(state.range(0)));
+    const std::string bytes = bench::BigDrawing::make(static_cast<int>(state.range(0)));
     fakes::ScriptedPrompter prompter;
     fakes::FakePlatform platform;
     fakes::RecordingScreen screen;

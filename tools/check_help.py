@@ -18,7 +18,7 @@ import make_help_file as maker
 
 ROOT = Path(__file__).resolve().parent.parent
 SKIPPED = 77
-FORM = re.compile(r'Form\("(fm\w+)",\s*"(\d*)",\s*"[^"]*"(?:,\s*(\d+))?\)')
+FORM = re.compile(r'(?:Form|Dialog)\((?:session, )?"(fm\w+)",\s*"(\d*)",\s*"[^"]*"(?:,\s*(\d+))?\)')
 LANGUAGE_FILES = {"fr": "Francais.LNG", "en": "English.LNG"}
 # Entries that no drafter reads: replaced as the dialog opens, or of a control that is never shown.
 UNSEEN = {"001_0", "001_1", "001_2", "001_3", "002_1", "002_3", "002_9", "004_0", "006_1", "009_7", "011_11", "012_35"}

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Holds every source to the one list of rooms, cmake/RoomList.cmake: a room includes itself and what its
-line links (and what those link). src/ sees the standard library besides, nothing else."""
+line links (and what those link). src/ sees the standard library besides, nothing else. Tests and benchmarks see the
+rooms that they are linked with, and the helpers of those rooms' tests."""
 
 import re
 import sys
@@ -11,8 +12,14 @@ ROOM_LINE = re.compile(r"vorlane_room\(\s*(\w+)\s+([\w/]+)(?:\s+LINKS\s+([\w\s]+
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 # Headers of the C++ standard library have no dot; these few of C's are in it by their old names or are
 # POSIX, which the desk may use.
-POSIX = {"fcntl.h", "unistd.h", "sys/stat.h", "sys/types.h", "sys/uio.h", "sys/wait.h", "dirent.h", "errno.h",
+POSIX = {"fcntl.h", "unistd.h", "sys/stat.h", "sys/types.h", "sys/uio.h", "sys/wait.h", "sys/xattr.h", "dirent.h", "errno.h",
          "spawn.h", "iconv.h", "poll.h", "signal.h", "limits.h", "stdlib.h", "pwd.h", "sys/resource.h", "termios.h"}
+# Libraries that one room alone may use.
+LIBRARIES = {"desk/console": {"histedit.h"}}
+
+
+# A room's inside that few others may see.
+INNER = {"desk/drawing/inside.h": {"drawing", "import"}, "desk/drawing/store.h": {"drawing", "import"}}
 
 
 def rooms():
@@ -59,19 +66,68 @@ def faults():
                         yield f'{where}: "{header}" is in no room (includes are written from the root of the rooms)'
                     elif room not in allowed:
                         yield f"{where}: {name} may not include {room} ({header})"
+                    elif name not in INNER.get(header, {name}):
+                        yield f"{where}: {header} is the inside of {room}"
                 elif "." in header or "/" in header:
                     qt_or_windows = folder.startswith(("faces/qt", "faces/win32", "desk/window", "windows"))
-                    if not qt_or_windows and not (folder.startswith("desk/") and header in POSIX):
+                    qt_or_windows = qt_or_windows or source.stem.endswith("_windows")
+                    allowed_here = POSIX | LIBRARIES.get(folder, set()) if folder.startswith("desk/") else set()
+                    if not qt_or_windows and header not in allowed_here:
                         yield f"{where}: <{header}> is not of the standard library"
     known = {folder for folder, _ in table.values()}
-    for top in ("src", "desk", "faces"):
+    for top in ("src", "desk", "faces", "windows"):
         for folder in sorted((ROOT / top).iterdir()):
             if folder.is_dir() and any(folder.iterdir()) and str(folder.relative_to(ROOT)) not in known:
                 yield f"{folder.relative_to(ROOT)}: no room of that folder in cmake/RoomList.cmake"
 
 
+def linked(table, folder, function):
+    """The rooms that each test folder or benchmark of a CMakeLists.txt links, with those that they link."""
+    text = (ROOT / folder / "CMakeLists.txt").read_text()
+    for name, links in re.findall(rf"^{function}\((\w+) ([\w ]+)\)", text, re.M):
+        yield name, set().union(*(reachable(table, link) for link in links.split()))
+
+
+def outside_faults():
+    """Faults of tests/ and bench/."""
+    table = rooms()
+    prefixes = {header_prefix(folder): name for name, (folder, _) in table.items()}
+    tests = dict(linked(table, "tests", "vorlane_tests"))
+
+    def check(source, who, allowed, seen):
+        if source in seen:
+            return
+        seen.add(source)
+        for mark, header in INCLUDE.findall(source.read_text(encoding="utf-8")):
+            if mark == "<":
+                continue
+            beside, helper = source.parent / header, ROOT / header
+            room = next((r for p, r in prefixes.items() if header.startswith(p)), None)
+            where = f"{source.relative_to(ROOT)} ({header})"
+            if header.startswith(("tests/", "bench/")) and helper.exists():
+                rooms_of_helper = tests.get(helper.parent.name, set())
+                if not rooms_of_helper <= allowed:
+                    yield f"{where}: helpers of tests/{helper.parent.name} need rooms that {who} isn't linked with"
+                yield from check(helper, who, allowed, seen)
+            elif room is not None:
+                if room not in allowed:
+                    yield f"{where}: {who} isn't linked with {room}"
+                elif header in INNER and who != f"tests/{room}":
+                    yield f"{where}: the inside of {room}"
+            elif beside.exists():
+                yield from check(beside, who, allowed, seen)
+            else:
+                yield f"{where}: neither in a room nor in tests/ or bench/"
+
+    for folder, allowed in tests.items():
+        for source in sorted((ROOT / "tests" / folder).glob("*.cpp")):
+            yield from check(source, f"tests/{folder}", allowed, set())
+    for name, allowed in linked(table, "bench", "vorlane_bench"):
+        yield from check(ROOT / f"bench/{name}_bench.cpp", f"bench/{name}", allowed, set())
+
+
 def main():
-    found = list(faults())
+    found = list(faults()) + list(outside_faults())
     for fault in found:
         print(fault)
     return 1 if found else 0

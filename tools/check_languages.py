@@ -38,14 +38,15 @@ def read(path):
     return entries, faults
 
 
-def compare(entries, model):
+def compare(entries, model, others):
+    """Against the French file, which has every key; a text is untranslated where it is one of the delivered files'."""
     missing = sorted(model.keys() - entries.keys() - MAY_LACK)
     yield from (f"{key} is missing: {model[key]}" for key in missing)
     yield from (f"{key} serves nothing" for key in sorted(entries.keys() - model.keys() - MAY_LACK))
     for key, value in entries.items():
         if key in model and not value.strip():
             yield f"{key} is empty: {model[key]}"
-        elif key in model and value == model[key] and value not in SAME:
+        elif value not in SAME and any(value == other.get(key) for other in (model, *others)):
             yield f"{key} isn't translated: {value}"
 
 
@@ -56,7 +57,8 @@ def main():
     for path in files:
         entries, faults = read(path)
         if not path.samefile(french):
-            faults += compare(entries, model)
+            others = [read(other)[0] for other in DELIVERED.glob("*.LNG") if not path.samefile(other)]
+            faults += compare(entries, model, others)
         for fault in faults:
             print(f"{path.name}: {fault}")
         wrong = wrong or bool(faults)

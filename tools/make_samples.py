@@ -134,7 +134,7 @@ def draw_openings(flat):
     for number, (x, y, rotation) in enumerate(
             [(1.6, 0, 0), (5.6, 0, 0), (0.9, 10, 0), (3.6, 10, 0), (0, 1.5, 90)], start=1):
         flat.insert("FENETRE_120", (x, y), "FENETRES",
-                    {"REPERE": f"F-{flat.letter}{number:02}", "ALLEGE": "0.90" if y else "0.00"}, rotation=rotation)
+                    {"REPERE": f"F-{flat.letter}{number:02}", "ALLEGE": "0,90" if y else "0,00"}, rotation=rotation)
 
 
 def draw_furniture(flat, cupboard):

@@ -55,7 +55,7 @@ def windows(doc):
         block.add_line((0, y), (1.2, y))
     block.add_line((0.6, -0.15), (0.6, 0.15))
     define_attribute(block, "REPERE", "Repère de la fenêtre", "F00", (0.6, 0.3))
-    define_attribute(block, "ALLEGE", "Hauteur d'allège", "0.90", (0.6, -0.3), 0.09)
+    define_attribute(block, "ALLEGE", "Hauteur d'allège", "0,90", (0.6, -0.3), 0.09)
 
 
 def furniture(doc):

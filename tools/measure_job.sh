@@ -8,7 +8,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
 
-need_packages g++ cmake ninja-build libbenchmark-dev time
+need_packages g++ cmake ninja-build libedit-dev libbenchmark-dev time
 build_preset bench vorlane-console make-big-drawing
 runs=${1:-5}
 root=$PWD

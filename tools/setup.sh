@@ -1,4 +1,11 @@
-# Shared by ./run, ./test and the tools: installs what is missing and builds. Sourced, never run.
+# Shared by ./run, ./test and the tools: installs what is missing and builds. Run by itself only to install what is there
+# on wish:
+#   tools/setup.sh --dwg    the converter by which drawings in DWG can be opened
+
+# What the window is built with; everything else is built without.
+qt_packages=(qt6-base-dev qt6-svg-dev qt6-qpa-plugins)
+# What ./test needs.
+test_packages=(g++ cmake ninja-build libedit-dev python3 libgtest-dev python3-ezdxf "${qt_packages[@]}")
 
 say() { printf '== %s\n' "$*"; }
 
@@ -34,3 +41,25 @@ build_preset() {
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
     cmake --build "build/$preset" ${1:+--target "$@"} -- --quiet
 }
+
+# Configures the preset of the argument anew where it was configured before Qt was installed.
+reconfigure_for_qt() {
+    if grep -qs 'Qt6_DIR:PATH=.*NOTFOUND' "build/$1/CMakeCache.txt"; then
+        rm "build/$1/CMakeCache.txt" && cmake --preset "$1" >/dev/null
+    fi
+}
+
+# The converter of tools/dwg, in the versions of its lock file.
+install_dwg() {
+    command -v npm >/dev/null || need_packages nodejs npm
+    say "Installing the DWG converter"
+    npm --prefix "$(dirname "${BASH_SOURCE[0]}")/dwg" ci --ignore-scripts --no-audit --no-fund --silent
+}
+
+if [ "${BASH_SOURCE[0]}" = "$0" ]; then
+    set -euo pipefail
+    case ${1:-} in
+        --dwg) install_dwg ;;
+        *) echo "Usage: tools/setup.sh --dwg" >&2; exit 2 ;;
+    esac
+fi

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Holds the sources to .clang-format and .clang-tidy: all of them, or the files of the arguments. Says what is wrong and changes
-# nothing.
+# nothing. A header is looked at through one source that includes it, its own if it has one.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
@@ -11,6 +11,13 @@ files=("$@")
 say "clang-format"
 clang-format --dry-run -Werror "${files[@]}"
 [ -f build/test/compile_commands.json ] || cmake --preset test >/dev/null
-mapfile -t sources < <(printf '%s\n' "${files[@]}" | grep '\.cpp$' | grep -v '^bench/')
-say "clang-tidy"
-printf '%s\0' "${sources[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/test --quiet
+source_of() {
+    local header=${1#src/}
+    case $1 in
+        *.cpp) echo "$1" ;;
+        *) [ -f "${1%.h}.cpp" ] && echo "${1%.h}.cpp" || git grep -lF "#include \"${header#faces/}\"" -- '*.cpp' | head -1 ;;
+    esac
+}
+mapfile -t sources < <(for file in "${files[@]}"; do source_of "$file"; done | grep -v '^bench/' | sort -u)
+say "clang-tidy (${#sources[@]} files)"
+[ ${#sources[@]} -eq 0 ] || printf '%s\0' "${sources[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/test --quiet

@@ -9,9 +9,14 @@ mkdir -p out
 rm -rf out/settings
 export XDG_DATA_HOME=$PWD/out/settings
 
-"$console" samples/apartment.dxf --script tools/tour.vns --regional en
-"$console" samples/apartment.dxf --script tools/tour_data.vns --regional en
+# Plays a script on the plan; the whole story with every dialog goes to out/, the short one to the terminal.
+play() {
+    "$console" samples/apartment.dxf --script "tools/$1.vns" --regional "$2" >"out/$1.txt" ||
+        { cat "out/$1.txt"; exit 1; }
+    awk -f tools/tour_story.awk "out/$1.txt"
+}
+play tour fr
+play tour_data en
 
-echo
 echo "== The results: out/replaced.dxf, out/labelled.dxf, out/rooms.txt, out/inserted.dxf. Open them in any program that reads DXF."
-echo "== Work on a drawing of your own: ./run DRAWING"
+echo "== Each dialog as it came: out/tour.txt, out/tour_data.txt. Work on a drawing of your own: ./run DRAWING"

@@ -1,24 +1,26 @@
 #pragma once
 
-#include "basic/numbers.h"
+#include "desk/jobs/options.h"
+#include "desk/shell/desk.h"
 
-#include <optional>
 #include <string>
-#include <vector>
 
 namespace console {
 
-/// The program's command line: DRAWING [--script FILE] [--regional fr|en].
+/// What the options of the console say.
 struct CommandLine {
-    std::string drawing;
-    std::string script;  ///< empty: lines come from the standard input
-    std::optional<basic::Regional> regional;
-    bool help = false;
+    std::string drawing;  ///< empty: begins without one
+    std::string script;   ///< empty: lines come from the standard input, as with "-"
+    bool isScript = false;
+    bool quiet = false;
+    bool keepGoing = false;
+    bool fresh = false;
+    std::string settings;  ///< the folder of settings; empty: the user's
+    std::string regional;
+    std::string language;
 };
 
-/// Raises std::invalid_argument with a text that says what is wrong.
-CommandLine parseCommandLine(const std::vector<std::string>& arguments);
-
-extern const char* const kUsage;
+/// Raises jobs::UsageError.
+CommandLine readCommandLine(const jobs::Arguments& arguments);
 
 }  // namespace console

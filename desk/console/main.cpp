@@ -1,78 +1,79 @@
 #include "basic/error.h"
-#include "desk/console/arguments.h"
-#include "desk/console/session_loop.h"
-#include "desk/console/text_prompter.h"
+#include "desk/console/console.h"
+#include "desk/console/start_window.h"
+#include "desk/jobs/help_texts.h"
+#include "desk/jobs/run.h"
 #include "desk/shell/surroundings.h"
-#include "faces/text/text_screen.h"
+#include "faces/text/shown_controls.h"
+#include "platform/version.h"
 
 #include <csignal>
 #include <exception>
-#include <fstream>
+#include <filesystem>
 #include <iostream>
-#include <memory>
-#include <stdexcept>
-#include <unistd.h>
 
 namespace {
 
-enum ExitCode { kDone = 0, kScriptStopped = 1, kNotStarted = 2 };
-
-int fail(const std::string& text, ExitCode code) {
+int fail(const std::string& program, const std::string& text) {
     std::cout.flush();
-    std::cerr << "vorlane-console: " << text << "\n";
-    return code;
+    std::cerr << program << ": " << text << "\n";
+    return jobs::kNotStarted;
 }
 
-shell::DeskOptions deskOptions(const console::CommandLine& line) {
-    shell::DeskOptions options;
-    options.installFolder = shell::installFolder(shell::readEnvironment);
-    options.resources = shell::resourceFolder();
-    options.regional = line.regional.value_or(shell::desktopRegional(shell::readEnvironment));
-    options.frenchDesktop = shell::isFrenchDesktop(shell::readEnvironment);
-    return options;
+void printVersion() {
+    const platform::VersionResource& version = platform::kVersion;
+    std::cout << version.productName << " " << version.major << "." << version.minor << "\n"
+              << version.legalCopyright << " " << version.companyName << "\n";
 }
 
-int run(const console::CommandLine& line) {
-    std::ifstream script;
-    if (!line.script.empty()) {
-        script.open(line.script);
-        if (!script) return fail("the script " + line.script + " can't be read", kNotStarted);
+/// What the build makes files of. Returns false for any other word.
+bool printForBuild(const std::string& word) {
+    if (word == "--print-manual") {
+        std::cout << jobs::manualPage();
+    } else if (word == "--print-completion") {
+        std::cout << jobs::bashCompletion();
+    } else {
+        return false;
     }
-    const bool interactive = line.script.empty() && isatty(STDIN_FILENO) != 0;
-    text_face::StreamLines source(line.script.empty() ? std::cin : script, interactive);
-    std::unique_ptr<shell::Desk> desk;
-    text_face::TextScreen screen(source, std::cout, [&desk](int context) { desk->showHelp(context); });
-    console::TextPrompter prompter(source, std::cout);
-    try {
-        desk = std::make_unique<shell::Desk>(deskOptions(line), screen, prompter, std::cout);
-        desk->open(line.drawing);
-    } catch (const basic::Error& error) {
-        return fail(error.description(), kNotStarted);
+    return true;
+}
+
+int run(const std::string& program, std::vector<std::string> words) {
+    if (words.size() == 1 && printForBuild(words.front())) return jobs::kDone;
+    const jobs::VerbText* verb = words.empty() ? nullptr : jobs::findVerb(words.front());
+    if (verb != nullptr) words.erase(words.begin());
+    const jobs::Arguments arguments =
+        jobs::parseArguments(verb == nullptr ? jobs::kConsole : verb->verb, words);
+    if (arguments.has("--help")) {
+        std::cout << jobs::helpText(arguments.verb);
+        return jobs::kDone;
     }
-    try {
-        console::runCommandLine(*desk, source);
-    } catch (const text_face::ScriptError& error) {
-        return fail(error.what(), kScriptStopped);
+    if (arguments.has("--version")) {
+        printVersion();
+        return jobs::kDone;
     }
-    return kDone;
+    if (verb != nullptr) return jobs::runVerb(arguments, std::cout, std::cerr);
+    if (program != "vorlane-console" && console::wantsWindow(arguments)) console::startWindow(words);
+    return console::runConsole(arguments, program);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    // A full disk or a file limit is an error of the write that meets it, not the end of the program.
+    // A full disk or a file limit is an error of the write that meets it, not the end of the program, and so
+    // is a reader that has gone.
     std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
     std::ios::sync_with_stdio(false);
+    const text_face::ShownControls output(std::cout), errors(std::cerr);
+    const std::string program = argc > 0 ? std::filesystem::path(argv[0]).filename().string() : "vorlane";
     try {
-        const console::CommandLine line = console::parseCommandLine({argv + 1, argv + argc});
-        if (line.help) {
-            std::cout << console::kUsage;
-            return kDone;
-        }
-        return run(line);
-    } catch (const std::invalid_argument& error) {
-        return fail(std::string(error.what()) + "\n" + console::kUsage, kNotStarted);
+        return run(program, {argv + 1, argv + argc});
+    } catch (const jobs::UsageError& error) {
+        return fail(program, std::string(error.what()) + "\nTry " + program + " --help.");
+    } catch (const basic::Error& error) {
+        return fail(program, error.description());
     } catch (const std::exception& error) {
-        return fail(error.what(), kNotStarted);
+        return fail(program, error.what());
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desk/drawing/entity_data.h"
-#include "desk/drawing/transform.h"
+#include "desk/drawing/placement.h"
 
 namespace drawing {
 

@@ -1,8 +1,9 @@
 #include "desk/drawing/attribute_writer.h"
 
-#include "desk/drawing/angles.h"
 #include "desk/drawing/attribute_placement.h"
+#include "desk/drawing/inside.h"
 #include "desk/dxf/tag_writer.h"
+#include "desk/geometry/angles.h"
 
 namespace drawing {
 
@@ -21,7 +22,7 @@ bool isStyle(int code) {
 }  // namespace
 
 AttributeWriter::AttributeWriter(const Drawing& drawing, BlockId block)
-    : store_(drawing.store()), basePoint_(drawing.blocks()[block].basePoint) {
+    : store_(Inside::store(drawing)), basePoint_(drawing.blocks()[block].basePoint) {
     for (EntityId id : drawing.blocks()[block].attributeDefinitions) {
         if (!drawing.isErased(id)) definitions_.push_back(read(drawing, id));
     }
@@ -35,20 +36,45 @@ AttributeWriter::Definition AttributeWriter::read(const Drawing& drawing, Entity
     bool inCommon = true;
     bool inAttribute = true;
     bool flagsRead = false;
+    std::string style;    // groups of the common part: colour, linetype, lineweight, ...
+    int fieldLength = 0;  // group 73
+    int locked = -1;      // group 280 behind the flags, the position lock
     dxf::TagReader reader = drawing.tags(id);
     for (dxf::Tag tag; reader.next(tag) && tag.code < 1000 && tag.code != 101;) {
         if (tag.code == 100 && store_.format().hasSubclasses()) {
             inCommon = tag.raw == "AcDbEntity";
             inAttribute = tag.raw == "AcDbAttributeDefinition";
         }
-        if (inCommon && isStyle(tag.code)) dxf::TagWriter(store_.format(), definition.style).copy(tag);
+        if (inCommon && isStyle(tag.code)) dxf::TagWriter(store_.format(), style).copy(tag);
         if (!inAttribute) continue;
         if (tag.code == 70) flagsRead = true;
-        if (tag.code == 73) definition.fieldLength = static_cast<int>(tag.integerOr(0));
+        if (tag.code == 73) fieldLength = static_cast<int>(tag.integerOr(0));
         // The same code in front of the tag is the version of the object.
-        if (tag.code == 280 && flagsRead) definition.locked = static_cast<int>(tag.integerOr(0));
+        if (tag.code == 280 && flagsRead) locked = static_cast<int>(tag.integerOr(0));
     }
+    writeEnds(definition, style, fieldLength, locked);
     return definition;
+}
+
+void AttributeWriter::writeEnds(Definition& definition, const std::string& style, int fieldLength,
+                                int locked) const {
+    const AttribData& data = definition.data;
+    const dxf::Format& format = store_.format();
+    dxf::TagWriter head(format, definition.head);
+    head.subclass("AcDbEntity");
+    head.text(8, data.common.layer);
+    head.raw(style);
+    head.subclass("AcDbText");
+    if (data.thickness != 0) head.number(39, data.thickness);
+
+    dxf::TagWriter tail(format, definition.tail);
+    tail.subclass("AcDbAttribute");
+    if (format.version >= dxf::Version::R2010) tail.integer(280, 0);
+    tail.text(2, data.tag);
+    tail.integer(70, data.flags);
+    if (fieldLength != 0) tail.integer(73, fieldLength);
+    if (data.vertical != 0) tail.integer(74, data.vertical);
+    if (locked >= 0 && format.version >= dxf::Version::R2007) tail.integer(280, locked);
 }
 
 void AttributeWriter::prepare(const Placement& placement) {
@@ -58,51 +84,44 @@ void AttributeWriter::prepare(const Placement& placement) {
     if (same) return;
     placement_ = placement;
     placement_.insertion = {};
-    prepared_.clear();
-    for (const Definition& definition : definitions_) prepared_.push_back(prepare(definition, placement_));
+    prepared_.resize(definitions_.size());
+    for (std::size_t i = 0; i < definitions_.size(); ++i) prepare(definitions_[i], prepared_[i]);
     isPrepared_ = true;
 }
 
-AttributeWriter::Prepared AttributeWriter::prepare(const Definition& definition,
-                                                   const Placement& placement) const {
-    AttribData data = definition.data;
-    placeAttribute(data, placement, basePoint_);
-    Prepared prepared;
-    prepared.position = data.position;
-    prepared.alignment = data.alignment;
-    prepared.extrusion = data.common.extrusion;
-    prepared.hasAlignment = data.hasAlignment || data.horizontal != 0 || data.vertical != 0;
+void AttributeWriter::prepare(const Definition& definition, Prepared& prepared) const {
+    const AttribData& own = definition.data;
+    AttribData placed;  // only what a placement changes
+    placed.common.extrusion = own.common.extrusion;
+    placed.position = own.position;
+    placed.alignment = own.alignment;
+    placed.height = own.height;
+    placed.widthFactor = own.widthFactor;
+    placed.rotation = own.rotation;
+    placed.oblique = own.oblique;
+    placed.generation = own.generation;
+    placeAttribute(placed, placement_, basePoint_);
+    prepared.position = placed.position;
+    prepared.alignment = placed.alignment;
+    prepared.extrusion = placed.common.extrusion;
+    prepared.hasAlignment = own.hasAlignment || own.horizontal != 0 || own.vertical != 0;
 
-    const dxf::Format& format = store_.format();
-    dxf::TagWriter head(format, prepared.head);
-    head.subclass("AcDbEntity");
-    head.text(8, data.common.layer);
-    head.raw(definition.style);
-    head.subclass("AcDbText");
-    if (data.thickness != 0) head.number(39, data.thickness);
+    prepared.text.clear();
+    dxf::TagWriter text(store_.format(), prepared.text);
+    text.number(40, placed.height);
+    text.text(1, own.text);
+    if (placed.rotation != 0) text.number(50, geometry::degreesOf(placed.rotation));
+    if (placed.widthFactor != 1) text.number(41, placed.widthFactor);
+    if (std::abs(placed.oblique) > kNoSlant) text.number(51, geometry::degreesOf(placed.oblique));
+    if (!basic::NameEqual{}(own.style, "STANDARD")) text.text(7, own.style);
+    if (placed.generation != 0) text.integer(71, placed.generation);
+    if (own.horizontal != 0) text.integer(72, own.horizontal);
 
-    dxf::TagWriter text(format, prepared.text);
-    text.number(40, data.height);
-    text.text(1, data.text);
-    if (data.rotation != 0) text.number(50, degreesOf(data.rotation));
-    if (data.widthFactor != 1) text.number(41, data.widthFactor);
-    if (std::abs(data.oblique) > kNoSlant) text.number(51, degreesOf(data.oblique));
-    if (!basic::NameEqual{}(data.style, "STANDARD")) text.text(7, data.style);
-    if (data.generation != 0) text.integer(71, data.generation);
-    if (data.horizontal != 0) text.integer(72, data.horizontal);
-
-    dxf::TagWriter tail(format, prepared.tail);
-    if (data.common.extrusion != kZAxis) {
-        tail.point(210, data.common.extrusion.x, data.common.extrusion.y, data.common.extrusion.z);
+    prepared.normal.clear();
+    const Vector3& normal = placed.common.extrusion;
+    if (normal != kZAxis) {
+        dxf::TagWriter(store_.format(), prepared.normal).point(210, normal.x, normal.y, normal.z);
     }
-    tail.subclass("AcDbAttribute");
-    if (format.version >= dxf::Version::R2010) tail.integer(280, 0);
-    tail.text(2, data.tag);
-    tail.integer(70, data.flags);
-    if (definition.fieldLength != 0) tail.integer(73, definition.fieldLength);
-    if (data.vertical != 0) tail.integer(74, data.vertical);
-    if (definition.locked >= 0 && format.version >= dxf::Version::R2007) tail.integer(280, definition.locked);
-    return prepared;
 }
 
 void AttributeWriter::write(std::size_t index, const Point3& insertion, Handle handle, Handle owner,
@@ -116,7 +135,7 @@ void AttributeWriter::write(std::size_t index, const Point3& insertion, Handle h
     writer.plain(0, "ATTRIB");
     if (handle != 0) writer.handle(5, handle);
     if (owner != 0) writer.handle(330, owner);
-    writer.raw(prepared.head);
+    writer.raw(definitions_[index].head);
     const Point3 position = prepared.position + offset;
     writer.point(10, position.x, position.y, position.z);
     writer.raw(prepared.text);
@@ -124,7 +143,8 @@ void AttributeWriter::write(std::size_t index, const Point3& insertion, Handle h
         const Point3 alignment = prepared.alignment + offset;
         writer.point(11, alignment.x, alignment.y, alignment.z);
     }
-    writer.raw(prepared.tail);
+    writer.raw(prepared.normal);
+    writer.raw(definitions_[index].tail);
 }
 
 }  // namespace drawing

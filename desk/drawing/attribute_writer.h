@@ -8,9 +8,9 @@
 
 namespace drawing {
 
-/// Writes the attribute references of a block's new references. What doesn't depend on the insertion point is
-/// put together once and serves as long as scale, rotation and extrusion stay the same, as they do in most
-/// drawings.
+/// Writes the attribute references of a block's new references. What doesn't depend on the placement is put
+/// together once; what doesn't depend on the insertion point serves as long as scale, rotation and extrusion
+/// stay the same, as they do in many drawings.
 class AttributeWriter {
   public:
     /// For the attribute definitions of `block` that aren't constant.
@@ -33,9 +33,8 @@ class AttributeWriter {
         AttribData data;
         NameId layer = kNoName;
         NameId tag = kNoName;
-        std::string style;    ///< groups of the common part: colour, linetype, lineweight, ...
-        int fieldLength = 0;  ///< group 73
-        int locked = -1;  ///< group 280 behind the flags, the position lock; -1 where the definition has none
+        std::string head;  ///< between owner and position, the same for all placements
+        std::string tail;  ///< behind the extrusion, the same for all placements
     };
     /// A definition under the prepared placement, for an insertion at the origin.
     struct Prepared {
@@ -43,13 +42,14 @@ class AttributeWriter {
         Point3 alignment;
         Vector3 extrusion;
         bool hasAlignment = false;
-        std::string head;  ///< between owner and position
-        std::string text;  ///< between position and alignment point
-        std::string tail;
+        std::string text;    ///< between position and alignment point
+        std::string normal;  ///< the extrusion, where it isn't the Z axis
     };
 
     Definition read(const Drawing& drawing, EntityId id) const;
-    Prepared prepare(const Definition& definition, const Placement& placement) const;
+    void writeEnds(Definition& definition, const std::string& style, int fieldLength, int locked) const;
+    /// Fills `prepared`, whose strings keep their memory.
+    void prepare(const Definition& definition, Prepared& prepared) const;
 
     const Store& store_;
     Point3 basePoint_;

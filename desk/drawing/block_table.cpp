@@ -16,10 +16,10 @@ BlockId BlockTable::add(Block block) {
     return id;
 }
 
-void BlockTable::enterName(NameId name, BlockId id) {
-    if (name == kNoName) return;
-    if (name >= ofName_.size()) ofName_.resize(name + 1, kNoBlock);
-    ofName_[name] = id;
+void BlockTable::enterName(NameKey name, BlockId id) {
+    if (name == NameKey::None) return;
+    if (indexOf(name) >= ofName_.size()) ofName_.resize(indexOf(name) + 1, kNoBlock);
+    ofName_[indexOf(name)] = id;
 }
 
 void BlockTable::setSpaces(BlockId model, BlockId paper) {

@@ -2,7 +2,7 @@
 
 #include "basic/text.h"
 #include "desk/drawing/ids.h"
-#include "desk/drawing/transform.h"
+#include "desk/drawing/placement.h"
 
 #include <string>
 #include <string_view>
@@ -13,13 +13,13 @@ namespace drawing {
 
 /// A block definition, the spaces among them.
 struct Block {
-    std::string name;          ///< as the drawing spells it
-    std::string layoutName;    ///< name of the layout that stands behind a space; empty for other blocks
-    std::string xrefPath;      ///< group 1 of BLOCK
-    NameId nameKey = kNoName;  ///< of the interned name
-    Handle handle = 0;         ///< of the block record, the owner of the block's entities; 0 in R12
-    Point3 basePoint;          ///< groups 10, 20, 30 of BLOCK
-    int flags = 0;             ///< group 70 of BLOCK
+    std::string name;        ///< as the drawing spells it
+    std::string layoutName;  ///< name of the layout that stands behind a space; empty for other blocks
+    std::string xrefPath;    ///< group 1 of BLOCK
+    NameKey nameKey = NameKey::None;
+    Handle handle = 0;  ///< of the block record, the owner of the block's entities; 0 in R12
+    Point3 basePoint;   ///< groups 10, 20, 30 of BLOCK
+    int flags = 0;      ///< group 70 of BLOCK
     bool isModelSpace = false;
     bool isPaperSpace = false;   ///< any layout's space
     bool isActiveSpace = false;  ///< its entities stand in the ENTITIES section
@@ -58,7 +58,9 @@ class BlockTable {
     /// A definition by name without regard to case, kNoBlock if there is none.
     BlockId find(std::string_view name) const;
     /// The same by the key of an interned name, for the many references.
-    BlockId ofName(NameId key) const { return key < ofName_.size() ? ofName_[key] : kNoBlock; }
+    BlockId ofName(NameKey key) const {
+        return indexOf(key) < ofName_.size() ? ofName_[indexOf(key)] : kNoBlock;
+    }
     BlockId modelSpace() const { return modelSpace_; }
     /// The paper space whose entities stand in the ENTITIES section.
     BlockId paperSpace() const { return paperSpace_; }
@@ -70,7 +72,7 @@ class BlockTable {
     void setErased(BlockId id, bool erased);
 
   private:
-    void enterName(NameId name, BlockId id);
+    void enterName(NameKey name, BlockId id);
 
     std::vector<Block> blocks_;
     std::unordered_map<std::string, BlockId, basic::NameHash, basic::NameEqual> byName_;

@@ -2,14 +2,24 @@
 
 #include "basic/text.h"
 #include "desk/drawing/class_names.h"
+#include "desk/drawing/inside.h"
 #include "desk/dxf/number_text.h"
 
 #include <cmath>
 
+// A selection filter is a list of conditions, each a group code and a value, as (ssget "X" ...) takes it (the
+// host's documentation, "Selection Set Filter Lists"). Conditions in a row must all hold. Conditions with the
+// code -4 are operators, of two kinds:
+//   - grouping, "<AND" ... "AND>" and so on, which nest;
+//   - relations, ">=" and so on, which hold for the one condition behind them, of a number or a point.
+// Compiling makes a tree of it, so that a filter's faults are told before anything is selected, and does once
+// what would cost time at each of 100,000 entities: patterns are taken apart, names are looked up in the name
+// table.
+
 namespace drawing {
 
 CompiledFilter::CompiledFilter(const Drawing& drawing, const Filter& filter)
-    : drawing_(drawing), store_(drawing.store()) {
+    : drawing_(drawing), store_(Inside::store(drawing)) {
     std::size_t position = 0;
     root_ = parseGroup(filter, position, {});
     findNames();
@@ -26,6 +36,8 @@ CompiledFilter::Node CompiledFilter::parseGroup(const Filter& filter, std::size_
         {"&=", Relation::AllBits},  {"*", Relation::Anything}};
     constexpr int kOperatorCode = -4;
 
+    // Recursive descent: an opening operator begins a group that reads on until its own closing one, so that
+    // what closes is always the innermost open group, and a closing operator without one is unknown.
     Node group;
     Relation relation = Relation::Equal;
     while (position < filter.size()) {
@@ -66,6 +78,8 @@ CompiledFilter::Test CompiledFilter::compile(const FilterCondition& condition, R
     Test test;
     test.code = condition.code;
     test.relation = relation;
+    // The value's kind decides how it is compared, not the code's: a number is looked for in any group that
+    // can be read as one, a text in the group's text.
     if (const auto* text = std::get_if<std::string>(&condition.value)) {
         test.isText = true;
         test.text = *text;
@@ -85,6 +99,8 @@ void CompiledFilter::matchNames(Test& test) const {
         test.name = store_.names.find(test.text);
         return;
     }
+    // A drawing has few names and many entities: matching each name once makes a look at an entity a look
+    // into a table.
     test.matching.assign(store_.names.size(), 0);
     for (NameId name = 1; name < store_.names.size(); ++name) {
         test.matching[name] = test.pattern->matches(store_.names.text(name)) ? 1 : 0;
@@ -92,15 +108,18 @@ void CompiledFilter::matchNames(Test& test) const {
 }
 
 void CompiledFilter::findNames() {
+    // At the top level all conditions must hold, so one on the name says which entities can pass at all:
+    // those that the store's index lists under the names. Inside of an operator it wouldn't (OR, NOT).
     for (const Node& child : root_.children) {
         const Test& test = child.test;
         if (child.kind != Node::Kind::Test || test.code != 2 || !test.isText) continue;
         if (test.relation != Relation::Equal) continue;
         names_.emplace();
-        if (test.name != kNoName) names_->push_back(test.name);
+        if (test.name != NameKey::None) names_->push_back(test.name);
         for (NameId name = 1; name < test.matching.size(); ++name) {
-            const bool isKey = store_.names.key(name) == name;
-            if (isKey && test.matching[name] != 0) names_->push_back(name);
+            // A key has the number of the spelling that was met first.
+            const NameKey key = store_.names.key(name);
+            if (indexOf(key) == name && test.matching[name] != 0) names_->push_back(key);
         }
         return;
     }
@@ -109,6 +128,8 @@ void CompiledFilter::findNames() {
 bool CompiledFilter::passes(EntityId id) const { return passes(id, root_); }
 
 bool CompiledFilter::passes(EntityId id, const Node& node) const {
+    // Children are counted only where their number decides. An empty AND passes everything, an empty OR
+    // nothing; a NOT takes one condition, and of several passes where none holds.
     const auto count = [&] {
         std::size_t hits = 0;
         for (const Node& child : node.children) hits += passes(id, child) ? 1 : 0;
@@ -134,6 +155,7 @@ bool CompiledFilter::passes(EntityId id, const Node& node) const {
 
 bool CompiledFilter::passes(EntityId id, const Test& test) const {
     if (test.relation == Relation::Anything) return true;
+    // What the record holds needs no look at the entity's bytes.
     const Record& record = store_.record(id);
     switch (test.code) {
         case 0:
@@ -146,6 +168,7 @@ bool CompiledFilter::passes(EntityId id, const Test& test) const {
             return matchesName(test, record.layer);
         case 60:
             return matches(test, record.has(kInvisible) ? 1.0 : 0.0);
+        // Codes that an entity may lack have their defaults: colour by layer, visible, in model space.
         case 62:
             return matches(test, drawing_.common(id).color);
         case 67:
@@ -160,11 +183,13 @@ bool CompiledFilter::passes(EntityId id, const Test& test) const {
 }
 
 bool CompiledFilter::matches(const Test& test, std::string_view text) const {
+    // Texts know equal and not equal alone; any other relation counts as equal.
     const bool equal = test.pattern ? test.pattern->matches(text) : basic::equalIgnoringCase(test.text, text);
     return equal == (test.relation != Relation::NotEqual);
 }
 
 bool CompiledFilter::matches(const Test& test, double number) {
+    // The bits of a number are those of its whole part; a filter on flags (70) asks for them with & and &=.
     // What is compared as text elsewhere never equals a number.
     if (test.isText || test.isPoint) return false;
     const auto bits = [](double value) { return static_cast<std::int64_t>(value); };
@@ -192,12 +217,16 @@ bool CompiledFilter::matches(const Test& test, double number) {
 }
 
 bool CompiledFilter::matchesName(const Test& test, NameId name) const {
+    // Names that came after the compiling can't be asked for: a filter lives for one selection.
     const bool listed = name < test.matching.size() && test.matching[name] != 0;
     const bool equal = test.pattern ? listed : name != kNoName && store_.names.key(name) == test.name;
     return equal == (test.relation != Relation::NotEqual);
 }
 
 bool CompiledFilter::matchesMarker(EntityId id, const Test& test) const {
+    // Group 100 asks for any of the subclasses that an entity is made of. A drawing of R12 has no markers, so
+    // that those of the types known to the host are taken from its table of classes; what the file itself has
+    // counts too, for types that the table lacks.
     if (!test.isText) return false;
     if (matches(test, "AcDbEntity")) return true;
     const std::string_view type = store_.typeName(store_.record(id).type);
@@ -206,6 +235,7 @@ bool CompiledFilter::matchesMarker(EntityId id, const Test& test) const {
             if (!marker.empty() && matches(test, marker)) return true;
         }
     }
+    // Of these the class depends on the entity's flags.
     if (type == "POLYLINE" || type == "DIMENSION" || type == "INSERT") {
         if (matches(test, drawing_.objectName(id))) return true;
     }
@@ -217,6 +247,9 @@ bool CompiledFilter::matchesMarker(EntityId id, const Test& test) const {
 }
 
 bool CompiledFilter::matchesGroups(EntityId id, const Test& test) const {
+    // Any other code: each group of that code is tried, as the host does with groups that an entity repeats.
+    // A point's Y and Z stand behind its X under codes 10 and 20 higher, so it is complete when the next X
+    // comes or the entity ends.
     dxf::TagReader reader = store_.reader(id);
     Point3 point;
     int pointCode = -1;

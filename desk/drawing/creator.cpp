@@ -1,18 +1,20 @@
 #include "desk/drawing/creator.h"
 
 #include "basic/text.h"
-#include "desk/drawing/angles.h"
+#include "desk/drawing/inside.h"
 #include "desk/dxf/tag_writer.h"
+#include "desk/geometry/angles.h"
 
 namespace drawing {
+
+Creator::Creator(Drawing& drawing) : drawing_(drawing), store_(Inside::store(drawing)) {}
 
 const Creator::Current& Creator::current() {
     if (current_.known) return current_;
     const HeaderVariables& header = drawing_.header();
-    const NameId layer = store_.names.find(header.text("$CLAYER").value_or("0"));
-    const bool exists = layer != kNoName && drawing_.layers().contains(layer);
-    current_.layer = exists ? layer : store_.names.intern("0");
-    current_.layerName = exists ? drawing_.layers()[layer].name : "0";
+    const NameKey layer = store_.names.find(header.text("$CLAYER").value_or("0"));
+    current_.layerName = drawing_.layers().contains(layer) ? drawing_.layers()[layer].name : "0";
+    current_.layer = store_.names.intern(current_.layerName);
     current_.known = true;
 
     dxf::TagWriter style(store_.format(), current_.style);
@@ -61,7 +63,7 @@ void Creator::writeReference(BlockId block, const Placement& placement, Handle h
     if (placement.scale.x != 1) writer.number(41, placement.scale.x);
     if (placement.scale.y != 1) writer.number(42, placement.scale.y);
     if (placement.scale.z != 1) writer.number(43, placement.scale.z);
-    if (placement.rotation != 0) writer.number(50, degreesOf(placement.rotation));
+    if (placement.rotation != 0) writer.number(50, geometry::degreesOf(placement.rotation));
 }
 
 EntityId Creator::insert(BlockId block, const Placement& placement) {

@@ -13,13 +13,15 @@ namespace drawing {
 /// until `forget`.
 class Creator {
   public:
-    explicit Creator(Drawing& drawing) : drawing_(drawing), store_(drawing.store()) {}
+    explicit Creator(Drawing& drawing);
 
     /// A block reference with its attributes; their records follow it, SEQEND at the end.
     EntityId insert(BlockId block, const Placement& placement);
     EntityId line(const Point3& start, const Point3& end);
     /// After a change of block definitions.
     void forget() { writers_.clear(); }
+    /// After a change of the current layer, colour and the like.
+    void forgetCurrent() { current_ = {}; }
 
   private:
     /// What new entities get besides their own groups.

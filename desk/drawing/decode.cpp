@@ -197,7 +197,7 @@ InsertData Drawing::insert(EntityId id) const {
     data.placement = placement(id);
     data.common = common(id);
     data.name = name(id);
-    data.block = blocks_.ofName(store_->names.key(store_->record(id).name));
+    data.block = referencedBlock(id);
     data.insertion = ocsToWcs(data.placement.insertion, data.placement.extrusion);
     data.isArray = data.placement.columns > 1 || data.placement.rows > 1;
     return data;
@@ -207,7 +207,7 @@ std::string Drawing::name(EntityId id) const {
     requireAlive(id);
     const Record& record = store_->record(id);
     if (record.type == kInsert) {
-        const BlockId block = blocks_.ofName(store_->names.key(record.name));
+        const BlockId block = referencedBlock(id);
         if (block != kNoBlock) return blocks_[block].name;
     }
     return store_->names.text(record.name);
@@ -249,8 +249,12 @@ std::string Drawing::attributeText(EntityId id) const {
     if (store_->record(id).type != kAttrib) return attribute(id).text;
     std::string text;
     dxf::TagReader reader = tags(id);
+    const bool mayBeEmbedded = format().version >= dxf::Version::R2018;
     for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
-        if (tag.code == 1) text = tag.text();
+        if (tag.code == 1) {
+            text = tag.text();
+            if (!mayBeEmbedded) break;
+        }
         if (tag.code == 101) return embeddedText(reader);
     }
     return text;

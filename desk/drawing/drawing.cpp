@@ -2,34 +2,16 @@
 
 #include "desk/drawing/class_names.h"
 #include "desk/drawing/creator.h"
-#include "desk/drawing/opener.h"
 #include "desk/drawing/store.h"
-#include "desk/dxf/file.h"
 
 #include <algorithm>
 #include <span>
 
 namespace drawing {
 
-namespace {
-
-dxf::Mode modeOf(Reading reading) {
-    return reading == Reading::Strict ? dxf::Mode::Strict : dxf::Mode::Lenient;
-}
-
-}  // namespace
-
 Drawing::Drawing(dxf::Source source)
     : store_(std::make_unique<Store>(std::move(source))), creator_(std::make_unique<Creator>(*this)) {}
 Drawing::~Drawing() = default;
-
-std::unique_ptr<Drawing> Drawing::open(const std::string& path, Reading reading) {
-    return Opener(dxf::Source::open(path), modeOf(reading)).open();
-}
-
-std::unique_ptr<Drawing> Drawing::parse(std::string_view bytes, const std::string& name, Reading reading) {
-    return Opener(dxf::Source::fromBytes(bytes, name), modeOf(reading)).open();
-}
 
 const std::vector<dxf::Finding>& Drawing::findings() const { return store_->findings.list(); }
 const dxf::Format& Drawing::format() const { return store_->format(); }
@@ -38,6 +20,16 @@ std::size_t Drawing::entityCount(BlockId block) const {
     const std::vector<EntityId>& all = blocks_[block].entities;
     return static_cast<std::size_t>(
         std::count_if(all.begin(), all.end(), [this](EntityId id) { return !isErased(id); }));
+}
+
+std::vector<EntityId> Drawing::tableEntries(std::string_view type) const {
+    std::vector<EntityId> result;
+    const std::uint16_t wanted = store_->findType(type);
+    for (EntityId id = 0; wanted != kNoType && id < store_->count(); ++id) {
+        const Record& record = store_->record(id);
+        if (record.type == wanted && record.has(kTableEntry) && !isErased(id)) result.push_back(id);
+    }
+    return result;
 }
 
 bool Drawing::isErased(EntityId id) const { return store_->isErased(id); }
@@ -77,11 +69,23 @@ std::string Drawing::objectName(EntityId id) const {
 
 Handle Drawing::handle(EntityId id) const {
     requireAlive(id);
-    return store_->record(id).handle;
+    const Handle own = store_->record(id).handle;
+    return own != 0 ? own : standInBase() + id + 1;
+}
+
+Handle Drawing::standInBase() const {
+    // Where some objects have handles, those of the others stay clear of all that will ever be given.
+    constexpr Handle kBeyond = Handle{0xF} << 60;
+    return store_->usesHandles() ? kBeyond : 0;
 }
 
 EntityId Drawing::byHandle(Handle handle) const {
-    const EntityId id = store_->handles.find(handle);
+    EntityId id = store_->handles.find(handle);
+    const Handle base = standInBase();
+    if (id == kNoEntity && handle > base && handle - base <= store_->count()) {
+        const auto standIn = static_cast<EntityId>(handle - base - 1);
+        if (store_->record(standIn).handle == 0) id = standIn;
+    }
     return id == kNoEntity || isErased(id) ? kNoEntity : id;
 }
 
@@ -115,6 +119,11 @@ std::string_view Drawing::bytes(EntityId id) const {
     return store_->record(id).view();
 }
 
+BlockId Drawing::referencedBlock(EntityId id) const {
+    requireAlive(id);
+    return blocks_.ofName(store_->names.key(store_->record(id).name));
+}
+
 dxf::TagReader Drawing::tags(EntityId id) const { return store_->reader(bytes(id)); }
 
 const Layer& Drawing::layer(EntityId id) const {
@@ -131,9 +140,11 @@ std::string_view Drawing::layerName(EntityId id) const {
 
 bool Drawing::isOnLockedLayer(EntityId id) const { return layer(id).locked; }
 
+bool Drawing::isInvisible(EntityId id) const { return store_->record(id).has(kInvisible); }
+
 bool Drawing::isDisplayed(EntityId id) const {
     const Layer& known = layer(id);
-    return !known.off && !known.frozen && !store_->record(id).has(kInvisible);
+    return !known.off && !known.frozen && !isInvisible(id);
 }
 
 }  // namespace drawing

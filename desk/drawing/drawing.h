@@ -1,16 +1,20 @@
 #pragma once
 
 #include "desk/drawing/block_table.h"
+#include "desk/drawing/companion.h"
 #include "desk/drawing/entity_data.h"
 #include "desk/drawing/errors.h"
 #include "desk/drawing/header_variables.h"
 #include "desk/drawing/ids.h"
+#include "desk/drawing/journal.h"
 #include "desk/drawing/layer_table.h"
 #include "desk/drawing/selection.h"
+#include "desk/dxf/file.h"
 
 #include <memory>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace dxf {
@@ -25,6 +29,7 @@ namespace drawing {
 class Creator;
 class Store;
 struct StepLog;
+struct UndoneStep;
 class TagEdit;
 
 /// How a file's faults are taken: Strict raises on what Lenient repairs or lives with.
@@ -37,13 +42,8 @@ struct PartRange {
     std::uint32_t count = 0;
 };
 
-/// What bringing a drawing in as a block did.
-struct ImportResult {
-    BlockId block = kNoBlock;
-    bool redefined = false;               ///< a block of that name was there and has the new content now
-    std::vector<std::string> kept;        ///< nested blocks of which the drawing keeps its own definition
-    std::vector<std::string> leftBehind;  ///< what couldn't be carried, a line each, with handle and reason
-};
+/// A value of a variable of the header.
+using HeaderValue = std::variant<std::string, double, std::int64_t, Point3>;
 
 /// A drawing: a DXF file as ranges of its bytes, of which only what is changed gets bytes of its own. An
 /// unchanged drawing is saved as it was, to the byte.
@@ -67,20 +67,28 @@ class Drawing {
     /// What lenient reading repaired or lived with.
     const std::vector<dxf::Finding>& findings() const;
     const dxf::Format& format() const;
-    /// Writes the drawing: a new file beside the old one, renamed over it. Raises kDiskFull and its like; the
-    /// old file then stays as it was.
-    void save(const std::string& path);
+    /// Writes the drawing: a new file beside the old one, renamed over it; or the file itself, where its
+    /// folder takes no new one, after a copy went to `backupFolder` (empty: never). Raises kDiskFull and its
+    /// like; the old file then stays as it was.
+    dxf::Saved save(const std::string& path, const std::string& backupFolder = {});
     /// The bytes that `save` writes.
     std::string savedBytes() const;
     /// Whether something was changed since opening or the last save.
     bool isModified() const { return state_ != savedState_; }
     /// Counts changes; what was derived from the drawing is out of date when it differs.
     std::uint64_t revision() const { return revision_; }
+    /// The place in the journal of changes behind the last one, and what changed since a place.
+    std::uint64_t journalEnd() const;
+    Changes changesSince(std::uint64_t place) const;
+    /// What is kept beside the drawing, see shapes::sceneOf.
+    std::unique_ptr<Companion>& companion() const { return companion_; }
 
     const HeaderVariables& header() const { return header_; }
     const LayerTable& layers() const { return layers_; }
     const BlockTable& blocks() const { return blocks_; }
     BlockId modelSpace() const { return blocks_.modelSpace(); }
+    /// The entries of the tables of a type ("LTYPE"), in the file's order.
+    std::vector<EntityId> tableEntries(std::string_view type) const;
     /// Number of entities of a block or space that aren't erased.
     std::size_t entityCount(BlockId block) const;
     /// Walks the main entities of a block or space that aren't erased, in drawing order, until `visit`
@@ -105,6 +113,8 @@ class Drawing {
     /// The class name in the host, "AcDbBlockReference"; for a type that the host doesn't know its last
     /// subclass marker.
     std::string objectName(EntityId id) const;
+    /// An object of the file that has no handle gets one that stands for it as long as the drawing is open;
+    /// it isn't written.
     Handle handle(EntityId id) const;
     /// The object of a handle that isn't erased, entity or not; kNoEntity if there is none.
     EntityId byHandle(Handle handle) const;
@@ -124,11 +134,15 @@ class Drawing {
     const Layer& layer(EntityId id) const;
     std::string_view layerName(EntityId id) const;
     bool isOnLockedLayer(EntityId id) const;
+    /// Whether group 60 hides it.
+    bool isInvisible(EntityId id) const;
     /// Whether it can be seen: not invisible (60), its layer neither off nor frozen.
     bool isDisplayed(EntityId id) const;
     CommonData common(EntityId id) const;
     /// A block reference; raises kNotApplicable for another type.
     InsertData insert(EntityId id) const;
+    /// The block that a reference shows; kNoBlock where the drawing lacks it.
+    BlockId referencedBlock(EntityId id) const;
     /// Where a block reference stands, for those who need nothing else.
     Placement placement(EntityId id) const;
     /// The tag and the text of an attribute alone.
@@ -156,6 +170,10 @@ class Drawing {
     void setNumber(EntityId id, int code, std::string_view subclass, double value);
     void setInteger(EntityId id, int code, std::string_view subclass, std::int64_t value);
 
+    /// Sets a variable of the header ("$CLAYER") to a group of that code; a point has three groups. Raises
+    /// kInvalidInput where the file has no section of variables.
+    void setVariable(std::string_view name, int code, const HeaderValue& value);
+
     /// Deletes an entity with its parts and what it hard-owns (extension dictionary).
     void erase(EntityId id);
 
@@ -167,11 +185,6 @@ class Drawing {
     EntityId insertBlock(BlockId block, const Point3& point, const Vector3& scale, double rotation);
     EntityId addLine(const Point3& start, const Point3& end);
 
-    /// Brings a whole drawing's model space in as block `name` with its $INSBASE as base point, with nested
-    /// blocks, layers, text styles, linetypes and dimension styles that are missing here. A block of that
-    /// name gets the new content.
-    ImportResult importBlock(const Drawing& source, const std::string& name);
-
     // Selection.
 
     /// The main entities of all spaces (layouts too, block definitions not) that pass the filter, in drawing
@@ -180,21 +193,35 @@ class Drawing {
     /// Those of `among` that are such entities and pass, in the order of `among`.
     std::vector<EntityId> select(const Filter& filter, const std::vector<EntityId>& among) const;
 
+    // Layers and the current one. They raise kKeyNotFound for a layer that the table lacks.
+
+    void setLayerState(std::string_view name, const LayerState& state);
+    /// $CLAYER.
+    void setCurrentLayer(std::string_view name);
+
     // Undo. An edit outside a step is a step of its own; steps nest, the outermost counts.
 
-    void beginStep();
+    void beginStep(std::string name = {});
+    /// A step that leaves the drawing as it was is none, and no change of the drawing.
     void endStep();
+    /// Gives the open step another name.
+    void nameStep(std::string name);
     bool canUndo() const;
+    bool canRedo() const;
+    /// Names of the step that would be undone or redone; empty for one without.
+    std::string undoName() const;
+    std::string redoName() const;
     /// Restores the drawing of before the last step, handle seed and bytes included. False if there is none.
     bool undo();
-
-    /// The inside, for the room's own files.
-    Store& store() { return *store_; }
-    const Store& store() const { return *store_; }
+    /// Brings the step back that was undone last, with the numbers and handles that it gave. False if there
+    /// is none: any edit gives up what was undone.
+    bool redo();
+    /// Numbers from here on are still free: what a command makes begins here.
+    EntityId firstFree() const;
 
   private:
     friend class Opener;
-    friend class Importer;
+    friend class Inside;
     explicit Drawing(dxf::Source source);
     void noteChange() { state_ = ++revision_; }
     /// Raises kObjectErased or kLockedLayer.
@@ -209,8 +236,20 @@ class Drawing {
     void eraseObject(EntityId id);
     /// Group 330 outside of braces, 0 where there is none.
     Handle ownerHandle(EntityId id) const;
+    /// The first of the handles that stand for objects without one.
+    Handle standInBase() const;
     EntityId addToModelSpace(EntityId id);
     void undoRecords(const StepLog& log);
+    /// The state that a step led to, as it stands before the step is undone.
+    UndoneStep undoneStep(const StepLog& log) const;
+    /// Takes the last step back, its log and the variables' values into `undone`.
+    void unwind(UndoneStep& undone);
+    void redoRecords(UndoneStep& undone);
+    /// Brings the layer table in line with LAYER records that a step changed.
+    void refreshLayers(const StepLog& log);
+    /// Whether everything is as it was before the step: what it made is erased again, as trial insertions
+    /// are.
+    bool leavesNothing(const StepLog& log) const;
 
     std::string path_;
     std::unique_ptr<Store> store_;
@@ -218,6 +257,7 @@ class Drawing {
     LayerTable layers_;
     BlockTable blocks_;
     std::unique_ptr<Creator> creator_;
+    mutable std::unique_ptr<Companion> companion_;
     std::uint64_t revision_ = 0;
     std::uint64_t state_ = 0;  ///< names the content: an undone step gives the one of before back
     std::uint64_t savedState_ = 0;
@@ -226,7 +266,9 @@ class Drawing {
 /// Runs a stretch of edits as one undo step.
 class UndoStep {
   public:
-    explicit UndoStep(Drawing& drawing) : drawing_(drawing) { drawing_.beginStep(); }
+    explicit UndoStep(Drawing& drawing, std::string name = {}) : drawing_(drawing) {
+        drawing_.beginStep(std::move(name));
+    }
     ~UndoStep() { drawing_.endStep(); }
     UndoStep(const UndoStep&) = delete;
     UndoStep& operator=(const UndoStep&) = delete;

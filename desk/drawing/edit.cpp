@@ -1,9 +1,10 @@
-#include "desk/drawing/angles.h"
 #include "desk/drawing/attribute_placement.h"
+#include "desk/drawing/attribute_text.h"
 #include "desk/drawing/drawing.h"
 #include "desk/drawing/multi_line_text.h"
 #include "desk/drawing/store.h"
 #include "desk/drawing/tag_edit.h"
+#include "desk/geometry/angles.h"
 
 #include <cmath>
 
@@ -59,17 +60,13 @@ void Drawing::setReference(EntityId id, const Placement& placement) {
     const Placement before = this->placement(id);
     const Vector3& scale = placement.scale;
     const bool scaleChanged = !(before.scale == scale);
-    // A factor of 0 that the file has may stay; none can be set.
-    if ((scale.x == 0 && before.scale.x != 0) || (scale.y == 0 && before.scale.y != 0) ||
-        (scale.z == 0 && before.scale.z != 0)) {
-        raise(kInvalidInput, "a scale factor of 0");
-    }
+    if (scale.x == 0 || scale.y == 0 || scale.z == 0) raise(kInvalidInput, "a scale factor of 0");
     TagEdit& edit = store_->freshEdit();
     if (!(before.insertion == placement.insertion)) edit.point(10, {}, placement.insertion);
     if (scaleChanged) edit.number(41, {}, scale.x);
     if (scaleChanged) edit.number(42, {}, scale.y);
     if (scaleChanged) edit.number(43, {}, scale.z);
-    if (before.rotation != placement.rotation) edit.number(50, {}, degreesOf(placement.rotation));
+    if (before.rotation != placement.rotation) edit.number(50, {}, geometry::degreesOf(placement.rotation));
     if (edit.isEmpty()) return;
     const UndoStep step(*this);
     applyEdit(id, edit);
@@ -86,8 +83,8 @@ void Drawing::moveAttributes(EntityId id, const Placement& from, const Placement
         if (data.hasAlignment) edit.point(11, kTextPart, data.alignment);
         if (data.height != before.height) edit.number(40, kTextPart, data.height);
         if (data.widthFactor != before.widthFactor) edit.number(41, kTextPart, data.widthFactor);
-        if (data.rotation != before.rotation) edit.number(50, kTextPart, degreesOf(data.rotation));
-        if (data.oblique != before.oblique) edit.number(51, kTextPart, degreesOf(data.oblique));
+        if (data.rotation != before.rotation) edit.number(50, kTextPart, geometry::degreesOf(data.rotation));
+        if (data.oblique != before.oblique) edit.number(51, kTextPart, geometry::degreesOf(data.oblique));
         if (data.generation != before.generation) edit.integer(71, kTextPart, data.generation);
         if (!(data.common.extrusion == before.common.extrusion))
             edit.point(210, kTextPart, data.common.extrusion);
@@ -123,8 +120,19 @@ void Drawing::setAttributeText(EntityId id, std::string_view text) {
     const UndoStep step(*this);
     TagEdit& edit = store_->freshEdit();
     edit.text(1, kTextPart, text);
-    applyEdit(id, edit);
-    if (!hasEmbeddedText(format(), store_->record(id).view())) return;
+    const std::string_view before = store_->record(id).view();
+    const TextPlace place = findText(format(), before);
+    if (!place.isEmbedded && beginsByWidth(place.horizontal)) {
+        const AttribData data = attribute(id);
+        if (data.hasAlignment) edit.point(10, kTextPart, firstPointFor(data, text));
+        applyEdit(id, edit);
+    } else if (place.end == place.begin) {
+        applyEdit(id, edit);
+    } else if (const std::string_view after = edit.applyAt(before, place.begin, place.end); after != before) {
+        store_->setBytes(id, after);
+        noteChange();
+    }
+    if (!place.isEmbedded) return;
     store_->setBytes(id, withEmbeddedText(format(), store_->record(id).view(), text));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desk/drawing/ids.h"
-#include "desk/drawing/transform.h"
+#include "desk/drawing/placement.h"
 
 #include <string>
 

@@ -39,20 +39,27 @@ void Drawing::eraseOwned(EntityId id) {
     }
 }
 
-void Drawing::eraseObject(EntityId id) {
-    store_->change(id).set(kErased);
-    const Handle self = store_->record(id).handle;
-    const bool isDictionary = store_->typeName(store_->record(id).type).starts_with("DICTIONARY") ||
-                              store_->record(id).type == kDictionary;
-    dxf::TagReader reader = store_->reader(id);
-    for (dxf::Tag tag; reader.next(tag);) {
-        const dxf::HandleRole role = dxf::handleRole(tag.code);
-        const bool owns =
-            role == dxf::HandleRole::HardOwner || (isDictionary && role == dxf::HandleRole::SoftOwner);
-        if (!owns) continue;
-        const EntityId object = byHandle(tag.handle());
-        if (object == kNoEntity || !store_->record(object).has(kObject)) continue;
-        if (ownerHandle(object) == self) eraseObject(object);
+void Drawing::eraseObject(EntityId first) {
+    // However long the chain of owners is, it needs no stack; one that leads back meets erased objects.
+    std::vector<EntityId> open{first};
+    while (!open.empty()) {
+        const EntityId id = open.back();
+        open.pop_back();
+        if (store_->record(id).has(kErased)) continue;
+        store_->change(id).set(kErased);
+        const Handle self = store_->record(id).handle;
+        const bool isDictionary = store_->typeName(store_->record(id).type).starts_with("DICTIONARY") ||
+                                  store_->record(id).type == kDictionary;
+        dxf::TagReader reader = store_->reader(id);
+        for (dxf::Tag tag; reader.next(tag);) {
+            const dxf::HandleRole role = dxf::handleRole(tag.code);
+            const bool owns =
+                role == dxf::HandleRole::HardOwner || (isDictionary && role == dxf::HandleRole::SoftOwner);
+            if (!owns) continue;
+            const EntityId object = byHandle(tag.handle());
+            if (object == kNoEntity || !store_->record(object).has(kObject)) continue;
+            if (ownerHandle(object) == self) open.push_back(object);
+        }
     }
 }
 

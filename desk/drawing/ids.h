@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace drawing {
@@ -9,8 +10,12 @@ namespace drawing {
 using EntityId = std::uint32_t;
 /// Number of a block definition, valid in the same way.
 using BlockId = std::uint32_t;
-/// Number of an interned name: an entity type, a layer, a block (see NameTable).
+/// Number of an interned name as it is spelled: an entity type, a layer, a block (see NameTable).
 using NameId = std::uint32_t;
+/// What those spellings of a name have in common that differ in case alone. Tables are kept by it; a type of
+/// its own, so that no spelling is taken for it.
+enum class NameKey : std::uint32_t { None = 0 };
+constexpr std::size_t indexOf(NameKey key) { return static_cast<std::size_t>(key); }
 /// A DXF handle; 0 where there is none.
 using Handle = std::uint64_t;
 

@@ -18,24 +18,26 @@ void Layer::readState(dxf::TagReader reader) {
     }
 }
 
-const Layer& LayerTable::operator[](NameId name) const {
-    return contains(name) ? layers_[byName_[name] - 1] : missing_;
+const Layer& LayerTable::operator[](NameKey name) const {
+    return contains(name) ? layers_[byName_[indexOf(name)] - 1] : missing_;
 }
 
-bool LayerTable::contains(NameId name) const { return name < byName_.size() && byName_[name] != 0; }
+bool LayerTable::contains(NameKey name) const {
+    return indexOf(name) < byName_.size() && byName_[indexOf(name)] != 0;
+}
 
-void LayerTable::add(NameId name, Layer layer) {
+void LayerTable::add(NameKey name, Layer layer) {
     if (contains(name)) return;
-    if (name >= byName_.size()) byName_.resize(name + 1, 0);
+    if (indexOf(name) >= byName_.size()) byName_.resize(indexOf(name) + 1, 0);
     layers_.push_back(std::move(layer));
-    byName_[name] = static_cast<std::uint32_t>(layers_.size());
+    byName_[indexOf(name)] = static_cast<std::uint32_t>(layers_.size());
 }
 
-void LayerTable::remove(NameId name) {
+void LayerTable::remove(NameKey name) {
     if (!contains(name)) return;
-    const std::uint32_t position = byName_[name];
+    const std::uint32_t position = byName_[indexOf(name)];
     layers_.erase(layers_.begin() + (position - 1));
-    byName_[name] = 0;
+    byName_[indexOf(name)] = 0;
     for (std::uint32_t& other : byName_) {
         if (other > position) --other;
     }

@@ -22,15 +22,25 @@ struct Layer {
     void readState(dxf::TagReader reader);
 };
 
+/// What the user switches on a layer.
+struct LayerState {
+    int color = 7;  ///< 1 to 255
+    bool on = true;
+    bool frozen = false;
+    bool locked = false;
+};
+
 /// The layers by the keys of their interned names.
 class LayerTable {
   public:
     /// The layer of a name; a thawed, unlocked one that is on where the table lacks it.
-    const Layer& operator[](NameId name) const;
+    const Layer& operator[](NameKey name) const;
     const std::vector<Layer>& all() const { return layers_; }
-    bool contains(NameId name) const;
-    void add(NameId name, Layer layer);
-    void remove(NameId name);
+    bool contains(NameKey name) const;
+    void add(NameKey name, Layer layer);
+    void remove(NameKey name);
+    /// For a change of state; null for a layer that the table lacks.
+    Layer* find(NameKey name) { return contains(name) ? &layers_[byName_[indexOf(name)] - 1] : nullptr; }
 
   private:
     std::vector<Layer> layers_;

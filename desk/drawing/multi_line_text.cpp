@@ -39,15 +39,6 @@ void writeText(dxf::TagWriter& writer, std::string_view text) {
 
 }  // namespace
 
-bool hasEmbeddedText(const dxf::Format& format, std::string_view attribute) {
-    if (format.version < dxf::Version::R2018) return false;
-    dxf::TagReader reader({attribute, &format, {}}, 0, attribute.size());
-    for (dxf::Tag tag; reader.next(tag);) {
-        if (tag.code == 101) return true;
-    }
-    return false;
-}
-
 std::string withEmbeddedText(const dxf::Format& format, std::string_view attribute, std::string_view text) {
     return rewriteEmbedded(format, attribute, [&](const dxf::Tag& tag, dxf::TagWriter& writer) {
         if (tag.code == 1) writeText(writer, text);

@@ -6,7 +6,7 @@ namespace drawing {
 
 NameTable::NameTable() {
     texts_.emplace_back();
-    keys_.push_back(kNoName);
+    keys_.push_back(NameKey::None);
 }
 
 NameId NameTable::internRaw(std::string_view raw, const dxf::Encoding& encoding) {
@@ -29,13 +29,13 @@ NameId NameTable::intern(std::string_view text) {
     const auto id = static_cast<NameId>(texts_.size());
     texts_.emplace_back(text);
     byText_.emplace(texts_.back(), id);
-    keys_.push_back(byFolded_.try_emplace(basic::toLower(text), id).first->second);
+    keys_.push_back(byFolded_.try_emplace(basic::toLower(text), static_cast<NameKey>(id)).first->second);
     return id;
 }
 
-NameId NameTable::find(std::string_view text) const {
+NameKey NameTable::find(std::string_view text) const {
     const auto found = byFolded_.find(basic::toLower(text));
-    return found == byFolded_.end() ? kNoName : found->second;
+    return found == byFolded_.end() ? NameKey::None : found->second;
 }
 
 }  // namespace drawing

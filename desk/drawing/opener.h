@@ -54,8 +54,8 @@ class Opener {
     void fillBlock(BlockId block, const BlockRange& range);
     void fillSpaces();
     void addToBlock(BlockId block, EntityId id);
-    NameId nameKey(EntityId id) const { return store_.names.key(store_.record(id).name); }
-    void report(EntityId id, const std::string& reason);
+    NameKey nameKey(EntityId id) const { return store_.names.key(store_.record(id).name); }
+    void report(EntityId id, dxf::FindingKind kind, const std::string& reason);
     std::size_t offsetOf(EntityId id) const;
 
     std::unique_ptr<Drawing> drawing_;

@@ -3,6 +3,16 @@
 
 #include <algorithm>
 
+// What stands on the records, in an order in which each step finds what it needs: the handles; the spaces
+// that an old file lacks; the block records and layers of TABLES; the definitions of BLOCKS, by name to their
+// records; the layouts, by handle to theirs; the content of the definitions and, last, of the spaces.
+//
+// From R13 on a block is two things, an entry of the table of block records (handle, layout, owner of the
+// entities) and a definition in the BLOCKS section (base point, flags, content); in R12 the definition alone.
+// The spaces are blocks too: model space, and a paper space for each layout, of which one is active and has
+// its entities in the ENTITIES section, the others in their definitions (DXF Reference, "BLOCKS Section",
+// "BLOCK_RECORD").
+
 namespace drawing {
 
 namespace {
@@ -33,6 +43,7 @@ void classify(Block& block) {
 }  // namespace
 
 void Opener::readTables() {
+    // Names of blocks are compared by key: a BLOCK and its record may differ in case.
     drawing_->path_ = store_.source().path();
     drawing_->header_.setFormat(&store_.format());
     readHandles();
@@ -55,22 +66,26 @@ void Opener::readTables() {
 }
 
 void Opener::readHandles() {
+    // R12 says in $HANDLING whether it has handles; later versions always do. Of two objects with one handle
+    // the first keeps it, the second can't be found by it.
     Handle highest = 0;
     for (EntityId id = 0; id < store_.count(); ++id) {
         const Handle handle = store_.record(id).handle;
         if (handle == 0) continue;
         highest = std::max(highest, handle);
         if (store_.handles.add(handle, id)) continue;
-        report(id, "the handle is taken by an earlier object, which keeps it");
+        report(id, dxf::finding::kTakenHandle, "the handle is taken by an earlier object, which keeps it");
     }
     const bool declared = drawing_->header_.integer("$HANDLING").value_or(highest != 0 ? 1 : 0) != 0;
     store_.startHandles(store_.fileSeed, store_.format().hasSubclasses() || declared);
     if (store_.fileSeed != 0 && store_.fileSeed <= highest) {
-        scanner_.report(store_.seedValue.begin, store_.fileSeed, "$HANDSEED isn't above the highest handle");
+        scanner_.report(store_.seedValue.begin, store_.fileSeed, dxf::finding::kLowSeed,
+                        "$HANDSEED isn't above the highest handle");
     }
 }
 
 void Opener::addSpaces() {
+    // Only R12 may lack them. They come first then, as in the tables of later versions.
     bool model = false;
     bool paper = false;
     const auto note = [&](EntityId id) {
@@ -99,8 +114,9 @@ void Opener::addBlockRecord(EntityId id) {
     block.handle = store_.record(id).handle;
     block.record = id;
     block.name = store_.names.text(store_.record(id).name);
+    // The table's order is the one in which the host lists blocks.
     if (drawing_->blocks_.find(block.name) != kNoBlock) {
-        report(id, "a second block record of the name " + block.name);
+        report(id, dxf::finding::kSecondRecord, "a second block record of the name " + block.name);
         return;
     }
     classify(block);
@@ -108,6 +124,8 @@ void Opener::addBlockRecord(EntityId id) {
 }
 
 void Opener::addBlock(const BlockRange& range) {
+    // Group 2 is the block's name, 3 repeats it; 1 is the path of an external reference, 70 the flags (1
+    // anonymous, 2 has attribute definitions, 4 and 8 an external reference, 16 depends on one).
     Block content;
     bool named = false;
     dxf::TagReader reader = store_.reader(range.begin);
@@ -142,10 +160,12 @@ void Opener::addBlock(const BlockRange& range) {
     BlockId id = blocks.find(content.name);
     if (id == kNoBlock) {
         if (store_.format().hasSubclasses())
-            report(range.begin, "the block has no block record: " + content.name);
+            report(range.begin, dxf::finding::kNoBlockRecord,
+                   "the block has no block record: " + content.name);
         id = blocks.add(content);
     } else if (blocks[id].begin != kNoEntity) {
-        report(range.begin, "a second definition of the block " + content.name + ", which isn't used");
+        report(range.begin, dxf::finding::kSecondDefinition,
+               "a second definition of the block " + content.name + ", which isn't used");
         return;
     }
     Block& block = blocks[id];
@@ -157,6 +177,7 @@ void Opener::addBlock(const BlockRange& range) {
 }
 
 void Opener::addLayer(EntityId id) {
+    // Colour and state alone; all else of a layer is asked of its record.
     Layer layer;
     layer.record = id;
     layer.name = store_.names.text(store_.record(id).name);
@@ -165,6 +186,8 @@ void Opener::addLayer(EntityId id) {
 }
 
 void Opener::readLayout(EntityId id) {
+    // Group 1 of AcDbLayout is the tab's name, 330 there the block record of its space; 330 in front of the
+    // marker is the owner of the object (DXF Reference, "LAYOUT").
     std::string name;
     Handle space = 0;
     bool inLayout = false;
@@ -183,10 +206,12 @@ void Opener::readLayout(EntityId id) {
 }
 
 void Opener::fillBlock(BlockId block, const BlockRange& range) {
+    // What stands between BLOCK and ENDBLK, parts passed over: the content in drawing order.
     for (EntityId id = range.begin + 1; id < range.last; ++id) addToBlock(block, id);
 }
 
 void Opener::fillSpaces() {
+    // There may be several ENTITIES sections in files that programs joined.
     const BlockTable& blocks = drawing_->blocks_;
     for (const EntityRange& range : entityRanges_) {
         for (EntityId id = range.first; id < range.last; ++id) {
@@ -196,6 +221,7 @@ void Opener::fillSpaces() {
 }
 
 void Opener::addToBlock(BlockId id, EntityId entity) {
+    // A stray attribute or vertex is kept in the file, but belongs to nothing that could show it.
     Record& record = store_.whileReading(entity);
     if (record.has(kPart) || record.has(kStray)) return;
     Block& block = drawing_->blocks_[id];
@@ -204,10 +230,11 @@ void Opener::addToBlock(BlockId id, EntityId entity) {
     if (block.isLayout()) {
         store_.indexName(entity);
         if (record.type == kInsert && drawing_->blocks_.ofName(nameKey(entity)) == kNoBlock) {
-            report(entity,
+            report(entity, dxf::finding::kMissingBlock,
                    "a reference of a block that the drawing lacks: " + store_.names.text(record.name));
         }
     } else if (record.type == kAttDef) {
+        // A constant attribute is text of the block and makes no attribute of its references.
         if (drawing_->attribute(entity).isConstant()) {
             block.hasConstantAttributes = true;
         } else {

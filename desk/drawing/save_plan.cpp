@@ -1,14 +1,30 @@
 #include "desk/drawing/save_plan.h"
 
-#include "desk/dxf/file.h"
+#include "desk/drawing/inside.h"
 #include "desk/dxf/tag_writer.h"
 
 #include <algorithm>
 
+// A drawing is saved as a list of pieces, ranges of bytes in the order of the new file. Most are stretches of
+// the old file, from the end of one change to the beginning of the next; that is what keeps what nobody
+// touched to the byte and makes saving as quick as copying. The way there:
+//   1. Everything that differs from the old file becomes a patch: a range of the old file (empty, where
+//   something
+//      comes in) and the new pieces that stand in its place (none, where something goes).
+//   2. The patches are brought into the order of the file. Records of the file make theirs in order already;
+//   what
+//      goes to the end of a table or a section comes later and has to be sorted in. Patches at one place keep
+//      the order in which they were made.
+//   3. Old stretches and new pieces are joined.
+// The rules of the file that this obeys are those of the DXF Reference, "DXF File Structure" and "Group
+// Codes": a section's objects follow one another without gaps, so that a change touches no byte of its
+// neighbours.
+
 namespace drawing {
 
-SavePlan::SavePlan(const Drawing& drawing) : drawing_(drawing), store_(drawing.store()) {
+SavePlan::SavePlan(const Drawing& drawing) : drawing_(drawing), store_(Inside::store(drawing)) {
     patchSeed();
+    patchVariables();
     patchRecords();
     addOthers();
     addEntities();
@@ -35,6 +51,9 @@ void SavePlan::addPiece(std::string_view bytes) {
 }
 
 void SavePlan::patchSeed() {
+    // $HANDSEED is the next handle to give (DXF Reference, "HEADER Section"); a program that believes an old
+    // one would give a handle twice. A file without handles has no seed, and an undone or unchanged drawing
+    // keeps its.
     const FileRange& value = store_.seedValue;
     if (value.begin == value.end || store_.nextHandle() == store_.firstHandle()) return;
     dxf::TagWriter(store_.format(), own()).handle(5, store_.nextHandle());
@@ -42,7 +61,29 @@ void SavePlan::patchSeed() {
     addPiece(owned_.back());
 }
 
+void SavePlan::patchVariables() {
+    const HeaderVariables& header = drawing_.header();
+    const char* const file = store_.source().bytes().data();
+    std::string& added = own();
+    for (const HeaderVariables::Entry& variable : header.changes()) {
+        if (const HeaderVariables::Entry* old = header.findInFile(variable.name)) {
+            const auto begin = static_cast<std::size_t>(old->bytes.data() - file);
+            beginPatch(begin, begin + old->bytes.size());
+            addPiece(variable.bytes);
+        } else {
+            dxf::TagWriter(store_.format(), added).plain(9, variable.name);
+            added += variable.bytes;
+        }
+    }
+    if (added.empty()) return;
+    const std::size_t end = store_.outline.find(dxf::SectionKind::Header)->bodyEnd;
+    beginPatch(end, end);
+    addPiece(added);
+}
+
 void SavePlan::patchRecords() {
+    // Only records of the file are looked at: an erased one leaves a gap, a changed one stands in its own
+    // place. Parts need no care of their own, they have records like any other.
     bool anyErased = false;
     for (EntityId id = 0; id < store_.fileCount(); ++id) {
         const Record& record = store_.record(id);
@@ -89,13 +130,17 @@ void SavePlan::addRecord(EntityId id) {
 
 void SavePlan::addOthers() {
     bool hasBlocks = false;
+    // New table entries go in front of the ENDTAB of their table. New definitions go to the end of the BLOCKS
+    // section: BLOCK, content and ENDBLK were added in that order, nested definitions before those that name
+    // them.
     for (const Addition& addition : store_.additions) {
         hasBlocks = hasBlocks || addition.place == Place::Blocks;
-        if (addition.place != Place::BeforeRecord) continue;
+        if (addition.place != Place::BeforeRecord || addition.before >= store_.fileCount()) continue;
         const std::size_t offset = store_.fileRange(addition.before).begin;
         beginPatch(offset, offset);
         addRecord(addition.id);
     }
+    addTables();
     if (!hasBlocks) return;
     const bool isNew = beginAddition(dxf::SectionKind::Blocks, "BLOCKS");
     for (const Addition& addition : store_.additions) {
@@ -104,17 +149,39 @@ void SavePlan::addOthers() {
     if (isNew) endSection();
 }
 
+void SavePlan::addTables() {
+    bool isNew = false;
+    bool begun = false;
+    for (const Addition& table : store_.additions) {
+        if (table.place != Place::Tables) continue;
+        if (!begun) isNew = beginAddition(dxf::SectionKind::Tables, "TABLES");
+        begun = true;
+        addRecord(table.id);
+        for (const Addition& entry : store_.additions) {
+            const bool isIts = entry.place == Place::BeforeRecord && entry.before == table.before;
+            if (isIts) addRecord(entry.id);
+        }
+        addRecord(table.before);
+    }
+    if (isNew) endSection();
+}
+
 bool SavePlan::beginAddition(dxf::SectionKind kind, std::string_view name) {
-    // The order of sections is that of the format: BLOCKS, ENTITIES, OBJECTS.
+    // A file of R12 may do without any of these sections. Then it is opened in front of the first one that
+    // has to come later; behind the last it would stand behind the end of the file. The order of sections is
+    // that of the format: TABLES, BLOCKS, ENTITIES, OBJECTS.
     const dxf::Section* section = store_.outline.find(kind);
     const dxf::Section* next = nullptr;
-    if (kind == dxf::SectionKind::Blocks) next = store_.outline.find(dxf::SectionKind::Entities);
+    if (kind == dxf::SectionKind::Tables) next = store_.outline.find(dxf::SectionKind::Blocks);
+    const bool isEarly = kind == dxf::SectionKind::Tables || kind == dxf::SectionKind::Blocks;
+    if (next == nullptr && isEarly) next = store_.outline.find(dxf::SectionKind::Entities);
     if (next == nullptr) next = store_.outline.find(dxf::SectionKind::Objects);
     const std::size_t offset = section != nullptr ? section->bodyEnd
                                : next != nullptr  ? next->begin
                                                   : store_.outline.eof;
     beginPatch(offset, offset);
     const std::string_view file = store_.source().bytes();
+    // The last line of a file that something cut off has no end of its own.
     const bool lineIsOpen = !store_.format().binary && offset > 0 && file[offset - 1] != '\n';
     if (lineIsOpen) addPiece(store_.format().newline());
     if (section != nullptr) return false;
@@ -131,6 +198,7 @@ void SavePlan::endSection() {
 }
 
 void SavePlan::addEntities() {
+    // New entities are those of model space with numbers behind the file's. They rise in drawing order.
     const std::vector<EntityId>& entities = drawing_.blocks()[drawing_.modelSpace()].entities;
     const auto first = std::find_if(std::lower_bound(entities.begin(), entities.end(), store_.fileCount()),
                                     entities.end(), [this](EntityId id) { return !store_.isErased(id); });
@@ -142,6 +210,7 @@ void SavePlan::addEntities() {
 }
 
 void SavePlan::joinPieces() {
+    // Patches never overlap but at their ends: `position` is how far the old file is dealt with.
     pieces_.reserve(newPieces_.size() + patches_.size() + 1);
     const std::string_view file = store_.source().bytes();
     std::size_t position = 0;
@@ -156,20 +225,6 @@ void SavePlan::joinPieces() {
         position = std::max(position, patch.end);
     }
     copyUpTo(file.size());
-}
-
-void Drawing::save(const std::string& path) {
-    const SavePlan plan(*this);
-    dxf::saveAtomically(path, plan.pieces());
-    path_ = path;
-    savedState_ = state_;
-}
-
-std::string Drawing::savedBytes() const {
-    std::string bytes;
-    const SavePlan plan(*this);
-    for (std::string_view piece : plan.pieces()) bytes += piece;
-    return bytes;
 }
 
 }  // namespace drawing

@@ -28,10 +28,12 @@ class SavePlan {
     };
 
     void patchSeed();
+    void patchVariables();
     void patchRecords();
     void patchGroup(EntityId id);
     void addEntities();
     void addOthers();
+    void addTables();
     /// Begins a patch at the end of a section; true where the file lacks it and it was opened.
     bool beginAddition(dxf::SectionKind kind, std::string_view name);
     void endSection();

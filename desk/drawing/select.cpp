@@ -1,6 +1,5 @@
 #include "desk/drawing/compiled_filter.h"
-#include "desk/drawing/drawing.h"
-#include "desk/drawing/store.h"
+#include "desk/drawing/inside.h"
 
 #include <algorithm>
 
@@ -9,7 +8,7 @@ namespace drawing {
 namespace {
 
 bool isInSpace(const Drawing& drawing, EntityId id) {
-    const Record& record = drawing.store().record(id);
+    const Record& record = Inside::store(drawing).record(id);
     return !record.has(kPart) && record.owner != kNoBlock && drawing.blocks()[record.owner].isLayout() &&
            !record.has(kErased);
 }
@@ -23,7 +22,7 @@ std::vector<EntityId> Drawing::select(const Filter& filter) const {
         if (isInSpace(*this, id) && compiled.passes(id)) found.push_back(id);
     };
     if (compiled.names()) {
-        for (NameId name : *compiled.names()) {
+        for (NameKey name : *compiled.names()) {
             for (EntityId id : store_->named(name)) take(id);
         }
         if (compiled.names()->size() > 1) std::sort(found.begin(), found.end());

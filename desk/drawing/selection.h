@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desk/drawing/ids.h"
-#include "desk/drawing/vector.h"
+#include "desk/drawing/placement.h"
 
 #include <cstdint>
 #include <string>

@@ -31,6 +31,7 @@ FileRange Store::fileRange(EntityId id) const {
 }
 
 Record& Store::change(EntityId id) {
+    journal.note(id);
     Record& record = records_[id];
     StepLog& log = step();
     if (id < log.firstNew && !record.has(kLogged)) {
@@ -67,6 +68,7 @@ EntityId Store::add(Record record, std::string_view bytes) {
     records_.push_back(record);
     const EntityId id = count() - 1;
     if (record.handle != 0) handles.put(record.handle, id);
+    journal.note(id);
     return id;
 }
 
@@ -83,38 +85,56 @@ std::uint16_t Store::internType(std::string_view name) {
 
 void Store::startHandles(Handle seed, bool use) {
     usesHandles_ = use;
-    firstHandle_ = nextHandle_ = std::max({seed, highestHandle_ + 1, Handle{1}});
+    // Behind the highest handle of all there is none: the gaps have to do.
+    const Handle behind = highestHandle_ <= kHighestHandle ? highestHandle_ + 1 : highestHandle_;
+    firstHandle_ = nextHandle_ = std::max({seed, behind, Handle{1}});
 }
 
-const std::vector<EntityId>& Store::named(NameId name) const {
+Handle Store::takeFromGap(std::size_t count) {
+    // Fewer objects than handles below the highest one, so there is always a gap, and soon.
+    std::size_t run = 0;
+    while (run < count) {
+        run = handles.find(gap_) == kNoEntity ? run + 1 : 0;
+        ++gap_;
+    }
+    return gap_ - count;
+}
+
+const std::vector<EntityId>& Store::named(NameKey name) const {
     static const std::vector<EntityId> kNone;
-    return name < named_.size() ? named_[name] : kNone;
+    if (indexOf(name) >= named_.size()) return kNone;
+    NamedList& list = named_[indexOf(name)];
+    if (!list.isTidy) tidy(list, name);
+    return list.ids;
+}
+
+void Store::tidy(NamedList& list, NameKey name) const {
+    std::erase_if(list.ids, [&](EntityId id) { return names.key(records_[id].name) != name; });
+    if (!std::is_sorted(list.ids.begin(), list.ids.end())) std::sort(list.ids.begin(), list.ids.end());
+    list.ids.erase(std::unique(list.ids.begin(), list.ids.end()), list.ids.end());
+    list.isTidy = true;
 }
 
 void Store::indexName(EntityId id) {
-    const NameId name = names.key(records_[id].name);
+    const std::size_t name = indexOf(names.key(records_[id].name));
     if (name == kNoName) return;
-    if (name >= named_.size()) named_.resize(std::max<std::size_t>(names.size(), name + 1));
-    std::vector<EntityId>& list = named_[name];
-    const bool isLast = list.empty() || list.back() < id;
-    list.insert(isLast ? list.end() : std::lower_bound(list.begin(), list.end(), id), id);
+    if (name >= named_.size()) named_.resize(std::max(names.size(), name + 1));
+    NamedList& list = named_[name];
+    if (!list.ids.empty() && list.ids.back() >= id) list.isTidy = false;
+    list.ids.push_back(id);
 }
 
 void Store::unindexNewest(EntityId id) {
-    const std::vector<EntityId>& list = named(names.key(records_[id].name));
-    if (!list.empty() && list.back() == id) unindexName(id);
+    const std::size_t name = indexOf(names.key(records_[id].name));
+    if (name == kNoName || name >= named_.size()) return;
+    std::vector<EntityId>& list = named_[name].ids;
+    if (!list.empty() && list.back() == id) list.pop_back();
 }
 
 void Store::unindexName(EntityId id) {
-    const NameId name = names.key(records_[id].name);
-    if (name == kNoName || name >= named_.size()) return;
-    std::vector<EntityId>& list = named_[name];
-    if (!list.empty() && list.back() == id) {
-        list.pop_back();
-        return;
-    }
-    const auto found = std::lower_bound(list.begin(), list.end(), id);
-    if (found != list.end() && *found == id) list.erase(found);
+    unindexNewest(id);
+    const std::size_t name = indexOf(names.key(records_[id].name));
+    if (name != kNoName && name < named_.size()) named_[name].isTidy = false;
 }
 
 }  // namespace drawing

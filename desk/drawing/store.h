@@ -3,6 +3,8 @@
 #include "desk/drawing/block_table.h"
 #include "desk/drawing/byte_arena.h"
 #include "desk/drawing/handle_index.h"
+#include "desk/drawing/header_variables.h"
+#include "desk/drawing/journal.h"
 #include "desk/drawing/layer_table.h"
 #include "desk/drawing/name_table.h"
 #include "desk/drawing/record.h"
@@ -21,6 +23,7 @@ namespace drawing {
 
 /// The old state of what one undo step changes.
 struct StepLog {
+    std::string name;       ///< what the user did, as undo and redo show it; empty for none
     EntityId firstNew = 0;  ///< records from here on were made in the step
     Handle nextHandle = 0;
     std::uint64_t state = 0;    ///< the drawing's before the step
@@ -28,20 +31,43 @@ struct StepLog {
     std::vector<std::pair<EntityId, Record>> records;
     std::vector<std::pair<BlockId, Block>> blocks;  ///< changed ones
     std::size_t blockCount = 0;
-    std::vector<NameId> layers;  ///< added ones
+    std::vector<NameKey> layers;  ///< added ones
+    /// Changed variables of the header with what was set before.
+    std::vector<std::pair<std::string, HeaderVariables::Value>> variables;
 
     bool isEmpty(EntityId recordCount) const {
-        return records.empty() && blocks.empty() && layers.empty() && firstNew == recordCount;
+        return records.empty() && blocks.empty() && layers.empty() && variables.empty() &&
+               firstNew == recordCount;
     }
 };
 
 /// Where in the file a record goes that doesn't belong to a space.
-enum class Place { BeforeRecord, Blocks };
-/// Such a record: in front of another one of the file, or at the end of the BLOCKS section.
+enum class Place { BeforeRecord, Blocks, Tables };
+/// Such a record: in front of another one, at the end of the BLOCKS section, or (a TABLE that the file lacks)
+/// at the end of TABLES.
 struct Addition {
     Place place;
-    EntityId before;  ///< of BeforeRecord
+    EntityId before;  ///< of BeforeRecord; of Tables the table's ENDTAB
     EntityId id;
+};
+
+/// What brings a step back that was undone. It holds copies of the bytes, since undoing gives theirs up.
+struct UndoneStep {
+    struct After {
+        EntityId id;
+        Record record;
+        std::string bytes;
+        bool ownsBytes;  ///< false: the record's bytes are still where they were
+    };
+    StepLog log;
+    std::vector<After> records;
+    std::vector<std::pair<BlockId, Block>> blocks;
+    std::vector<std::pair<NameKey, Layer>> layers;
+    std::vector<std::pair<std::string, HeaderVariables::Value>> variables;  ///< the last change first
+    std::vector<Addition> additions;
+    std::vector<EntityId> entities;  ///< new ones of model space
+    Handle nextHandle = 0;
+    std::uint64_t state = 0;
 };
 
 /// A range of the file's bytes.
@@ -96,9 +122,11 @@ class Store {
     std::uint16_t internType(std::string_view name);
     std::string_view typeName(std::uint16_t type) const { return types_.text(type); }
 
-    /// The first of `count` handles in a row that no object has; 0 where the drawing has no handles.
+    /// The first of `count` handles in a row that no object has; 0 where the drawing has no handles. A
+    /// drawing that uses the highest handles gets those of its gaps.
     Handle takeHandles(std::size_t count) {
         if (!usesHandles_) return 0;
+        if (nextHandle_ > kHighestHandle - count) return takeFromGap(count);
         const Handle first = nextHandle_;
         nextHandle_ += count;
         return first;
@@ -112,8 +140,9 @@ class Store {
     void startHandles(Handle seed, bool use);
 
     /// Entities of a name (group 2, its key) in the spaces, in drawing order; erased ones may be among them.
-    const std::vector<EntityId>& named(NameId name) const;
+    const std::vector<EntityId>& named(NameKey name) const;
     void indexName(EntityId id);
+    /// Before its name changes.
     void unindexName(EntityId id);
     /// The same if the entity is the last of its name; else it stays listed among the erased ones.
     void unindexNewest(EntityId id);
@@ -129,6 +158,7 @@ class Store {
     StepLog& step() { return steps_.back(); }
     bool isNewInStep(EntityId id) const { return stepIsOpen() && id >= steps_.back().firstNew; }
 
+    Journal journal;
     dxf::Findings findings;
     dxf::Outline outline;
     NameTable names;
@@ -139,6 +169,17 @@ class Store {
 
   private:
     friend class Drawing;
+    /// $HANDSEED, the handle to give next, has to be a handle too.
+    static constexpr Handle kHighestHandle = 0xFFFFFFFFFFFFFFFE;
+    Handle takeFromGap(std::size_t count);
+
+    /// Entities of a name. Renaming thousands mustn't shift the list each time: what left the name stays
+    /// listed, and what came is put at the end, until the list is asked for.
+    struct NamedList {
+        std::vector<EntityId> ids;
+        bool isTidy = true;  ///< in rising order, without doubles, all of this name
+    };
+    void tidy(NamedList& list, NameKey name) const;
 
     TagEdit tagEdit_;
     dxf::Source source_;
@@ -146,13 +187,15 @@ class Store {
     EntityId fileCount_ = 0;
     NameTable types_;
     ByteArena arena_;
-    std::vector<std::vector<EntityId>> named_;
+    mutable std::vector<NamedList> named_;               ///< by key; tidied when asked for
     std::unordered_map<EntityId, FileRange> originals_;  ///< file ranges of changed records
     Handle nextHandle_ = 1;
     Handle firstHandle_ = 1;
     Handle highestHandle_ = 0;
+    Handle gap_ = 1;  ///< where the search for gaps goes on
     bool usesHandles_ = true;
     std::vector<StepLog> steps_;
+    std::vector<UndoneStep> undone_;  ///< the last one undone at the end; none after another edit
     int depth_ = 0;
 };
 

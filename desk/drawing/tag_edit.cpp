@@ -81,6 +81,14 @@ std::string_view TagEdit::apply(std::string_view entity) {
     return result_;
 }
 
+std::string_view TagEdit::applyAt(std::string_view entity, std::size_t begin, std::size_t end) {
+    result_.assign(entity, 0, begin);
+    result_ += values_;
+    result_ += entity.substr(end);
+    clear();
+    return result_;
+}
+
 void TagEdit::clear() {
     values_.clear();
     edits_.clear();

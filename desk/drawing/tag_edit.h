@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desk/drawing/vector.h"
+#include "desk/drawing/placement.h"
 #include "desk/dxf/tag_reader.h"
 #include "desk/dxf/tag_writer.h"
 
@@ -33,6 +33,8 @@ class TagEdit {
 
     /// The entity's groups with the new values; valid until the next call. The edit is then empty again.
     std::string_view apply(std::string_view entity);
+    /// The same where the one new value is known to take the place of a range.
+    std::string_view applyAt(std::string_view entity, std::size_t begin, std::size_t end);
 
   private:
     struct Edit {

@@ -1,8 +1,7 @@
 #include "desk/dxf/code_page_table.h"
 
 #include "basic/text.h"
-
-#include <iconv.h>
+#include "desk/dxf/code_page_converter.h"
 
 namespace dxf {
 
@@ -32,42 +31,6 @@ constexpr PageName kPages[] = {
     {"ascii", "CP1252"},
 };
 
-/// The system's converter from one code page to UTF-16.
-class Converter {
-  public:
-    explicit Converter(const char* name) : handle_(iconv_open("UTF-16LE", name)) {}
-    ~Converter() {
-        if (isOpen()) iconv_close(handle_);
-    }
-    Converter(const Converter&) = delete;
-    Converter& operator=(const Converter&) = delete;
-
-    bool isOpen() const {
-        // POSIX says "no converter" by that very value. NOLINTNEXTLINE(performance-no-int-to-ptr)
-        return handle_ != reinterpret_cast<iconv_t>(-1);
-    }
-
-    /// The character that the bytes are alone, or 0.
-    char16_t character(std::string_view bytes) {
-        if (!isOpen()) return 0;
-        char in[2] = {bytes[0], bytes.size() > 1 ? bytes[1] : '\0'};
-        unsigned char out[8];
-        char* inAt = in;
-        char* outAt = reinterpret_cast<char*>(out);
-        std::size_t inLeft = bytes.size();
-        std::size_t outLeft = sizeof out;
-        iconv(handle_, nullptr, nullptr, nullptr, nullptr);
-        const bool converted = iconv(handle_, &inAt, &inLeft, &outAt, &outLeft) == 0;
-        // Pages with combining accents hold a letter back until they are told that no more comes.
-        iconv(handle_, nullptr, nullptr, &outAt, &outLeft);
-        if (!converted || inLeft != 0 || outLeft != sizeof out - 2) return 0;
-        return static_cast<char16_t>(out[0] | (out[1] << 8));
-    }
-
-  private:
-    iconv_t handle_;
-};
-
 void define(Encoding::Table& table, std::uint16_t bytes, char16_t character) {
     if (character == 0) return;
     // Where two byte sequences are one character, the first is what is written.
@@ -87,7 +50,7 @@ void defineThaiPunctuation(Encoding::Table& table) {
     for (const auto& [byte, character] : kAdded) define(table, byte, character);
 }
 
-void definePairs(Encoding::Table& table, Converter& converter) {
+void definePairs(Encoding::Table& table, CodePageConverter& converter) {
     table.pairs.resize(0x10000);
     for (unsigned lead = 0x80; lead < 0x100; ++lead) {
         if (table.single[lead] != 0) continue;
@@ -116,7 +79,7 @@ std::shared_ptr<const Encoding::Table> makeTable(const char* converterName) {
     for (unsigned byte = 0; byte < 0x80; ++byte)
         define(*table, static_cast<std::uint16_t>(byte), static_cast<char16_t>(byte));
 
-    Converter converter(converterName);
+    CodePageConverter converter(converterName);
     for (unsigned byte = 0x80; byte < 0x100; ++byte) {
         const char text = static_cast<char>(byte);
         define(*table, static_cast<std::uint16_t>(byte), converter.character({&text, 1}));
@@ -140,7 +103,7 @@ char32_t multiByteCharacter(int page, std::uint16_t bytes) {
     constexpr const char* kConverters[] = {"CP932", "BIG5", "UHC", "JOHAB", "GBK"};
     if (page < 1 || page > 5) return 0;
     const char text[2] = {static_cast<char>(bytes >> 8), static_cast<char>(bytes & 0xFF)};
-    Converter converter(kConverters[page - 1]);
+    CodePageConverter converter(kConverters[page - 1]);
     return bytes < 0x100 ? converter.character({text + 1, 1}) : converter.character({text, 2});
 }
 

@@ -8,9 +8,9 @@ namespace dxf {
 /// What the value of a group is, by its group code, after the DXF reference's table of group code ranges. In
 /// an ASCII file all are text; in a binary one the type decides how many bytes the value takes.
 enum class ValueType : std::uint8_t {
-    String,  ///< text, ended by a zero byte in binary files
-    Handle,  ///< hexadecimal text
-    Double,  ///< 64-bit float
+    String,      ///< text, ended by a zero byte in binary files
+    HandleText,  ///< hexadecimal text
+    Double,      ///< 64-bit float
     Int16,
     Int32,
     Int64,

@@ -15,7 +15,7 @@ unsigned char asByte(char character) { return static_cast<unsigned char>(charact
 /// second byte of a character, which the decoding itself finds out.
 bool needsDecoding(std::string_view raw, bool utf8) {
     for (const char character : raw)
-        if (character == '\\' || (!utf8 && asByte(character) >= 0x80)) return true;
+        if (character == '\\' || character == '^' || (!utf8 && asByte(character) >= 0x80)) return true;
     return false;
 }
 
@@ -48,6 +48,19 @@ std::size_t multiByteEscape(std::string_view raw, std::size_t at, char32_t& char
         return 0;
     character = multiByteCharacter(raw[at + 3] - '0', static_cast<std::uint16_t>(bytes));
     return character < 0x20 ? 0 : 8;
+}
+
+/// ^I and its like, and the caret itself, which is "^ ". A caret before anything else stands for itself.
+std::size_t caretEscape(std::string_view raw, std::size_t at, char32_t& character) {
+    const char next = at + 1 < raw.size() ? raw[at + 1] : '\0';
+    if (next == ' ') {
+        character = '^';
+    } else if (next > '@' && next <= '_') {
+        character = static_cast<char32_t>(next - '@');
+    } else {
+        return 0;
+    }
+    return 2;
 }
 
 /// One character of the file's bytes, escapes aside, appended as UTF-8. Returns how many bytes it took.
@@ -120,6 +133,8 @@ std::string_view Encoding::decode(std::string_view raw, std::string& scratch) co
         if (raw[at] == '\\') {
             length = unicodeEscape(raw, at, character);
             if (length == 0) length = multiByteEscape(raw, at, character);
+        } else if (raw[at] == '^') {
+            length = caretEscape(raw, at, character);
         }
         if (length != 0)
             basic::appendCharacter(scratch, character);
@@ -136,14 +151,23 @@ std::string Encoding::decode(std::string_view raw) const {
 }
 
 void Encoding::encode(std::string_view text, std::string& bytes) const {
+    const auto isPlain = [&](char character) {
+        const unsigned char byte = asByte(character);
+        return byte >= 0x20 && character != '^' && (byte < 0x80 || isUtf8());
+    };
     for (std::size_t at = 0; at < text.size();) {
+        std::size_t end = at;
+        while (end < text.size() && isPlain(text[end])) ++end;
+        bytes.append(text, at, end - at);
+        at = end;
+        if (at == text.size()) break;
         const unsigned char byte = asByte(text[at]);
-        if (byte < 0x20) {
+        if (byte == '^') {
+            bytes += "^ ";
+            ++at;
+        } else if (byte < 0x20) {
             bytes.push_back('^');
             bytes.push_back(static_cast<char>(byte + 0x40));
-            ++at;
-        } else if (byte < 0x80 || isUtf8()) {
-            bytes.push_back(text[at]);
             ++at;
         } else {
             encodeOne(*table_, basic::nextCharacter(text, at), bytes);

@@ -22,13 +22,14 @@ class Encoding {
     bool sameAs(const Encoding& other) const { return name_ == other.name_; }
 
     /// Text bytes of a file as UTF-8, with the escapes \U+XXXX and \M+nXXXX taken as their characters (but
-    /// those of control characters stay). Bytes that stand for nothing are kept. Control escapes such as ^J
-    /// stay as they are. Returns `raw` itself where nothing needs decoding, else a view of `scratch`.
+    /// those of control characters stay) and ^I, ^J and their like as the control characters, "^ " as the
+    /// caret. Bytes that stand for nothing are kept. Returns `raw` itself where nothing needs decoding, else
+    /// a view of `scratch`.
     std::string_view decode(std::string_view raw, std::string& scratch) const;
     std::string decode(std::string_view raw) const;
 
     /// Appends UTF-8 text as bytes for a file: a character that the encoding lacks as \U+XXXX, a control
-    /// character as its ^ escape, so that a value never breaks its line.
+    /// character as its ^ escape, so that a value never breaks its line, a caret as "^ ".
     void encode(std::string_view text, std::string& bytes) const;
     std::string encode(std::string_view text) const;
 

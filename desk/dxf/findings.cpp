@@ -23,8 +23,9 @@ void Findings::resolve(std::string_view bytes, bool binary) {
 }
 
 std::string toText(const Finding& finding) {
-    std::string text =
-        finding.line != 0 ? std::to_string(finding.line) : "byte " + std::to_string(finding.offset);
+    std::string text(finding.kind.code);
+    text +=
+        finding.line != 0 ? " " + std::to_string(finding.line) : " byte " + std::to_string(finding.offset);
     text += ": ";
     if (finding.handle != 0) text += "handle " + handleText(finding.handle) + ": ";
     return text + finding.reason;

@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <string_view>
 
 namespace dxf {
@@ -13,6 +14,14 @@ void appendNumber(std::string& text, double value) {
     if (value == 0) value = 0;  // a drawing has no negative zero
     char buffer[48];
     const double size = std::fabs(value);
+    // Whole numbers, like most heights and quarter turns, need no search for the shortest digits.
+    if (size < 1e9 && value == static_cast<double>(static_cast<std::int64_t>(value))) {
+        char* const end = std::to_chars(buffer, buffer + sizeof buffer, static_cast<std::int64_t>(value)).ptr;
+        end[0] = '.';
+        end[1] = '0';
+        text.append(buffer, static_cast<std::size_t>(end - buffer) + 2);
+        return;
+    }
     const bool plain = size == 0 || (size >= 1e-5 && size < 1e16);
     const auto format = plain ? std::chars_format::fixed : std::chars_format::scientific;
     const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value, format);

@@ -42,21 +42,23 @@ Scanner::Scanner(const TagSource& source, Mode mode, Findings& findings)
     : reader_(source), mode_(mode), findings_(findings) {
     const Format& format = *source.format;
     if (!format.versionName.empty() && !isKnownVersion(format.versionName))
-        report(format.start, 0,
+        report(format.start, 0, finding::kVersion,
                "version " + quoted(format.versionName) + " is read as " +
                    std::string(versionName(format.version)));
     if (format.version < Version::R2007 && !format.codePageName.empty() &&
         !Encoding::isKnown(format.codePageName))
-        report(format.start, 0, "code page " + quoted(format.codePageName) + " is read as ANSI_1252");
+        report(format.start, 0, finding::kCodePage,
+               "code page " + quoted(format.codePageName) + " is read as ANSI_1252");
 }
 
-void Scanner::report(std::size_t offset, Handle handle, std::string reason) {
+void Scanner::report(std::size_t offset, Handle handle, FindingKind kind, std::string reason) {
     if (mode_ == Mode::Strict) reader_.source().fail(offset, reason);
-    findings_.add(offset, handle, std::move(reason));
+    findings_.add(offset, handle, kind, std::move(reason));
 }
 
 void Scanner::oddCode(const Tag& tag) {
-    report(tag.begin, 0, "group code " + std::to_string(tag.code) + " isn't one of the format's");
+    report(tag.begin, 0, finding::kGroupCode,
+           "group code " + std::to_string(tag.code) + " isn't one of the format's");
 }
 
 Event Scanner::betweenSections(Tag& tag) {
@@ -65,7 +67,7 @@ Event Scanner::betweenSections(Tag& tag) {
         if (tag.starts("EOF")) return finish(tag);
         if (tag.code != kComment && !strayReported_) {
             strayReported_ = true;
-            report(tag.begin, 0, "groups outside any section are passed over");
+            report(tag.begin, 0, finding::kStrayGroups, "groups outside any section are passed over");
         }
         const TagReader::Step step = reader_.advance(tag);
         if (step != TagReader::Step::Group) return outOfGroups(step, tag);
@@ -84,7 +86,7 @@ Event Scanner::beginSection(Tag& tag) {
     section.begin = begin;
     section.bodyBegin = tag.end;
     if (section.kind != SectionKind::Unknown && outline_.find(section.kind) != nullptr)
-        report(begin, 0, "a second section " + std::string(section.name));
+        report(begin, 0, finding::kSecondSection, "a second section " + std::string(section.name));
     kind_ = section.kind;
     inSection_ = true;
     outline_.sections.push_back(section);
@@ -109,7 +111,8 @@ Event Scanner::structure(Tag& tag) {
         if (!begins) return Event::Object;
     }
     const std::size_t offset = tag.begin;
-    report(offset, 0, "section " + std::string(outline_.sections.back().name) + " isn't ended by ENDSEC");
+    report(offset, 0, finding::kNoSectionEnd,
+           "section " + std::string(outline_.sections.back().name) + " isn't ended by ENDSEC");
     reader_.seek(offset);
     setEmpty(tag, offset, reader_.source());
     return endSection(offset, offset);
@@ -123,16 +126,16 @@ Event Scanner::outOfGroups(TagReader::Step step, Tag& tag) {
         const std::string text =
             "the file breaks off in section " + std::string(outline_.sections.back().name);
         if (!mayBreakOff(kind_)) source.fail(reader_.position(), text);
-        report(reader_.position(), 0, text);
+        report(reader_.position(), 0, finding::kBrokenOff, text);
         reader_.seek(size);
         setEmpty(tag, size, source);
         return endSection(size, size);
     }
     if (step == TagReader::Step::CutOff) {
-        report(reader_.position(), 0, "the file ends in the middle of a group");
+        report(reader_.position(), 0, finding::kCutOff, "the file ends in the middle of a group");
         reader_.seek(size);
     }
-    report(size, 0, "the file doesn't end with EOF");
+    report(size, 0, finding::kNoFileEnd, "the file doesn't end with EOF");
     setEmpty(tag, size, source);
     return finish(tag);
 }
@@ -147,7 +150,8 @@ Event Scanner::finish(Tag& tag) {
 void Scanner::reportMissingSections() {
     const std::size_t start = reader_.source().format->start;
     const auto need = [&](SectionKind kind, const char* name) {
-        if (outline_.find(kind) == nullptr) report(start, 0, std::string("there is no section ") + name);
+        if (outline_.find(kind) == nullptr)
+            report(start, 0, finding::kMissingSection, std::string("there is no section ") + name);
     };
     need(SectionKind::Header, "HEADER");
     if (reader_.source().format->hasSubclasses()) {

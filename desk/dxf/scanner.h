@@ -79,7 +79,7 @@ class Scanner {
     Outline takeOutline() { return std::move(outline_); }
 
     /// In strict mode raises the ReadError, in lenient mode lists a finding. For the scanner's driver too.
-    void report(std::size_t offset, Handle handle, std::string reason);
+    void report(std::size_t offset, Handle handle, FindingKind kind, std::string reason);
 
   private:
     static bool mayEndSection(std::string_view name) {

@@ -37,6 +37,20 @@ void appendAligned(std::string& bytes, std::int64_t value, std::size_t width) {
     bytes.append(digits, length);
 }
 
+/// The line of a group code.
+void appendCode(std::string& bytes, int code, const Format& format) {
+    if (code < 0 || code > 999) {
+        appendAligned(bytes, code, format.paddedCodes ? 3 : 0);
+        bytes += format.newline();
+        return;
+    }
+    const char line[5] = {code > 99 ? static_cast<char>('0' + code / 100) : ' ',
+                          code > 9 ? static_cast<char>('0' + code / 10 % 10) : ' ',
+                          static_cast<char>('0' + code % 10), format.carriageReturns ? '\r' : '\n', '\n'};
+    const std::size_t blanks = format.paddedCodes || code > 99 ? 0 : code > 9 ? 1 : 2;
+    bytes.append(line + blanks, (format.carriageReturns ? 5 : 4) - blanks);
+}
+
 std::string bytesFromHex(std::string_view hex) {
     std::string bytes;
     for (std::size_t at = 0; at + 2 <= hex.size(); at += 2) {
@@ -52,8 +66,7 @@ std::string bytesFromHex(std::string_view hex) {
 
 void TagWriter::code(int code) {
     if (!format_.binary) {
-        appendAligned(bytes_, code, format_.paddedCodes ? 3 : 0);
-        bytes_ += format_.newline();
+        appendCode(bytes_, code, format_);
     } else if (format_.wideCodes) {
         appendBytes(bytes_, static_cast<std::int16_t>(code));
     } else if (code >= 0 && code < 255) {
@@ -102,7 +115,7 @@ void TagWriter::integer(int code, std::int64_t value) {
     if (type == ValueType::Double) return number(code, static_cast<double>(value));
     const std::size_t before = bytes_.size();
     this->code(code);
-    if (!format_.binary || type == ValueType::String || type == ValueType::Handle ||
+    if (!format_.binary || type == ValueType::String || type == ValueType::HandleText ||
         type == ValueType::Chunk) {
         const bool padded = format_.paddedIntegers && !format_.binary;
         appendAligned(bytes_, value, !padded ? 0 : type == ValueType::Int32 ? 9 : 6);
@@ -158,7 +171,7 @@ void TagWriter::copy(const Tag& tag) {
         case ValueType::String:
             if (format_.encoding.sameAs(tag.format->encoding)) return rawText(tag.code, tag.raw);
             return text(tag.code, tag.text());
-        case ValueType::Handle:
+        case ValueType::HandleText:
             return rawText(tag.code, tag.raw);
         case ValueType::Double:
             if (!format_.binary && !tag.format->binary) return rawText(tag.code, tag.raw);

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace lisp {
 
@@ -115,33 +114,6 @@ Value largest(Call& call) {
         [](double a, double b) { return Value(std::fmax(a, b)); });
 }
 
-Value greatestDivisor(Call& call) {
-    const std::int64_t divisor = std::gcd(std::int64_t{call.integer(0)}, std::int64_t{call.integer(1)});
-    return wrapped(divisor);
-}
-
-Value bitAnd(Call& call) {
-    std::int32_t bits = -1;
-    for (std::size_t i = 0; i < call.size(); ++i) bits &= call.integer(i);
-    return call.size() == 0 ? Value(0) : Value(bits);
-}
-
-Value bitOr(Call& call) {
-    std::int32_t bits = 0;
-    for (std::size_t i = 0; i < call.size(); ++i) bits |= call.integer(i);
-    return bits;
-}
-
-Value bitNot(Call& call) { return ~call.integer(0); }
-
-/// (lsh n bits): to the left, or with negative bits to the right, zeros moving in.
-Value shift(Call& call) {
-    const auto number = static_cast<std::uint32_t>(call.integer(0));
-    const std::int32_t bits = call.integer(1);
-    if (bits <= -32 || bits >= 32) return Value(0);
-    return static_cast<std::int32_t>(bits >= 0 ? number << bits : number >> -bits);
-}
-
 Value isNumber(Call& call) { return call.truth(call[0].isNumber()); }
 Value isZero(Call& call) { return call.truth(call.number(0) == 0); }
 Value isMinus(Call& call) { return call.truth(call.number(0) < 0); }
@@ -150,23 +122,10 @@ Value isMinus(Call& call) { return call.truth(call.number(0) < 0); }
 
 SubrTable arithmeticFunctions() {
     static constexpr SubrEntry kTable[] = {
-        {"+", 0, -1, add},
-        {"-", 0, -1, subtract},
-        {"*", 0, -1, multiply},
-        {"/", 0, -1, divide},
-        {"REM", 0, -1, remainder},
-        {"1+", 1, 1, increment},
-        {"1-", 1, 1, decrement},
-        {"ABS", 1, 1, absolute},
-        {"MIN", 0, -1, smallest},
-        {"MAX", 0, -1, largest},
-        {"GCD", 2, 2, greatestDivisor},
-        {"LOGAND", 0, -1, bitAnd},
-        {"LOGIOR", 0, -1, bitOr},
-        {"~", 1, 1, bitNot},
-        {"LSH", 2, 2, shift},
-        {"NUMBERP", 1, 1, isNumber},
-        {"ZEROP", 1, 1, isZero},
+        {"+", 0, -1, add},         {"-", 0, -1, subtract},      {"*", 0, -1, multiply},
+        {"/", 0, -1, divide},      {"REM", 0, -1, remainder},   {"1+", 1, 1, increment},
+        {"1-", 1, 1, decrement},   {"ABS", 1, 1, absolute},     {"MIN", 0, -1, smallest},
+        {"MAX", 0, -1, largest},   {"NUMBERP", 1, 1, isNumber}, {"ZEROP", 1, 1, isZero},
         {"MINUSP", 1, 1, isMinus},
     };
     return kTable;

@@ -37,9 +37,12 @@ Value objectFrom(const Variant& value) {
     return Value(std::make_shared<ObjectBox>(ObjectBox{host::asObject(value)}));
 }
 
+/// Arrays and lists on their way to the host nest no deeper than this, so that their copies need no more
+/// stack than there is.
+constexpr int kDeepest = 100;
+
 /// A copy that shares no array with the original, so that an array put into itself makes no circle.
 Value copyOf(const SafeArray& array, int depth = 0) {
-    constexpr int kDeepest = 100;
     if (depth > kDeepest) throw LispError("safe arrays nested too deep");
     auto copy = std::make_shared<SafeArray>(array);
     for (Value& element : copy->elements) {
@@ -62,10 +65,10 @@ Value elementFrom(Interpreter& lisp, const Variant& element) {
 
 Value arrayFrom(Interpreter& lisp, const Variant& value) {
     auto array = std::make_shared<SafeArray>();
-    if (value.is(Variant::Kind::Doubles)) {
+    if (value.is(Variant::Kind::DoubleArray)) {
         array->type = kVtDouble;
         for (const double item : value.doubles()) array->elements.emplace_back(item);
-    } else if (value.is(Variant::Kind::Shorts)) {
+    } else if (value.is(Variant::Kind::ShortArray)) {
         array->type = kVtInteger;
         for (const std::int16_t item : value.shorts()) array->elements.emplace_back(std::int32_t{item});
     } else {
@@ -77,9 +80,9 @@ Value arrayFrom(Interpreter& lisp, const Variant& value) {
 
 Value listFrom(Interpreter& lisp, const Variant& value) {
     ListBuilder list;
-    if (value.is(Variant::Kind::Doubles)) {
+    if (value.is(Variant::Kind::DoubleArray)) {
         for (const double item : value.doubles()) list.add(item);
-    } else if (value.is(Variant::Kind::Shorts)) {
+    } else if (value.is(Variant::Kind::ShortArray)) {
         for (const std::int16_t item : value.shorts()) list.add(std::int32_t{item});
     } else {
         for (const Variant& item : value.array()) list.add(fromHost(lisp, item, Shape::Plain));
@@ -87,7 +90,9 @@ Value listFrom(Interpreter& lisp, const Variant& value) {
     return list.take();
 }
 
-Variant arrayTo(const SafeArray& array, Lists lists) {
+Variant toHost(const Value& value, Lists lists, int depth);
+
+Variant arrayTo(const SafeArray& array, Lists lists, int depth) {
     if (array.type == kVtDouble || array.type == kVtSingle) {
         basic::Doubles doubles;
         for (const Value& item : array.elements) doubles.push_back(item.number());
@@ -99,11 +104,11 @@ Variant arrayTo(const SafeArray& array, Lists lists) {
         return shorts;
     }
     basic::Array variants;
-    for (const Value& item : array.elements) variants.push_back(toHost(item, lists));
+    for (const Value& item : array.elements) variants.push_back(toHost(item, lists, depth + 1));
     return variants;
 }
 
-Variant listTo(const Value& list) {
+Variant listTo(const Value& list, int depth) {
     const std::vector<Value> items = listItems(list);
     if (std::all_of(items.begin(), items.end(), [](const Value& item) { return item.isNumber(); })) {
         basic::Doubles doubles;
@@ -111,7 +116,7 @@ Variant listTo(const Value& list) {
         return doubles;
     }
     basic::Array variants;
-    for (const Value& item : items) variants.push_back(toHost(item, Lists::AsArrays));
+    for (const Value& item : items) variants.push_back(toHost(item, Lists::AsArrays, depth + 1));
     return variants;
 }
 
@@ -120,6 +125,37 @@ Variant symbolTo(const Value& value, Lists lists) {
     if (symbol.isConstant) return symbol.name != ":VLAX-FALSE";
     if (lists == Lists::AsArrays) throw badArgumentType("variantp", value);
     return std::make_shared<LispObject>(value);
+}
+
+Variant toHost(const Value& value, Lists lists, int depth) {
+    if (depth > kDeepest) throw LispError("lists nested too deep for the host");
+    switch (value.kind()) {
+        case Value::Kind::Nil:
+            return {};
+        case Value::Kind::Integer:
+            return *value.integer();
+        case Value::Kind::Real:
+            return *value.real();
+        case Value::Kind::Text:
+            return *value.text();
+        case Value::Kind::Symbol:
+            return symbolTo(value, lists);
+        case Value::Kind::Variant: {
+            const VariantBox& box = *value.variant();
+            if (box.type == kVtInteger) return static_cast<std::int16_t>(*box.content.integer());
+            return toHost(box.content, lists, depth + 1);
+        }
+        case Value::Kind::SafeArray:
+            return arrayTo(*value.safeArray(), lists, depth);
+        case Value::Kind::Object:
+            if (!value.object()->object) throw LispError("object was released");
+            return value.object()->object;
+        default:
+            break;
+    }
+    if (lists == Lists::AsObjects) return std::make_shared<LispObject>(value);
+    if (value.cons() != nullptr) return listTo(value, depth);
+    throw badArgumentType("variantp", value);
 }
 
 }  // namespace
@@ -144,43 +180,15 @@ Value fromHost(Interpreter& lisp, const Variant& value, Shape shape) {
             return Value(value.text());
         case Variant::Kind::Object:
             return objectFrom(value);
-        case Variant::Kind::Array:
-        case Variant::Kind::Doubles:
-        case Variant::Kind::Shorts:
+        case Variant::Kind::VariantArray:
+        case Variant::Kind::DoubleArray:
+        case Variant::Kind::ShortArray:
             return shape == Shape::Plain ? listFrom(lisp, value) : arrayFrom(lisp, value);
     }
     return {};
 }
 
-Variant toHost(const Value& value, Lists lists) {
-    switch (value.kind()) {
-        case Value::Kind::Nil:
-            return {};
-        case Value::Kind::Integer:
-            return *value.integer();
-        case Value::Kind::Real:
-            return *value.real();
-        case Value::Kind::Text:
-            return *value.text();
-        case Value::Kind::Symbol:
-            return symbolTo(value, lists);
-        case Value::Kind::Variant: {
-            const VariantBox& box = *value.variant();
-            if (box.type == kVtInteger) return static_cast<std::int16_t>(*box.content.integer());
-            return toHost(box.content, lists);
-        }
-        case Value::Kind::SafeArray:
-            return arrayTo(*value.safeArray(), lists);
-        case Value::Kind::Object:
-            if (!value.object()->object) throw LispError("object was released");
-            return value.object()->object;
-        default:
-            break;
-    }
-    if (lists == Lists::AsObjects) return std::make_shared<LispObject>(value);
-    if (value.cons() != nullptr) return listTo(value);
-    throw badArgumentType("variantp", value);
-}
+Variant toHost(const Value& value, Lists lists) { return toHost(value, lists, 0); }
 
 Value makeVariant(const Value& value) {
     switch (value.kind()) {

@@ -66,6 +66,7 @@ Value Interpreter::evaluate(const Value& form) {
     if (cell == nullptr) return form;
     const Entry entry(*this);
     guard_->check();
+    step();
 
     // A form can change the symbol that holds it: the function and the form are kept while the call runs.
     const Value kept = form;  // NOLINT(performance-unnecessary-copy-initialization)

@@ -80,7 +80,16 @@ class Interpreter {
     void setVariables(SystemVariables variables) { variables_ = std::move(variables); }
     const SystemVariables& variables() const { return variables_; }
 
+    /// Called now and then while an evaluation runs; what it raises ends the evaluation.
+    void setWatch(std::function<void()> watch) { watch_ = std::move(watch); }
+
     // For the built-ins.
+
+    /// One step of a loop or an evaluation.
+    void step() {
+        constexpr unsigned kStepsBetweenLooks = 1024;
+        if (++steps_ % kStepsBetweenLooks == 0 && watch_) watch_();
+    }
 
     SymbolTable& symbols() { return symbols_; }
     std::ostream& output() { return output_; }
@@ -107,6 +116,8 @@ class Interpreter {
     host::ObjectPtr acadObject_;
     std::map<std::string, ObjectFactory> factories_;  ///< by identifier in capitals
     SystemVariables variables_;
+    std::function<void()> watch_;
+    unsigned steps_ = 0;
     std::shared_ptr<Interpreter> handle_;  ///< owns nothing; automation objects hold it weakly
 };
 

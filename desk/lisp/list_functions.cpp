@@ -34,11 +34,6 @@ Value consFunction(Call& call) { return cons(call[0], call[1]); }
 
 Value list(Call& call) { return makeList({call.args.begin(), call.args.end()}); }
 
-/// (vl-list* a b... tail): the last argument is the list's end.
-Value listWithTail(Call& call) {
-    return makeList({call.args.begin(), call.args.end() - 1}, call.args.back());
-}
-
 Value append(Call& call) {
     if (call.size() == 0) return {};
     ListBuilder items;
@@ -60,15 +55,6 @@ Value length(Call& call) {
     for (; rest->cons() != nullptr; rest = &rest->cons()->rest) ++count;
     if (rest->isTrue()) throw badArgumentType("listp", call[0]);
     return count;
-}
-
-/// (vl-list-length x): as length, but nil for a list that ends in an atom.
-Value listLength(Call& call) {
-    std::int32_t count = 0;
-    const Value* rest = &call[0];
-    for (; rest->cons() != nullptr; rest = &rest->cons()->rest) ++count;
-    if (rest == &call[0] && rest->isTrue()) throw badArgumentType("listp", call[0]);
-    return rest->isNil() ? Value(count) : Value();
 }
 
 /// (nth n list): nil behind the end.
@@ -100,50 +86,14 @@ Value isNull(Call& call) { return call.truth(call[0].isNil()); }
 
 SubrTable listFunctions() {
     static constexpr SubrEntry kTable[] = {
-        {"CAR", 1, 1, takePath},
-        {"CDR", 1, 1, takePath},
-        {"CAAR", 1, 1, takePath},
-        {"CADR", 1, 1, takePath},
-        {"CDAR", 1, 1, takePath},
-        {"CDDR", 1, 1, takePath},
-        {"CAAAR", 1, 1, takePath},
-        {"CAADR", 1, 1, takePath},
-        {"CADAR", 1, 1, takePath},
-        {"CADDR", 1, 1, takePath},
-        {"CDAAR", 1, 1, takePath},
-        {"CDADR", 1, 1, takePath},
-        {"CDDAR", 1, 1, takePath},
-        {"CDDDR", 1, 1, takePath},
-        {"CAAAAR", 1, 1, takePath},
-        {"CAAADR", 1, 1, takePath},
-        {"CAADAR", 1, 1, takePath},
-        {"CAADDR", 1, 1, takePath},
-        {"CADAAR", 1, 1, takePath},
-        {"CADADR", 1, 1, takePath},
-        {"CADDAR", 1, 1, takePath},
-        {"CADDDR", 1, 1, takePath},
-        {"CDAAAR", 1, 1, takePath},
-        {"CDAADR", 1, 1, takePath},
-        {"CDADAR", 1, 1, takePath},
-        {"CDADDR", 1, 1, takePath},
-        {"CDDAAR", 1, 1, takePath},
-        {"CDDADR", 1, 1, takePath},
-        {"CDDDAR", 1, 1, takePath},
-        {"CDDDDR", 1, 1, takePath},
-        {"CONS", 2, 2, consFunction},
-        {"LIST", 0, -1, list},
-        {"VL-LIST*", 1, -1, listWithTail},
-        {"APPEND", 0, -1, append},
-        {"REVERSE", 1, 1, reverse},
-        {"LENGTH", 1, 1, length},
-        {"VL-LIST-LENGTH", 1, 1, listLength},
-        {"NTH", 2, 2, nth},
-        {"LAST", 1, 1, last},
-        {"ATOM", 1, 1, atom},
-        {"LISTP", 1, 1, listp},
-        {"VL-CONSP", 1, 1, consp},
-        {"NULL", 1, 1, isNull},
-        {"NOT", 1, 1, isNull},
+        {"CAR", 1, 1, takePath},   {"CDR", 1, 1, takePath},    {"CAAR", 1, 1, takePath},
+        {"CADR", 1, 1, takePath},  {"CDAR", 1, 1, takePath},   {"CDDR", 1, 1, takePath},
+        {"CAADR", 1, 1, takePath}, {"CADAR", 1, 1, takePath},  {"CADDR", 1, 1, takePath},
+        {"CDDDR", 1, 1, takePath}, {"CADDDR", 1, 1, takePath}, {"CONS", 2, 2, consFunction},
+        {"LIST", 0, -1, list},     {"APPEND", 0, -1, append},  {"REVERSE", 1, 1, reverse},
+        {"LENGTH", 1, 1, length},  {"NTH", 2, 2, nth},         {"LAST", 1, 1, last},
+        {"ATOM", 1, 1, atom},      {"LISTP", 1, 1, listp},     {"VL-CONSP", 1, 1, consp},
+        {"NULL", 1, 1, isNull},    {"NOT", 1, 1, isNull},
     };
     return kTable;
 }

@@ -76,11 +76,6 @@ Value releaseObject(Call& call) {
     return Value(0);
 }
 
-Value isReleased(Call& call) {
-    if (call[0].object() == nullptr) throw badArgumentType("VLA-OBJECT", call[0]);
-    return call.truth(!call[0].object()->object);
-}
-
 }  // namespace
 
 Value callVlaMember(Call& call) {
@@ -104,7 +99,6 @@ SubrTable objectFunctions() {
         {"VLAX-GET-ACAD-OBJECT", 0, 0, acadObject},
         {"VLAX-CREATE-OBJECT", 1, 1, createObject},
         {"VLAX-RELEASE-OBJECT", 1, 1, releaseObject},
-        {"VLAX-OBJECT-RELEASED-P", 1, 1, isReleased},
         {"VLAX-GET-PROPERTY", 2, -1, getWrapped},
         {"VLAX-GET", 2, -1, getPlain},
         {"VLAX-PUT-PROPERTY", 3, 3, put},

@@ -85,7 +85,10 @@ Value whileForm(Interpreter& lisp, const Value& arguments) {
     Forms forms(arguments);
     const Value& test = forms.take();
     Value value;
-    while (lisp.evaluate(test).isTrue()) value = lisp.evaluateAll(forms.rest());
+    while (lisp.evaluate(test).isTrue()) {
+        lisp.step();
+        value = lisp.evaluateAll(forms.rest());
+    }
     return value;
 }
 
@@ -94,7 +97,10 @@ Value repeat(Interpreter& lisp, const Value& arguments) {
     const Value count = lisp.evaluate(forms.take());
     if (count.integer() == nullptr) throw badArgumentType("fixnump", count);
     Value value;
-    for (std::int32_t i = 0; i < *count.integer(); ++i) value = lisp.evaluateAll(forms.rest());
+    for (std::int32_t i = 0; i < *count.integer(); ++i) {
+        lisp.step();
+        value = lisp.evaluateAll(forms.rest());
+    }
     return value;
 }
 

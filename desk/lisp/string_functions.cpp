@@ -67,24 +67,8 @@ std::string characterText(const Value& code) {
 
 Value characterOf(Call& call) { return characterText(call[0]); }
 
-Value toCodes(Call& call) {
-    ListBuilder codes;
-    const std::string& text = call.text(0);
-    for (std::size_t position = 0; position < text.size();) {
-        codes.add(static_cast<std::int32_t>(basic::nextCharacter(text, position)));
-    }
-    return codes.take();
-}
-
-Value fromCodes(Call& call) {
-    std::string text;
-    for (const Value& code : call.list(0)) text += characterText(code);
-    return text;
-}
-
 Value plainText(Call& call) { return printed(call[0], Style::Plain); }
 Value readableText(Call& call) { return printed(call[0], Style::Readable); }
-Value symbolName(Call& call) { return call.symbol(0)->name; }
 
 }  // namespace
 
@@ -96,11 +80,8 @@ SubrTable stringFunctions() {
         {"STRCASE", 1, 2, changeCase},
         {"ASCII", 1, 1, codeOfFirst},
         {"CHR", 1, 1, characterOf},
-        {"VL-STRING->LIST", 1, 1, toCodes},
-        {"VL-LIST->STRING", 1, 1, fromCodes},
         {"VL-PRINC-TO-STRING", 1, 1, plainText},
         {"VL-PRIN1-TO-STRING", 1, 1, readableText},
-        {"VL-SYMBOL-NAME", 1, 1, symbolName},
     };
     return kTable;
 }

@@ -38,16 +38,6 @@ Value search(Call& call) {
     return positionOrNil(text.find(characters(call.text(0)), startAt(call, 2, text.size())));
 }
 
-/// (vl-string-position code text [start [fromEnd]])
-Value position(Call& call) {
-    const auto code = static_cast<char32_t>(call.integer(0));
-    const std::u32string text = characters(call.text(1));
-    const std::size_t start = startAt(call, 2, text.size());
-    if (!call.has(3) || call[3].isNil()) return positionOrNil(text.find(code, start));
-    const std::size_t found = text.rfind(code);
-    return positionOrNil(found != std::u32string::npos && found >= start ? found : std::u32string::npos);
-}
-
 /// (vl-string-subst new pattern text [start]): the first occurrence only.
 Value substitute(Call& call) {
     std::u32string text = characters(call.text(2));
@@ -55,18 +45,6 @@ Value substitute(Call& call) {
     const std::size_t found = text.find(pattern, startAt(call, 3, text.size()));
     if (found == std::u32string::npos) return call[2];
     return encoded(text.replace(found, pattern.size(), characters(call.text(0))));
-}
-
-/// (vl-string-translate from to text): each character of `from` becomes the one at its place in `to`.
-Value translate(Call& call) {
-    const std::u32string from = characters(call.text(0));
-    const std::u32string to = characters(call.text(1));
-    std::u32string text = characters(call.text(2));
-    for (char32_t& character : text) {
-        const std::size_t place = from.find(character);
-        if (place < to.size()) character = to[place];
-    }
-    return encoded(text);
 }
 
 /// (vl-string-trim set text): without the characters of `set` at the chosen ends.
@@ -89,9 +67,7 @@ Value trimRight(Call& call) { return trimmed(call, false, true); }
 SubrTable stringSearchFunctions() {
     static constexpr SubrEntry kTable[] = {
         {"VL-STRING-SEARCH", 2, 3, search},
-        {"VL-STRING-POSITION", 2, 4, position},
         {"VL-STRING-SUBST", 3, 4, substitute},
-        {"VL-STRING-TRANSLATE", 3, 3, translate},
         {"VL-STRING-TRIM", 2, 2, trim},
         {"VL-STRING-LEFT-TRIM", 2, 2, trimLeft},
         {"VL-STRING-RIGHT-TRIM", 2, 2, trimRight},

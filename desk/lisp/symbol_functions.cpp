@@ -27,20 +27,12 @@ Value boundp(Call& call) {
     return call.truth(symbol != nullptr && symbol->value.isTrue());
 }
 
-Value symbolValue(Call& call) { return call.symbol(0)->value; }
-Value symbolp(Call& call) { return call.truth(call[0].symbol() != nullptr); }
-
 }  // namespace
 
 SubrTable symbolFunctions() {
     static constexpr SubrEntry kTable[] = {
-        {"SET", 2, 2, set},
-        {"READ", 0, 1, read},
-        {"EVAL", 1, 1, eval},
-        {"TYPE", 1, 1, type},
-        {"BOUNDP", 1, 1, boundp},
-        {"VL-SYMBOL-VALUE", 1, 1, symbolValue},
-        {"VL-SYMBOLP", 1, 1, symbolp},
+        {"SET", 2, 2, set},   {"READ", 0, 1, read},     {"EVAL", 1, 1, eval},
+        {"TYPE", 1, 1, type}, {"BOUNDP", 1, 1, boundp},
     };
     return kTable;
 }

@@ -4,25 +4,51 @@
 
 namespace lisp {
 
-bool Value::isSoleOwnerOfCell() const {
+bool Value::isSoleOwner() const {
     const auto* cell = std::get_if<std::shared_ptr<const Cons>>(&data_);
-    return cell != nullptr && cell->use_count() == 1;
+    const auto* function = std::get_if<std::shared_ptr<const Usubr>>(&data_);
+    return (cell != nullptr && cell->use_count() == 1) || (function != nullptr && function->use_count() == 1);
 }
 
-Cons::~Cons() {
-    if (!first.isSoleOwnerOfCell() && !rest.isSoleOwnerOfCell()) return;
-    // Cells that die with this one are emptied before they go, so that no destructor calls another in depth.
-    std::vector<Value> dying;
-    const auto takeChildren = [&dying](const Cons& cell) {
-        if (cell.first.isSoleOwnerOfCell()) dying.push_back(std::move(cell.first));
-        if (cell.rest.isSoleOwnerOfCell()) dying.push_back(std::move(cell.rest));
-    };
-    takeChildren(*this);
-    while (!dying.empty()) {
-        const Value cell = std::move(dying.back());
-        dying.pop_back();
-        takeChildren(*cell.cons());
+namespace {
+
+/// Values that die with the one that held them. They are emptied before they go, so that no destructor calls
+/// another in depth.
+class Dying {
+  public:
+    void take(Value& value) {
+        if (value.isSoleOwner()) values_.push_back(std::move(value));
     }
+    void free() {
+        while (!values_.empty()) {
+            const Value value = std::move(values_.back());
+            values_.pop_back();
+            if (const Cons* cell = value.cons()) {
+                take(cell->first);
+                take(cell->rest);
+            } else {
+                take(value.usubr()->body);
+            }
+        }
+    }
+
+  private:
+    std::vector<Value> values_;
+};
+
+}  // namespace
+
+Cons::~Cons() {
+    Dying dying;
+    dying.take(first);
+    dying.take(rest);
+    dying.free();
+}
+
+Usubr::~Usubr() {
+    Dying dying;
+    dying.take(body);
+    dying.free();
 }
 
 Value cons(Value first, Value rest) {

@@ -85,14 +85,15 @@ class Value {
     /// Whether both are the same node, or the same number in the same type.
     bool isSame(const Value& other) const { return data_ == other.data_; }
 
+    /// Whether the value is a list cell or a function of the user's that nothing else holds.
+    bool isSoleOwner() const;
+
   private:
-    friend struct Cons;
     template <typename Pointer>
     typename Pointer::element_type* node() const {
         const Pointer* pointer = std::get_if<Pointer>(&data_);
         return pointer ? pointer->get() : nullptr;
     }
-    bool isSoleOwnerOfCell() const;
 
     std::variant<std::monostate, std::int32_t, double, std::shared_ptr<const std::string>, SymbolPtr,
                  std::shared_ptr<const Cons>, std::shared_ptr<const Subr>, std::shared_ptr<const Usubr>,
@@ -131,12 +132,18 @@ struct Subr {
     FormFunction form = nullptr;
 };
 
-/// A function of the user's, from defun or lambda.
+/// A function of the user's, from defun or lambda. Freed without recursion, however deep functions hold
+/// functions.
 struct Usubr {
     std::string name;  ///< "LAMBDA" for one without a name
     std::vector<SymbolPtr> parameters;
     std::vector<SymbolPtr> locals;
-    Value body;  ///< the list of its forms
+    mutable Value body;  ///< the list of its forms; changed by the destructor alone
+
+    Usubr() = default;
+    Usubr(const Usubr&) = delete;
+    Usubr& operator=(const Usubr&) = delete;
+    ~Usubr();
 };
 
 /// Automation's type numbers, as vlax-variant-type gives them.

@@ -68,11 +68,6 @@ Value makeVariantFunction(Call& call) {
 Value variantType(Call& call) { return call.variant(0).type; }
 Value variantValue(Call& call) { return call.variant(0).content; }
 
-/// (vlax-variant-change-type variant type)
-Value changeType(Call& call) {
-    return box(call.integer(1), coerced(call.variant(0).content, call.integer(1)));
-}
-
 Value initialElement(std::int32_t type) {
     switch (type) {
         case kVtInteger:
@@ -120,52 +115,18 @@ Value fill(Call& call) {
     return call[0];
 }
 
-Value& elementOf(Call& call) {
-    SafeArray& array = call.safeArray(0);
-    const std::int64_t place = std::int64_t{call.integer(1)} - array.lower;
-    if (place < 0 || place >= static_cast<std::int64_t>(array.elements.size())) {
-        throw badArgumentValue("array index", call[1]);
-    }
-    return array.elements[static_cast<std::size_t>(place)];
-}
-
-Value getElement(Call& call) { return elementOf(call); }
-
-Value putElement(Call& call) {
-    Value& element = elementOf(call);
-    element = coerced(call[2], call.safeArray(0).type);
-    return call[2];
-}
-
 Value toList(Call& call) { return makeList(call.safeArray(0).elements); }
-
-void checkDimension(Call& call) {
-    if (call.has(1) && call.integer(1) != 1) throw badArgumentValue("dimension", call[1]);
-}
-
-Value lowerBound(Call& call) {
-    checkDimension(call);
-    return call.safeArray(0).lower;
-}
-
-Value upperBound(Call& call) {
-    checkDimension(call);
-    const SafeArray& array = call.safeArray(0);
-    return static_cast<std::int32_t>(array.lower + static_cast<std::int64_t>(array.elements.size()) - 1);
-}
-
-Value arrayType(Call& call) { return call.safeArray(0).type; }
 
 }  // namespace
 
 SubrTable variantFunctions() {
     static constexpr SubrEntry kTable[] = {
-        {"VLAX-MAKE-VARIANT", 0, 2, makeVariantFunction}, {"VLAX-VARIANT-TYPE", 1, 1, variantType},
-        {"VLAX-VARIANT-VALUE", 1, 1, variantValue},       {"VLAX-VARIANT-CHANGE-TYPE", 2, 2, changeType},
-        {"VLAX-MAKE-SAFEARRAY", 2, -1, makeSafeArray},    {"VLAX-SAFEARRAY-FILL", 2, 2, fill},
-        {"VLAX-SAFEARRAY-GET-ELEMENT", 2, 2, getElement}, {"VLAX-SAFEARRAY-PUT-ELEMENT", 3, 3, putElement},
-        {"VLAX-SAFEARRAY->LIST", 1, 1, toList},           {"VLAX-SAFEARRAY-TYPE", 1, 1, arrayType},
-        {"VLAX-SAFEARRAY-GET-L-BOUND", 1, 2, lowerBound}, {"VLAX-SAFEARRAY-GET-U-BOUND", 1, 2, upperBound},
+        {"VLAX-MAKE-VARIANT", 0, 2, makeVariantFunction},
+        {"VLAX-VARIANT-TYPE", 1, 1, variantType},
+        {"VLAX-VARIANT-VALUE", 1, 1, variantValue},
+        {"VLAX-MAKE-SAFEARRAY", 2, -1, makeSafeArray},
+        {"VLAX-SAFEARRAY-FILL", 2, 2, fill},
+        {"VLAX-SAFEARRAY->LIST", 1, 1, toList},
     };
     return kTable;
 }

@@ -46,13 +46,15 @@ const MemberTable& Block::table() {
 Variant ModelSpace::insertBlock(Arguments& arguments) {
     requireCount(arguments, 6, 6, "InsertBlock");
     const Context& context = *context_;
-    const drawing::Point3 point = toPoint(context, arguments[0]);
+    if (context.environment->watch) context.environment->watch();
+    const geometry::Point3 point = toPoint(context, arguments[0]);
     const std::string name = basic::toText(arguments[1], context.environment->regional);
-    const drawing::Vector3 scale{toNumber(context, arguments[2]), toNumber(context, arguments[3]),
-                                 toNumber(context, arguments[4])};
+    const geometry::Vector3 scale{toNumber(context, arguments[2]), toNumber(context, arguments[3]),
+                                  toNumber(context, arguments[4])};
     const double rotation = toNumber(context, arguments[5]);
     const BlockId block = findOrBringIn(*context_, name);
-    return makeEntity(context_, context_->drawing->insertBlock(block, point, scale, rotation));
+    context_->newest = context_->drawing->insertBlock(block, point, scale, rotation);
+    return makeEntity(context_, context_->newest);
 }
 
 Variant ModelSpace::addLine(Arguments& arguments) {

@@ -13,7 +13,7 @@ const drawing::Placement& BlockReference::placement() const {
 Variant BlockReference::name() const { return drawing().name(id_); }
 
 Variant BlockReference::insertionPoint() const {
-    return fromPoint(drawing::ocsToWcs(placement().insertion, placement().extrusion));
+    return fromPoint(geometry::ocsToWcs(placement().insertion, placement().extrusion));
 }
 void BlockReference::setInsertionPoint(const Variant& value) {
     edit().setInsertionPoint(id_, toPoint(*context_, value));
@@ -24,15 +24,15 @@ Variant BlockReference::yScaleFactor() const { return placement().scale.y; }
 Variant BlockReference::zScaleFactor() const { return placement().scale.z; }
 
 void BlockReference::setXScaleFactor(const Variant& value) {
-    const drawing::Vector3 scale = placement().scale;
+    const geometry::Vector3 scale = placement().scale;
     edit().setScale(id_, {toNumber(*context_, value), scale.y, scale.z});
 }
 void BlockReference::setYScaleFactor(const Variant& value) {
-    const drawing::Vector3 scale = placement().scale;
+    const geometry::Vector3 scale = placement().scale;
     edit().setScale(id_, {scale.x, toNumber(*context_, value), scale.z});
 }
 void BlockReference::setZScaleFactor(const Variant& value) {
-    const drawing::Vector3 scale = placement().scale;
+    const geometry::Vector3 scale = placement().scale;
     edit().setScale(id_, {scale.x, scale.y, toNumber(*context_, value)});
 }
 
@@ -49,6 +49,7 @@ Variant BlockReference::hasAttributes() const {
 
 Variant BlockReference::getAttributes(Arguments& arguments) {
     requireCount(arguments, 0, 0, "GetAttributes");
+    if (context_->environment->watch) context_->environment->watch();
     drawing().requireAlive(id_);
     basic::Array attributes;
     const std::vector<drawing::EntityId> ids = drawing().attributes(id_);

@@ -2,6 +2,7 @@
 
 #include "basic/text.h"
 #include "desk/dxf/findings.h"
+#include "desk/import/import_block.h"
 #include "desk/model/host_errors.h"
 
 #include <chrono>
@@ -15,12 +16,6 @@ namespace fs = std::filesystem;
 
 bool hasExtension(const fs::path& path, const char* extension) {
     return basic::equalIgnoringCase(path.extension().string(), extension);
-}
-
-bool namesFile(const std::string& name) {
-    if (name.find_first_of("/.") == std::string::npos) return false;
-    const fs::path path(name);
-    return path.has_parent_path() || hasExtension(path, ".dxf") || hasExtension(path, ".dwg");
 }
 
 /// The file of that name, with or without extension, beside the drawing or in a support folder; empty if
@@ -73,7 +68,7 @@ std::unique_ptr<drawing::Drawing> openSource(const Context& context, const fs::p
     return drawing::Drawing::open(converted.path());
 }
 
-void tell(const Context& context, const std::string& name, const drawing::ImportResult& result) {
+void tell(const Context& context, const std::string& name, const importing::ImportResult& result) {
     Prompter& prompter = *context.environment->prompter;
     if (result.redefined) prompter.message("Block " + name + " redefined");
     for (const std::string& kept : result.kept) {
@@ -94,7 +89,7 @@ drawing::BlockId bringIn(Context& context, const fs::path& file) {
     const std::string name = file.stem().string();
     try {
         const std::unique_ptr<drawing::Drawing> source = openSource(context, file);
-        const drawing::ImportResult result = context.drawing->importBlock(*source, name);
+        const importing::ImportResult result = importing::importBlock(*context.drawing, *source, name);
         tell(context, name, result);
         known = {static_cast<std::int64_t>(modified), size, result.block};
     } catch (const dxf::ReadError& error) {
@@ -106,12 +101,10 @@ drawing::BlockId bringIn(Context& context, const fs::path& file) {
 }  // namespace
 
 drawing::BlockId findOrBringIn(Context& context, const std::string& name) {
-    if (!namesFile(name)) {
-        const drawing::BlockId block = context.drawing->blocks().find(name);
-        if (block != drawing::kNoBlock) {
-            if (context.drawing->blocks()[block].isLayout()) raise(kSelfReference, name);
-            return block;
-        }
+    const drawing::BlockId block = context.drawing->blocks().find(name);
+    if (block != drawing::kNoBlock) {
+        if (context.drawing->blocks()[block].isLayout()) raise(kSelfReference, name);
+        return block;
     }
     if (name.empty()) raise(kFileError, "no name of a block or a file");
     const fs::path file = findFile(context, name);

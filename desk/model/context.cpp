@@ -10,12 +10,12 @@ double toNumber(const Context& context, const Variant& value) {
     return basic::toDouble(value, context.environment->regional);
 }
 
-drawing::Point3 toPoint(const Context& context, const Variant& value) {
-    if (value.is(Variant::Kind::Doubles) && value.doubles().size() == 3) {
+geometry::Point3 toPoint(const Context& context, const Variant& value) {
+    if (value.is(Variant::Kind::DoubleArray) && value.doubles().size() == 3) {
         const basic::Doubles& xyz = value.doubles();
         return {xyz[0], xyz[1], xyz[2]};
     }
-    if (value.is(Variant::Kind::Array) && value.array().size() == 3) {
+    if (value.is(Variant::Kind::VariantArray) && value.array().size() == 3) {
         const basic::Array& xyz = value.array();
         return {toNumber(context, xyz[0]), toNumber(context, xyz[1]), toNumber(context, xyz[2])};
     }
@@ -29,7 +29,7 @@ bool toBoolean(const Context& context, const Variant& value) {
     return toNumber(context, value) != 0;
 }
 
-Variant fromPoint(const drawing::Point3& point) { return basic::Doubles{point.x, point.y, point.z}; }
+Variant fromPoint(const geometry::Point3& point) { return basic::Doubles{point.x, point.y, point.z}; }
 
 void requireCount(const host::Arguments& arguments, std::size_t least, std::size_t most, const char* member) {
     if (arguments.size() < least || arguments.size() > most) raise(kArgumentCount, member);

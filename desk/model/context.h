@@ -13,14 +13,25 @@
 
 namespace model {
 
+/// What a new reference takes over from the one that it replaces.
+struct Keep {
+    bool layer = false;
+    bool color = false;
+    bool lineType = false;
+    bool any() const { return layer || color || lineType; }
+};
+
 /// What the program that embeds the model gives it.
 struct Environment {
     Prompter* prompter = nullptr;  ///< never null while a document is open
     basic::Regional regional;      ///< numbers that arrive as text are read under it
     /// Folders in which a block file named without one is looked for, behind the drawing's own.
     std::vector<std::string> supportFolders;
+    std::shared_ptr<Keep> keep = std::make_shared<Keep>();  ///< the session's, which VNKEEP sets
     /// Makes a DXF file of a DWG file and gives its path; raises basic::Error that says what is missing.
     std::function<std::string(const std::string& dwgPath)> convertDwg;
+    /// Called once for each reference that is made or read; what it raises ends the command. May be empty.
+    std::function<void()> watch;
 };
 
 /// What the objects of one document share. They hold it together, so an object that outlives its document
@@ -38,6 +49,7 @@ struct Context {
         drawing::BlockId block = drawing::kNoBlock;
     };
     std::map<std::string, BroughtIn> broughtIn;
+    drawing::EntityId newest = drawing::kNoEntity;  ///< the reference that was inserted last
 };
 using ContextPtr = std::shared_ptr<Context>;
 
@@ -46,9 +58,9 @@ using ContextPtr = std::shared_ptr<Context>;
 /// A number, or text under the regional settings; raises kTypeMismatch.
 double toNumber(const Context& context, const basic::Variant& value);
 /// Three floats as an array of floats or of variants that hold numbers; raises kTypeMismatch.
-drawing::Point3 toPoint(const Context& context, const basic::Variant& value);
+geometry::Point3 toPoint(const Context& context, const basic::Variant& value);
 bool toBoolean(const Context& context, const basic::Variant& value);
-basic::Variant fromPoint(const drawing::Point3& point);
+basic::Variant fromPoint(const geometry::Point3& point);
 
 /// Raises the failure of a wrong count of arguments unless there are `least` to `most`.
 void requireCount(const host::Arguments& arguments, std::size_t least, std::size_t most, const char* member);

@@ -23,6 +23,11 @@ bool Document::undo() {
     return context_->drawing->undo();
 }
 
+bool Document::redo() {
+    context_->broughtIn.clear();
+    return context_->drawing->redo();
+}
+
 Variant Document::paperSpace() const {
     return std::make_shared<Block>(context_, context_->drawing->blocks().paperSpace());
 }
@@ -35,6 +40,19 @@ Variant Document::name() const {
 }
 Variant Document::fullName() const { return context_->drawing->path(); }
 Variant Document::saved() const { return !context_->drawing->isModified(); }
+
+Variant Document::getVariable(Arguments& arguments) {
+    requireCount(arguments, 1, 1, "GetVariable");
+    const auto application = application_.lock();
+    return application ? application->variables().get(*context_, arguments[0].text()) : Variant();
+}
+
+Variant Document::setVariable(Arguments& arguments) {
+    requireCount(arguments, 2, 2, "SetVariable");
+    if (const auto application = application_.lock())
+        application->variables().set(*context_, arguments[0].text(), arguments[1]);
+    return {};
+}
 
 Variant Document::handleToObject(Arguments& arguments) {
     requireCount(arguments, 1, 1, "HandleToObject");
@@ -55,6 +73,8 @@ const MemberTable& Document::members() const {
         property<&D::name>("Name"),
         property<&D::fullName>("FullName"),
         property<&D::saved>("Saved"),
+        method<&D::getVariable>("GetVariable"),
+        method<&D::setVariable>("SetVariable"),
         method<&D::handleToObject>("HandleToObject"),
     });
     return table;

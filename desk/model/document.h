@@ -2,6 +2,7 @@
 
 #include "desk/model/block.h"
 #include "desk/model/selection_sets.h"
+#include "desk/model/variables.h"
 
 #include <map>
 
@@ -19,6 +20,8 @@ class Document : public Automation {
     const ContextPtr& context() const { return context_; }
     /// Takes the last undo step back; false if there is none.
     bool undo();
+    /// Brings the step back that was undone last; false if there is none.
+    bool redo();
 
     Variant modelSpace() const { return modelSpace_; }
     Variant paperSpace() const;
@@ -31,6 +34,9 @@ class Document : public Automation {
     Variant fullName() const;
     /// Whether there is nothing to save.
     Variant saved() const;
+    /// The system variables of the host, by name.
+    Variant getVariable(Arguments& arguments);
+    Variant setVariable(Arguments& arguments);
     /// The object of a handle given as hexadecimal text.
     Variant handleToObject(Arguments& arguments);
 
@@ -53,6 +59,7 @@ class Application : public Automation {
         : environment_(std::make_shared<Environment>(std::move(environment))) {}
 
     Environment& environment() { return *environment_; }
+    SystemVariables& variables() { return variables_; }
     /// Makes a document of a drawing and makes it the active one.
     std::shared_ptr<Document> open(std::unique_ptr<drawing::Drawing> drawing);
     const std::shared_ptr<Document>& active() const { return active_; }
@@ -70,6 +77,7 @@ class Application : public Automation {
 
   private:
     std::shared_ptr<Environment> environment_;
+    SystemVariables variables_;
     std::map<std::string, Factory> factories_;
     std::shared_ptr<Document> active_;
 };

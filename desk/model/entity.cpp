@@ -1,13 +1,14 @@
 #include "desk/model/entity.h"
 
-#include "desk/drawing/measure.h"
 #include "desk/model/block_reference.h"
+#include "desk/model/successor.h"
+#include "desk/shapes/measure.h"
 
 #include <cstdio>
 
 namespace model {
 
-using drawing::Measure;
+using shapes::Measure;
 
 Variant Entity::objectName() const {
     drawing().requireAlive(id_);
@@ -31,10 +32,10 @@ Variant Entity::color() const { return static_cast<std::int32_t>(drawing().commo
 Variant Entity::visible() const { return drawing().common(id_).visible; }
 void Entity::setVisible(const Variant& value) { edit().setVisible(id_, toBoolean(*context_, value)); }
 
-Variant Entity::length() const { return drawing::measure(drawing(), id_, Measure::Length); }
-Variant Entity::area() const { return drawing::measure(drawing(), id_, Measure::Area); }
-Variant Entity::circumference() const { return drawing::measure(drawing(), id_, Measure::Circumference); }
-Variant Entity::perimeter() const { return drawing::measure(drawing(), id_, Measure::Perimeter); }
+Variant Entity::length() const { return shapes::measure(drawing(), id_, Measure::Length); }
+Variant Entity::area() const { return shapes::measure(drawing(), id_, Measure::Area); }
+Variant Entity::circumference() const { return shapes::measure(drawing(), id_, Measure::Circumference); }
+Variant Entity::perimeter() const { return shapes::measure(drawing(), id_, Measure::Perimeter); }
 
 Variant Entity::update(Arguments& arguments) {
     requireCount(arguments, 0, 0, "Update");
@@ -44,6 +45,7 @@ Variant Entity::update(Arguments& arguments) {
 
 Variant Entity::erase(Arguments& arguments) {
     requireCount(arguments, 0, 0, "Delete");
+    handOver(*context_, id_);
     edit().erase(id_);
     return {};
 }

@@ -8,7 +8,7 @@ namespace {
 /// Groups `code`, `code` + 10 and `code` + 20. A LINE's points are world coordinates.
 Variant point(const drawing::Drawing& drawing, drawing::EntityId id, int code) {
     drawing.requireAlive(id);
-    drawing::Point3 point;
+    geometry::Point3 point;
     dxf::TagReader tags = drawing.tags(id);
     for (dxf::Tag tag; tags.next(tag);) {
         if (tag.code == code) point.x = tag.numberOr(0);

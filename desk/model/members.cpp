@@ -1,5 +1,6 @@
 #include "desk/model/members.h"
 
+#include "basic/border.h"
 #include "basic/text.h"
 
 #include <bit>
@@ -39,23 +40,27 @@ const Member* MemberTable::find(std::string_view name) const {
 Variant Automation::get(std::string_view name) {
     const Member* member = members().find(name);
     if (member == nullptr) throw noSuchMember(name);
-    if (member->get != nullptr) return member->get(*this);
-    Arguments none;
-    return member->call(*this, none);
+    return basic::acrossBorder([&] {
+        if (member->get != nullptr) return member->get(*this);
+        Arguments none;
+        return member->call(*this, none);
+    });
 }
 
 void Automation::set(std::string_view name, const Variant& value) {
     const Member* member = members().find(name);
     if (member == nullptr || member->set == nullptr) throw noSuchMember(name);
-    member->set(*this, value);
+    basic::acrossBorder([&] { member->set(*this, value); });
 }
 
 Variant Automation::call(std::string_view name, Arguments& arguments) {
     const Member* member = members().find(name);
     if (member == nullptr) throw noSuchMember(name);
-    if (member->call != nullptr) return member->call(*this, arguments);
-    if (!arguments.empty()) throw noSuchMember(name);
-    return member->get(*this);
+    return basic::acrossBorder([&] {
+        if (member->call != nullptr) return member->call(*this, arguments);
+        if (!arguments.empty()) throw noSuchMember(name);
+        return member->get(*this);
+    });
 }
 
 void Automation::enumerate(const std::function<bool(const Variant&)>&) { throw noSuchMember("_NewEnum"); }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desk/drawing/ids.h"
-#include "desk/drawing/vector.h"
+#include "desk/geometry/vector.h"
 
 #include <optional>
 #include <string>
@@ -24,12 +24,12 @@ enum class Answer {
 struct EntityPick {
     Answer answer = Answer::BrokenOff;
     drawing::EntityId entity = drawing::kNoEntity;
-    drawing::Point3 point;
+    geometry::Point3 point;
 };
 
 struct PointPick {
     Answer answer = Answer::BrokenOff;
-    drawing::Point3 point;
+    geometry::Point3 point;
 };
 
 struct AnglePick {
@@ -53,9 +53,9 @@ class Prompter {
     /// One entity by a click on it.
     virtual EntityPick getEntity(const drawing::Drawing& drawing, const std::string& prompt) = 0;
     /// A point; from `base` a rubber band runs to the cursor, and relative answers count.
-    virtual PointPick getPoint(const std::optional<drawing::Point3>& base, const std::string& prompt) = 0;
+    virtual PointPick getPoint(const std::optional<geometry::Point3>& base, const std::string& prompt) = 0;
     /// The direction from `base` to a point, or an angle typed in degrees.
-    virtual AnglePick getAngle(const drawing::Point3& base, const std::string& prompt) = 0;
+    virtual AnglePick getAngle(const geometry::Point3& base, const std::string& prompt) = 0;
     /// Any number of entities, until the user ends the selection.
     virtual SelectionPick selectEntities(const drawing::Drawing& drawing, const std::string& prompt) = 0;
     /// A line on the host's command line.

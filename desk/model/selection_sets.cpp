@@ -1,9 +1,9 @@
 #include "desk/model/selection_sets.h"
 
 #include "basic/text.h"
-#include "desk/drawing/pick.h"
 #include "desk/model/entity.h"
 #include "desk/model/host_errors.h"
+#include "desk/shapes/pick.h"
 
 #include <algorithm>
 
@@ -23,7 +23,7 @@ Variant argument(const Arguments& arguments, std::size_t at) {
 }
 
 bool isPoint(const Variant& value) {
-    return value.is(Variant::Kind::Doubles) || value.is(Variant::Kind::Array);
+    return value.is(Variant::Kind::DoubleArray) || value.is(Variant::Kind::VariantArray);
 }
 
 /// The newest entity of model space that can be seen.
@@ -101,9 +101,9 @@ Variant SelectionSet::select(Arguments& arguments) {
     } else if (mode == kLast) {
         add(drawing.select(filter, last(drawing)));
     } else if (mode == kWindow || mode == kCrossing) {
-        const drawing::Point3 first = toPoint(*context_, argument(arguments, 1));
-        const drawing::Point3 second = toPoint(*context_, argument(arguments, 2));
-        add(drawing.select(filter, drawing::selectWindow(drawing, first, second, mode == kCrossing)));
+        const geometry::Point3 first = toPoint(*context_, argument(arguments, 1));
+        const geometry::Point3 second = toPoint(*context_, argument(arguments, 2));
+        add(drawing.select(filter, shapes::selectWindow(drawing, first, second, mode == kCrossing)));
     } else {
         drawing::raise(drawing::kInvalidInput, "mode");
     }

@@ -22,7 +22,7 @@ std::string Utility::promptText(const Arguments& arguments, std::size_t at) {
     return arguments[at].text();
 }
 
-std::optional<drawing::Point3> Utility::basePoint(const Arguments& arguments) const {
+std::optional<geometry::Point3> Utility::basePoint(const Arguments& arguments) const {
     if (arguments.empty() || arguments[0].isMissing() || arguments[0].isEmpty()) return std::nullopt;
     return toPoint(*context_, arguments[0]);
 }
@@ -45,7 +45,7 @@ Variant Utility::getPoint(Arguments& arguments) {
 
 Variant Utility::getAngle(Arguments& arguments) {
     requireCount(arguments, 0, 2, "GetAngle");
-    const drawing::Point3 base = basePoint(arguments).value_or(drawing::Point3{});
+    const geometry::Point3 base = basePoint(arguments).value_or(geometry::Point3{});
     const AnglePick pick = prompter().getAngle(base, promptText(arguments, 1));
     requireGiven(pick.answer, "GetAngle");
     return pick.radians;

@@ -24,7 +24,7 @@ class Utility : public Automation {
     const MemberTable& members() const override;
 
   private:
-    std::optional<drawing::Point3> basePoint(const Arguments& arguments) const;
+    std::optional<geometry::Point3> basePoint(const Arguments& arguments) const;
     static std::string promptText(const Arguments& arguments, std::size_t at);
     Prompter& prompter() const { return *context_->environment->prompter; }
 

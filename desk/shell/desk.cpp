@@ -1,5 +1,6 @@
 #include "desk/shell/desk.h"
 
+#include "basic/border.h"
 #include "basic/text.h"
 #include "desk/dxf/findings.h"
 #include "desk/lisp/error.h"
@@ -7,7 +8,10 @@
 #include "desk/shell/dwg_converter.h"
 #include "desk/shell/host_commands.h"
 #include "desk/shell/install_folder.h"
+#include "desk/shell/lisp_answer.h"
+#include "desk/shell/surroundings.h"
 
+#include <filesystem>
 #include <optional>
 #include <ostream>
 
@@ -37,16 +41,51 @@ void tellFindings(std::ostream& output, const std::vector<dxf::Finding>& finding
     }
 }
 
+bool isDwg(const std::string& path) {
+    return basic::equalIgnoringCase(std::filesystem::path(path).extension().string(), ".dwg");
+}
+
+/// A drawing made of a DWG file. It goes by that file's name with .dxf for its extension.
+std::unique_ptr<drawing::Drawing> openConverted(const std::string& path) {
+    const std::string converted = convertDwg(path);
+    const dxf::FileBytes bytes = dxf::readFile(converted);
+    std::error_code ignored;
+    std::filesystem::remove(converted, ignored);
+    return drawing::Drawing::parse({bytes.data.get(), bytes.size},
+                                   std::filesystem::path(path).replace_extension(".dxf").string());
+}
+
 }  // namespace
 
 Desk::Desk(const DeskOptions& options, forms::Screen& screen, model::Prompter& prompter, std::ostream& output)
-    : output_(output) {
+    : output_(output),
+      prompter_(prompter),
+      stateFolder_(options.stateFolder),
+      autosaves_(options.autosave && !options.stateFolder.empty()),
+      breakable_(options.breakable),
+      confirm_(options.confirm),
+      aside_(options.aside) {
     prepareInstallFolder(options.installFolder, options.resources,
-                         options.frenchDesktop ? "Fran\u00E7ais" : "English");
+                         languageByCode(options.frenchDesktop ? "fr" : "en"));
+    if (!options.language.empty()) chooseLanguage(options.installFolder, options.language);
     platform_ = std::make_unique<LinuxPlatform>(options.installFolder, options.regional,
                                                 [this](const std::string& text) { output_ << text << "\n"; });
-    application_ = std::make_shared<model::Application>(environment(options, prompter));
+    const auto watch = [this, also = options.watch] {
+        if (break_ != nullptr) break_->check();
+        if (also) also();
+    };
+    model::Environment given = environment(options, prompter);
+    given.watch = watch;
+    application_ = std::make_shared<model::Application>(std::move(given));
     lisp_ = std::make_unique<lisp::Interpreter>(output_);
+    lisp_->setWatch(watch);
+    lisp_->setVariables({[this](std::string_view name) {
+                             return hasDrawing() ? document().invoke("GetVariable", {name})
+                                                 : basic::Variant();
+                         },
+                         [this](std::string_view name, const basic::Variant& value) {
+                             document().invoke("SetVariable", {name, value});
+                         }});
     component_ = std::make_unique<entry::Component>(*platform_, screen);
 
     lisp_->setAcadObject(application_);
@@ -57,48 +96,198 @@ Desk::Desk(const DeskOptions& options, forms::Screen& screen, model::Prompter& p
     lisp_->load(options.resources / "vorlane.lsp");
 }
 
-Desk::~Desk() = default;
+Desk::~Desk() { removeRecovered(); }
 
 model::Document& Desk::document() const {
     if (!hasDrawing()) throw basic::Error(basic::kObjectNotSet, "No drawing is open");
     return *application_->active();
 }
 
-bool Desk::hasUnsavedChanges() const { return hasDrawing() && document().drawing().isModified(); }
+bool Desk::hasUnsavedChanges() const {
+    return hasDrawing() && (isRecovered_ || document().drawing().isModified());
+}
+
+std::unique_ptr<drawing::Drawing> Desk::openOrRecover(const std::string& path) {
+    const std::vector<std::filesystem::path> copies = stateFolder_.empty()
+                                                          ? std::vector<std::filesystem::path>()
+                                                          : Autosave::leftBehind(stateFolder_, path);
+    if (!copies.empty() && !confirm_) {
+        output_ << "Changes to " << path << " that a session before couldn't save are in "
+                << copies.front().string() << "\n";
+    } else if (!copies.empty()) {
+        const bool wanted = confirm_("A session before ended without saving its changes to " + path +
+                                     ". Work on with the copy of them?");
+        std::unique_ptr<drawing::Drawing> drawing;
+        if (wanted) {
+            const dxf::FileBytes bytes = dxf::readFile(copies.front().string());
+            drawing = drawing::Drawing::parse({bytes.data.get(), bytes.size}, path);
+        } else {
+            drawing = readAside(path, [path] { return drawing::Drawing::open(path); });
+        }
+        removeRecovered();
+        recovered_ = copies.front();
+        isRecovered_ = wanted;
+        return drawing;
+    }
+    auto drawing = readAside(path, [path] { return drawing::Drawing::open(path); });
+    removeRecovered();
+    return drawing;
+}
+
+/// What is read belongs to the reading: it may go on when nobody waits for it any more.
+std::unique_ptr<drawing::Drawing> Desk::readAside(const std::string& path, Read read) const {
+    if (!aside_) return read();
+    const auto made = std::make_shared<std::unique_ptr<drawing::Drawing>>();
+    aside_(path, [made, read = std::move(read)] { *made = read(); });
+    return std::move(*made);
+}
+
+void Desk::removeRecovered() {
+    std::error_code ignored;
+    if (!recovered_.empty()) std::filesystem::remove(recovered_, ignored);
+    recovered_.clear();
+    isRecovered_ = false;
+}
 
 void Desk::open(const std::string& path) {
-    application_->open(drawing::Drawing::open(path));
-    output_ << "Opened " << path << "\n";
+    if (isDwg(path)) {
+        application_->open(readAside(path, [path] { return openConverted(path); }));
+        removeRecovered();
+        file_.reset();
+    } else {
+        const dxf::FileStamp stamp = dxf::stampOf(path);
+        application_->open(openOrRecover(path));
+        file_.reset();  // its lock file first: the new one may be of the same drawing
+        file_ = std::make_unique<DrawingFile>(path, stamp);
+    }
+    autosave_ = autosaves_ ? std::make_unique<Autosave>(stateFolder_, document().drawing().path()) : nullptr;
+    output_ << "Opened " << path << (isRecovered_ ? " with the changes of the session before" : "") << "\n";
+    if (file_ && !file_->other().user.empty())
+        output_ << "It is open already: " << file_->other().text() << "\n";
+    if (!file_)
+        output_ << "A DWG drawing was converted; it is saved as DXF: " << document().drawing().path() << "\n";
     tellFindings(output_, document().drawing().findings());
 }
 
-void Desk::save(const std::string& path) {
+/// The folder for copies of files that can only be written in place, made where it is missing; empty for
+/// none.
+std::string Desk::backupFolder() const {
+    if (stateFolder_.empty()) return {};
+    const std::filesystem::path folder = stateFolder_ / "backup";
+    std::error_code failure;
+    std::filesystem::create_directories(folder, failure);
+    std::filesystem::permissions(folder, std::filesystem::perms::owner_all, failure);
+    return failure ? std::string() : folder.string();
+}
+
+void Desk::requireOverwriting(const std::string& path, Overwriting overwriting) const {
+    if (overwriting == Overwriting::Wanted || !file_ || path != file_->path()) return;
+    std::string reason;
+    if (file_->wasChanged()) {
+        reason = path + " was changed by another program since it was opened";
+    } else if (!file_->other().user.empty()) {
+        reason = path + " is open elsewhere: " + file_->other().text();
+    } else {
+        return;
+    }
+    if (!confirm_)
+        throw basic::Error(basic::kPermissionDenied, reason + "; SAVE! writes over it all the same");
+    if (!confirm_(reason + ". Write over it?")) throw basic::Error(basic::kPermissionDenied, "Not saved");
+}
+
+void Desk::save(const std::string& path, Overwriting overwriting) {
     drawing::Drawing& drawing = document().drawing();
-    drawing.save(path.empty() ? drawing.path() : path);
+    const std::string target = path.empty() ? drawing.path() : path;
+    std::error_code ignored;
+    // The name is ours, not the user's: a DXF file that is there already may be another drawing.
+    if (path.empty() && !file_ && std::filesystem::exists(target, ignored)) {
+        throw basic::Error(
+            basic::kPermissionDenied,
+            target +
+                " is there already, and the drawing came from a DWG file; SAVE with a name says "
+                "where it goes");
+    }
+    requireOverwriting(target, overwriting);
+    const dxf::Saved saved = drawing.save(target, backupFolder());
+    if (file_ && file_->path() == target) {
+        file_->wasSaved();
+    } else {
+        file_.reset();
+        file_ = std::make_unique<DrawingFile>(target, dxf::stampOf(target));
+        autosave_ = autosaves_ ? std::make_unique<Autosave>(stateFolder_, target) : nullptr;
+    }
+    removeRecovered();
     output_ << "Saved " << drawing.path() << "\n";
+    if (saved.inPlace) output_ << "Its folder takes no new files, so the file itself was written.\n";
+    if (saved.otherNames) output_ << "Its other names (hard links) go on naming the drawing of before.\n";
+}
+
+/// Undoes the step of a line that was broken off, if it changed anything.
+Desk::Outcome Desk::takeBack(const model::ContextPtr& context, std::uint64_t revision) {
+    const bool isOurs = context && hasDrawing() && document().context() == context;
+    if (isOurs && context->drawing->revision() != revision) document().undo();
+    return Outcome::Failed;
+}
+
+void Desk::keepCopy() {
+    if (!autosave_ || !hasDrawing()) return;
+    try {
+        basic::acrossBorder([&] { autosave_->keep(document().drawing()); });
+    } catch (const basic::Error& error) {
+        output_ << "The copy of what isn't saved can't be kept: " << error.description() << "\n";
+        autosave_ = nullptr;  // told once
+    }
 }
 
 Desk::Outcome Desk::run(const std::string& line) {
     const std::string text(basic::trim(line));
     if (text.empty()) return Outcome::Done;
+    const HeldBreak held(breakable_);
+    const auto back = [this, before = break_](const HeldBreak*) { break_ = before; };
+    const std::unique_ptr<const HeldBreak, decltype(back)> running(&held, back);
+    break_ = &held;
+    const model::ContextPtr context = hasDrawing() ? document().context() : nullptr;
+    const std::uint64_t revision = context ? context->drawing->revision() : 0;
     try {
-        return text.starts_with('(') || text.starts_with('!') ? evaluate(text) : command(text);
+        const Outcome outcome = basic::acrossBorder(
+            [&] { return text.starts_with('(') || text.starts_with('!') ? evaluate(text) : command(text); });
+        keepCopy();
+        return outcome;
+    } catch (const UserBreak& userBreak) {
+        fail(Outcome::Failed, userBreak.what());
+        return takeBack(context, revision);
     } catch (const lisp::IncompleteInput&) {
         return Outcome::Incomplete;
     } catch (const basic::Error& error) {
-        output_ << "Error " << error.number() << ": " << error.description() << "\n";
-        return Outcome::Failed;
+        return fail(Outcome::Failed, "Error " + std::to_string(error.number()) + ": " + error.description());
     }
+}
+
+Desk::Outcome Desk::fail(Outcome outcome, std::string reason) {
+    failure_ = std::move(reason);
+    output_ << failure_ << "\n";
+    return outcome;
 }
 
 Desk::Outcome Desk::evaluate(const std::string& expression) {
     std::optional<drawing::UndoStep> step;
-    if (hasDrawing()) step.emplace(document().drawing());
+    if (hasDrawing()) step.emplace(document().drawing(), "Lisp");
     // "!name" asks for a variable's value, as at the host's command line.
     const lisp::Value value = lisp_->eval(expression.starts_with('!') ? expression.substr(1) : expression);
     const std::string shown = lisp::printed(value, lisp::Style::Readable);
     if (!shown.empty()) output_ << shown << "\n";
     return Outcome::Done;
+}
+
+std::string Desk::answerOf(const std::string& expression) {
+    return promptAnswer(lisp_->eval(expression.starts_with('!') ? expression.substr(1) : expression));
+}
+
+std::vector<std::string> Desk::commandNames() const {
+    std::vector<std::string> names = hostCommandNames();
+    for (const char* name : {"VNLABEL", "VNREPLACE", "VNEXTRACT", "VNINSERT", "VNHELP", "VNABOUT"})
+        names.emplace_back(name);
+    return names;
 }
 
 Desk::Outcome Desk::command(const std::string& line) {
@@ -107,12 +296,11 @@ Desk::Outcome Desk::command(const std::string& line) {
     const std::string rest(basic::trim(blank == std::string::npos ? "" : line.substr(blank)));
     if (const HostCommand* hostCommand = findHostCommand(name)) return hostCommand->run(*this, rest);
     if (!rest.empty() || !lisp_->hasCommand(name)) {
-        output_ << "Unknown command \"" << line << "\".\n";
-        return Outcome::Unknown;
+        return fail(Outcome::Unknown, "Unknown command \"" + line + "\".");
     }
     // The drawing is held: a command of Lisp's could open another one.
     const model::ContextPtr context = document().context();
-    const drawing::UndoStep step(*context->drawing);
+    const drawing::UndoStep step(*context->drawing, name);
     lisp_->command(name);
     return Outcome::Done;
 }

@@ -2,9 +2,12 @@
 
 #include "basic/error.h"
 #include "desk/shell/process.h"
+#include "desk/shell/surroundings.h"
 
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
+#include <vector>
 
 namespace shell {
 
@@ -20,31 +23,67 @@ fs::path temporaryFolder() {
     return pattern;
 }
 
+/// Ours for Node: beside the delivered resources or in the tree that they came from. Nothing where it or what
+/// it needs isn't installed.
+std::optional<std::string> ownConverter() {
+    for (const fs::path& folder : {resourceFolder() / "dwg", resourceFolder().parent_path() / "tools/dwg"}) {
+        std::error_code ignored;
+        if (fs::is_directory(folder / "node_modules", ignored) && fs::exists(folder / "dwg2dxf.mjs", ignored))
+            return (folder / "dwg2dxf.mjs").string();
+    }
+    return std::nullopt;
+}
+
+/// The command that converts `source` to `made`, of the converter that comes first.
+std::vector<std::string> conversion(const fs::path& source, const fs::path& made) {
+    if (const auto dwg2dxf = findProgram("dwg2dxf"))
+        return {*dwg2dxf, "-y", "-o", made.string(), source.string()};
+    const auto node = findProgram("node");
+    const auto own = ownConverter();
+    if (node && own) return {*node, *own, source.string(), made.string()};
+    if (const auto oda = findProgram("ODAFileConverter")) {
+        return {*oda, source.parent_path().string(), made.parent_path().string(), "ACAD2018", "DXF", "0",
+                "1",  source.filename().string()};
+    }
+    throw basic::Error(
+        basic::kFileNotFound,
+        source.string() +
+            " is a DWG file, and no converter is installed: \"tools/setup.sh --dwg\" installs one, "
+            "or dwg2dxf (of LibreDWG) or ODAFileConverter is needed on PATH");
+}
+
+/// A minute is far more than a drawing needs: a converter that takes longer hangs.
+constexpr const char* kSecondsAllowed = "60";
+constexpr int kTimedOut = 124;
+
 }  // namespace
 
 std::string convertDwg(const std::string& dwgPath) {
-    const auto dwg2dxf = findProgram("dwg2dxf");
-    const auto oda = findProgram("ODAFileConverter");
-    if (!dwg2dxf && !oda) {
-        throw basic::Error(basic::kFileNotFound,
-                           dwgPath +
-                               " is a DWG file, and no converter is installed: dwg2dxf (of LibreDWG) or "
-                               "ODAFileConverter is needed on PATH");
-    }
-    const fs::path folder = temporaryFolder();
     const fs::path source = fs::absolute(dwgPath);
+    const fs::path folder = temporaryFolder();
     const fs::path made = folder / (source.stem().string() + ".dxf");
-    const int status = dwg2dxf ? runProgram({*dwg2dxf, "-y", "-o", made.string(), source.string()})
-                               : runProgram({*oda, source.parent_path().string(), folder.string(), "ACAD2018",
-                                             "DXF", "0", "1", source.filename().string()});
+    std::error_code ignored;
+    int status = 0;
+    try {
+        std::vector<std::string> command = conversion(source, made);
+        // Debian's own guard: ends the program when its time is over.
+        if (const auto timeout = findProgram("timeout"))
+            command.insert(command.begin(), {*timeout, "--kill-after=5", kSecondsAllowed});
+        status = runProgram(command);
+    } catch (const basic::Error&) {
+        fs::remove_all(folder, ignored);
+        throw;
+    }
     const fs::path result = folder.string() + ".dxf";
     std::error_code error;
     fs::rename(made, result, error);
-    std::error_code ignored;
     fs::remove_all(folder, ignored);
     if (status != 0 || error) {
         fs::remove(result, ignored);
-        throw basic::Error(basic::kDeviceError, dwgPath + ": the conversion to DXF failed");
+        throw basic::Error(
+            basic::kDeviceError,
+            dwgPath + ": the conversion to DXF failed" +
+                (status == kTimedOut ? std::string(": no end after ") + kSecondsAllowed + " s" : ""));
     }
     return result.string();
 }

@@ -1,5 +1,7 @@
 #include "desk/shell/help_pages.h"
 
+#include "basic/code_page.h"
+
 #include <fstream>
 
 namespace shell {
@@ -20,12 +22,14 @@ std::string pageOf(const fs::path& table, std::int32_t number) {
     return {};
 }
 
-/// The folder of the language of that name: a line is a folder, a blank, a name.
+/// The folder of the language of that name: a line is a folder, a blank, a name. A user may have saved the
+/// table with any line ends, in UTF-8 or in the single-byte code page.
 std::string folderOf(const fs::path& table, std::string_view language) {
     std::ifstream file(table);
     std::string folder, name;
     while (file >> folder && std::getline(file >> std::ws, name)) {
-        if (name == language) return folder;
+        if (name.ends_with('\r')) name.pop_back();
+        if (name == language || basic::fromCodePage(name) == language) return folder;
     }
     return kOtherwise;
 }

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <map>
 #include <sstream>
+#include <vector>
 
 namespace shell {
 
@@ -59,13 +60,18 @@ Delivery readDelivery(const fs::path& folder) {
 std::map<std::string, fs::path> deliveredFiles(const fs::path& resources) {
     std::map<std::string, fs::path> files;
     std::error_code ignored;
-    for (const auto& entry : fs::directory_iterator(resources / "languages", ignored)) {
-        const std::string name = entry.path().filename().string();
-        if (entry.is_regular_file() && !name.starts_with('.')) files[name] = entry.path();
+    for (fs::directory_iterator entry(resources / "languages", ignored);
+         !ignored && entry != fs::directory_iterator(); entry.increment(ignored)) {
+        const std::string name = entry->path().filename().string();
+        std::error_code unseen;
+        if (entry->is_regular_file(unseen) && !name.starts_with('.')) files[name] = entry->path();
     }
-    for (const auto& entry : fs::recursive_directory_iterator(resources / "help", ignored)) {
-        if (!entry.is_regular_file()) continue;
-        files["help/" + fs::relative(entry.path(), resources / "help").generic_string()] = entry.path();
+    for (fs::recursive_directory_iterator entry(resources / "help", ignored);
+         !ignored && entry != fs::recursive_directory_iterator(); entry.increment(ignored)) {
+        std::error_code unseen;
+        if (!entry->is_regular_file(unseen)) continue;
+        files["help/" + entry->path().lexically_relative(resources / "help").generic_string()] =
+            entry->path();
     }
     return files;
 }
@@ -78,7 +84,8 @@ void deliver(const fs::path& folder, const fs::path& resources) {
         const std::string wanted = readBytes(source);
         const auto known = before.find(name);
         std::error_code error;
-        if (fs::exists(target, error)) {
+        // A name that leads to itself, or where we may not look, is there as well.
+        if (fs::symlink_status(target, error).type() != fs::file_type::not_found) {
             if (!fs::is_regular_file(target, error)) fail(folder, name + " is not a file");
             const std::string present = readBytes(target);
             const bool untouched = known != before.end() && checksum(present) == known->second;
@@ -117,13 +124,28 @@ std::string storedLanguage(const fs::path& folder) {
     return {};
 }
 
+void chooseLanguage(const fs::path& folder, const std::string& language) {
+    if (storedLanguage(folder) == language) return;
+    const std::string file = (folder / kSettingsFile).string();
+    std::vector<std::string> lines;
+    for (basic::TextReader reader(file); !reader.atEnd();) {
+        std::string line = reader.readLine();
+        if (!basic::equalIgnoringCase(line.substr(0, 4), "Lng=")) lines.push_back(std::move(line));
+    }
+    lines.push_back("Lng=" + language);
+    basic::TextWriter writer(file, basic::TextWriter::Mode::Replace);
+    for (const std::string& line : lines) writer.writeLine(line);
+    writer.close();
+}
+
 void prepareInstallFolder(const fs::path& folder, const fs::path& resources, const std::string& language) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) fail(folder, error.message());
     deliver(folder, resources);
     const fs::path settings = folder / kSettingsFile;
-    if (!fs::exists(settings, error)) writeBytes(folder, settings, {});
+    if (fs::symlink_status(settings, error).type() == fs::file_type::not_found)
+        writeBytes(folder, settings, {});
     if (!fs::is_regular_file(settings, error)) fail(folder, std::string(kSettingsFile) + " is not a file");
     if (storedLanguage(folder).empty()) storeLanguage(settings, language);
 }

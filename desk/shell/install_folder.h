@@ -13,6 +13,9 @@ namespace shell {
 void prepareInstallFolder(const std::filesystem::path& folder, const std::filesystem::path& resources,
                           const std::string& language);
 
+/// Stores a choice of language in the settings file, in place of the one of before.
+void chooseLanguage(const std::filesystem::path& folder, const std::string& language);
+
 /// The display name of the language that the settings file of an install folder holds; empty for none. Raises
 /// the file errors of basic/text_file.h.
 std::string storedLanguage(const std::filesystem::path& folder);

@@ -30,10 +30,12 @@ std::optional<platform::RegistryValue> LinuxPlatform::queryRegistry(platform::Re
 }
 
 std::vector<std::string> LinuxPlatform::folderFiles(const std::string& folder) {
-    std::error_code error;
+    std::error_code error, unseen;
     std::vector<std::string> files;
-    for (const auto& entry : fs::directory_iterator(folder, error)) {
-        if (!entry.is_directory()) files.push_back(entry.path().string());
+    // A name that leads nowhere, to itself or where we may not look, a pipe or a device is no file.
+    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
+         entry.increment(error)) {
+        if (entry->is_regular_file(unseen)) files.push_back(entry->path().string());
     }
     if (error) throw basic::Error(basic::kPathNotFound, "Path not found: " + folder);
     std::sort(files.begin(), files.end());

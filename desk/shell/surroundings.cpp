@@ -28,6 +28,11 @@ bool isFrenchDesktop(const ReadVariable& variable) {
     return firstSet(variable, "LC_MESSAGES").starts_with("fr");
 }
 
+std::string languageByCode(std::string_view code) {
+    if (code == "fr") return "Fran\u00E7ais";
+    return code == "en" ? "English" : "";
+}
+
 std::optional<basic::Regional> regionalByName(std::string_view name) {
     if (name == "fr") return basic::Regional::french();
     if (name == "en") return basic::Regional::english();
@@ -47,15 +52,27 @@ fs::path installFolder(const ReadVariable& variable) {
     throw basic::Error(basic::kPathNotFound, "No install folder: neither XDG_DATA_HOME nor HOME is set");
 }
 
+fs::path stateFolder(const ReadVariable& variable) {
+    if (const fs::path state = variable("XDG_STATE_HOME"); state.is_absolute()) return state / "vorlane";
+    if (const std::string home = variable("HOME"); !home.empty())
+        return fs::path(home) / ".local/state/vorlane";
+    return {};
+}
+
 fs::path programFile() {
     std::error_code ignored;
     return fs::read_symlink("/proc/self/exe", ignored);
 }
 
 fs::path resourceFolder() {
-    const fs::path installed = programFile().parent_path().parent_path() / "share/vorlane";
+    // Where nobody tells the running program's file, such as in a bare root without /proc, the usual place
+    // serves.
     std::error_code ignored;
-    return fs::is_directory(installed / "languages", ignored) ? installed : fs::path(VORLANE_RESOURCES);
+    for (const fs::path& folder :
+         {programFile().parent_path().parent_path() / "share/vorlane", fs::path(VORLANE_RESOURCES)}) {
+        if (fs::is_directory(folder / "languages", ignored)) return folder;
+    }
+    return "/usr/share/vorlane";
 }
 
 }  // namespace shell

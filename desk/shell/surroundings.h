@@ -17,6 +17,9 @@ std::string readEnvironment(const char* name);
 /// Whether the user's desktop speaks French: LC_ALL, LC_MESSAGES, LANG, the first that is set.
 bool isFrenchDesktop(const ReadVariable& variable);
 
+/// The display name of the language of a code, "fr" or "en"; empty for another code.
+std::string languageByCode(std::string_view code);
+
 /// "fr" or "en" as regional settings, nothing for another name.
 std::optional<basic::Regional> regionalByName(std::string_view name);
 /// The desktop's settings for numbers: LC_ALL, LC_NUMERIC, LANG, the first that is set; French or English.
@@ -25,6 +28,10 @@ basic::Regional desktopRegional(const ReadVariable& variable);
 /// Where the user's install folder is: "vorlane" below $XDG_DATA_HOME, else below ~/.local/share. Raises
 /// kPathNotFound where neither it nor $HOME is set.
 std::filesystem::path installFolder(const ReadVariable& variable);
+
+/// Where what must outlive a session lies: "vorlane" below $XDG_STATE_HOME, else below ~/.local/state; empty
+/// where neither is set.
+std::filesystem::path stateFolder(const ReadVariable& variable);
 
 /// The running program's file, and the delivered resources beside it: ../share/vorlane, or where the build
 /// found them.

@@ -1,10 +1,14 @@
 #include "faces/text/act_line.h"
 
 #include "basic/text.h"
+#include "faces/text/control_names.h"
 #include "faces/text/form_text.h"
+#include "faces/text/hand.h"
 #include "forms/acts.h"
 #include "forms/controls.h"
+#include "forms/find_entry.h"
 
+#include <cctype>
 #include <charconv>
 #include <optional>
 #include <ostream>
@@ -20,7 +24,17 @@ using forms::ActError;
 using forms::Control;
 using forms::Form;
 
-[[noreturn]] void notUnderstood() { throw ActError("is no act on a dialog"); }
+[[noreturn]] void notUnderstood() { throw ActError("is no act on a dialog; help tells what can be typed"); }
+
+constexpr std::string_view kHelp =
+    "  Name             clicks a button, an option or a check box; a caption does too where it is unique\n"
+    "  Name = text      types into a text box or an edit field; chooses that entry of a list\n"
+    "  Name : text      chooses the entry with that text in any list or combo, whatever the case\n"
+    "  Name # n         chooses entry n: lists and combos from 0, rows of a table from 1\n"
+    "  key F1, key DOWN presses a key; Name key DOWN in that control; key F1 is the dialog's help\n"
+    "  resize w h, move l t   in twips\n"
+    "  show             prints the dialog\n"
+    "  close            the frame's close box\n";
 
 std::vector<std::string_view> words(std::string_view line) {
     std::vector<std::string_view> parts;
@@ -50,6 +64,12 @@ forms::Key keyOf(std::string_view word) {
     return *key;
 }
 
+/// The letter of "ALT+X", in lower case; 0 for another key.
+char acceleratorIn(std::string_view word) {
+    if (word.size() != 5 || !basic::equalIgnoringCase(word.substr(0, 4), "ALT+")) return 0;
+    return static_cast<char>(std::tolower(static_cast<unsigned char>(word[4])));
+}
+
 /// What stands behind an equals sign; one blank after the sign belongs to the sign.
 std::string_view valueAfter(std::string_view line, std::size_t equals) {
     std::string_view value = line.substr(equals + 1);
@@ -63,40 +83,66 @@ bool takesTyping(const Control& control) {
             static_cast<const forms::ComboBox&>(control).editable());
 }
 
-void enter(Form& form, std::string_view name, std::string_view text) {
-    Control& control = acts::controlNamed(form, name);
-    if (takesTyping(control)) {
-        acts::type(control, text);
+void enter(std::ostream& output, Hand& hand, Form& form, std::string_view name, std::string_view text) {
+    Control& control = controlMeant(form, name);
+    if (!takesTyping(control)) {
+        hand.chooseText(control, text);
+        return;
+    }
+    const int entry = forms::findEntry(control, text);
+    hand.type(control, text);
+    if (entry >= 0) {
+        output << "(typed only; \"" << control.name() << " : " << text << "\" chooses the entry)\n";
+    }
+}
+
+/// "Name : text", the entry of that text whatever the case.
+void chooseEntry(Hand& hand, Form& form, std::string_view name, std::string_view text) {
+    Control& control = controlMeant(form, name);
+    const int entry = forms::findEntry(control, text);
+    const std::vector<std::string> entries = forms::entryTexts(control);
+    if (entry >= 0) {
+        hand.chooseIndex(control, entry);
+    } else if (entries.empty()) {
+        hand.chooseText(control, text);  // refuses
     } else {
-        acts::chooseText(control, text);
+        throw ActError(control.name() + " has no entry \"" + std::string(text) + "\"" +
+                       nearText(text, entries));
     }
 }
 
 /// "Name # n" or "Name # n = text", `line` without the number sign and what stands before it.
-void chooseNumbered(std::ostream& output, Form& form, std::string_view name, std::string_view line) {
-    Control& control = acts::controlNamed(form, name);
+void chooseNumbered(std::ostream& output, Hand& hand, Form& form, std::string_view name,
+                    std::string_view line) {
+    Control& control = controlMeant(form, name);
     const std::size_t equals = line.find('=');
     const int index = numberOf<int>(basic::trim(line.substr(0, equals)));
     if (equals == std::string_view::npos) {
-        acts::chooseIndex(control, index);
-    } else if (!acts::editLabel(control, index, valueAfter(line, equals))) {
+        hand.chooseIndex(control, index);
+    } else if (!hand.edit(control, index, valueAfter(line, equals))) {
         output << "The row's text can't be edited.\n";
     }
 }
 
 /// The acts on the form as a whole. Returns false if the line is none of them.
-bool performOnForm(std::ostream& output, Form& form, const std::vector<std::string_view>& parts) {
+bool performOnForm(std::ostream& output, Hand& hand, Form& form, const std::vector<std::string_view>& parts) {
     const std::string_view verb = parts[0];
-    if (verb == "show" && parts.size() == 1) {
+    if ((basic::equalIgnoringCase(verb, "help") || verb == "?") && parts.size() == 1) {
+        output << kHelp;
+    } else if (verb == "show" && parts.size() == 1) {
         printForm(output, form, Detail::Full);
     } else if (verb == "close" && parts.size() == 1) {
-        acts::closeBox(form);
+        hand.closeBox(form);
     } else if (verb == "key" && parts.size() == 2) {
-        acts::key(form, keyOf(parts[1]));
+        if (const char letter = acceleratorIn(parts[1])) {
+            hand.accelerator(form, letter);
+        } else {
+            hand.key(form, keyOf(parts[1]));
+        }
     } else if (verb == "resize" && parts.size() == 3) {
-        acts::resize(form, numberOf<float>(parts[1]), numberOf<float>(parts[2]));
+        hand.resize(form, numberOf<float>(parts[1]), numberOf<float>(parts[2]));
     } else if (verb == "move" && parts.size() == 3) {
-        acts::move(form, numberOf<float>(parts[1]), numberOf<float>(parts[2]));
+        hand.move(form, numberOf<float>(parts[1]), numberOf<float>(parts[2]));
     } else {
         return false;
     }
@@ -105,26 +151,32 @@ bool performOnForm(std::ostream& output, Form& form, const std::vector<std::stri
 
 }  // namespace
 
-void performLine(std::ostream& output, Form& form, std::string_view line) {
+void performLine(std::ostream& output, Hand& hand, Form& form, std::string_view line) {
     const std::vector<std::string_view> parts = words(line);
     if (parts.empty()) notUnderstood();
-    const std::size_t sign = line.find_first_of("=#");
+    const std::size_t sign = line.find_first_of("=#:");
     if (sign != std::string_view::npos) {
-        const std::vector<std::string_view> names = words(line.substr(0, sign));
-        if (names.size() != 1) notUnderstood();
+        const std::string_view name = basic::trim(line.substr(0, sign));
+        if (name.empty()) notUnderstood();
         if (line[sign] == '=') {
-            enter(form, names[0], valueAfter(line, sign));
+            enter(output, hand, form, name, valueAfter(line, sign));
+        } else if (line[sign] == ':') {
+            chooseEntry(hand, form, name, basic::trim(line.substr(sign + 1)));
         } else {
-            chooseNumbered(output, form, names[0], line.substr(sign + 1));
+            chooseNumbered(output, hand, form, name, line.substr(sign + 1));
         }
-    } else if (performOnForm(output, form, parts)) {
+    } else if (performOnForm(output, hand, form, parts)) {
         return;
     } else if (parts.size() == 3 && parts[1] == "key") {
-        acts::key(acts::controlNamed(form, parts[0]), keyOf(parts[2]));
-    } else if (parts.size() == 1) {
-        acts::click(acts::controlNamed(form, parts[0]));
+        Control& control = acts::controlNamed(form, parts[0]);
+        const forms::Key key = keyOf(parts[2]);
+        hand.focus(control);
+        hand.key(form, key);
+    } else if (parts.size() == 4 && parts[1] == "column") {
+        hand.resizeColumn(acts::controlNamed(form, parts[0]), numberOf<int>(parts[2]),
+                          numberOf<float>(parts[3]));
     } else {
-        notUnderstood();
+        hand.click(controlMeant(form, basic::trim(line)));
     }
 }
 

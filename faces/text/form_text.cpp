@@ -47,7 +47,8 @@ class Printer {
     std::vector<const Control*> inReadingOrder(const Control* container) const {
         std::vector<const Control*> inside;
         for (const Control* control : form_.controls()) {
-            const bool drawn = control->has(forms::Property::Bounds) && control->visible();
+            const bool drawn =
+                control->has(forms::Property::Bounds) && control->visible() && !control->isCutOff();
             if (drawn && control->container() == container) inside.push_back(control);
         }
         std::stable_sort(inside.begin(), inside.end(), [](const Control* left, const Control* right) {

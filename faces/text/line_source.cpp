@@ -9,30 +9,54 @@ namespace {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 }  // namespace
 
+void LineSource::showPrompt(std::ostream& output, std::string_view prompt) { output << prompt << std::flush; }
+
 std::optional<std::string> LineSource::readCounted() {
     std::optional<std::string> line = read();
-    if (line) ++lineNumber_;
+    if (line) {
+        ++lineNumber_;
+        line_ = *line;
+    }
     return line;
 }
 
+void LineSource::fail(std::string_view text) {
+    if (interactive()) return;
+    // One line, whatever the text of a message box.
+    std::string reason;
+    for (const char character : text) {
+        if (character != '\r') reason += character == '\n' ? ' ' : character;
+    }
+    reason.resize(reason.find_last_not_of(' ') + 1);
+    const std::string told = "line " + std::to_string(lineNumber_) + ": " + line_ + ": " + reason;
+    if (errors_ == nullptr) throw ScriptError(told);
+    ++failures_;
+    *errors_ << prefix_ << told << std::endl;
+}
+
 std::optional<std::string> LineSource::next(std::ostream& output, std::string_view prompt) {
-    if (interactive()) output << prompt << std::flush;
+    if (interactive()) showPrompt(output, prompt);
     std::optional<std::string> line = readCounted();
-    if (line && !interactive()) output << prompt << *line << '\n';
+    completion_ = nullptr;
+    if (line && !interactive() && echo_) output << prompt << *line << '\n';
     return line;
 }
 
 std::optional<std::string> LineSource::nextAct(std::ostream& output, std::string_view prompt) {
     while (true) {
-        if (interactive()) output << prompt << std::flush;
+        if (interactive()) showPrompt(output, prompt);
         std::optional<std::string> line = readCounted();
-        if (!line) return std::nullopt;
+        if (!line) break;
         const std::size_t start = line->find_first_not_of(" \t");
         if (start == std::string::npos) continue;
         const bool comment = (*line)[start] == ';';
-        if (!interactive()) output << (comment ? std::string_view() : prompt) << *line << '\n';
-        if (!comment) return line->substr(start);
+        if (!interactive() && echo_) output << (comment ? std::string_view() : prompt) << *line << '\n';
+        if (comment) continue;
+        completion_ = nullptr;
+        return line->substr(start);
     }
+    completion_ = nullptr;
+    return std::nullopt;
 }
 
 std::optional<std::string> StreamLines::read() {
@@ -44,14 +68,9 @@ std::optional<std::string> StreamLines::read() {
     return line;
 }
 
-void refuseLine(const LineSource& source, std::ostream& output, std::string_view line,
-                std::string_view reason) {
-    if (source.interactive()) {
-        output << "? " << reason << '\n';
-        return;
-    }
-    throw ScriptError("line " + std::to_string(source.lineNumber()) + ": " + std::string(line) + ": " +
-                      std::string(reason));
+void refuseLine(LineSource& source, std::ostream& output, std::string_view reason) {
+    output << (source.interactive() ? "? " : "! ") << reason << '\n';
+    source.fail(reason);
 }
 
 void endedWhile(std::string_view waiting) {

@@ -2,46 +2,51 @@
 
 #include "basic/text.h"
 #include "faces/text/act_line.h"
+#include "faces/text/completions.h"
 #include "faces/text/form_text.h"
 #include "forms/acts.h"
 #include "forms/file_dialog.h"
 #include "forms/form.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <ostream>
 #include <vector>
 
 namespace text_face {
 
+namespace fs = std::filesystem;
+
 namespace {
 
 using forms::Answer;
-using forms::MessageBox;
+using forms::MessageDialog;
 
 struct NamedAnswer {
     Answer answer;
     const char* word;
 };
 
-std::vector<NamedAnswer> answersOf(MessageBox::Buttons buttons) {
+std::vector<NamedAnswer> answersOf(MessageDialog::Buttons buttons) {
     switch (buttons) {
-        case MessageBox::Buttons::OkCancel:
+        case MessageDialog::Buttons::OkCancel:
             return {{Answer::Ok, "ok"}, {Answer::Cancel, "cancel"}};
-        case MessageBox::Buttons::YesNo:
+        case MessageDialog::Buttons::YesNo:
             return {{Answer::Yes, "yes"}, {Answer::No, "no"}};
-        case MessageBox::Buttons::Ok:
+        case MessageDialog::Buttons::Ok:
             break;
     }
     return {{Answer::Ok, "ok"}};
 }
 
-const char* iconText(MessageBox::Icon icon) {
+const char* iconText(MessageDialog::Icon icon) {
     switch (icon) {
-        case MessageBox::Icon::Exclamation:
+        case MessageDialog::Icon::Exclamation:
             return " (!)";
-        case MessageBox::Icon::Information:
+        case MessageDialog::Icon::Information:
             return " (i)";
-        case MessageBox::Icon::None:
+        case MessageDialog::Icon::None:
             break;
     }
     return "";
@@ -57,7 +62,7 @@ void printBody(std::ostream& output, std::string_view text) {
     }
 }
 
-void printBox(std::ostream& output, const MessageBox& box, const std::vector<NamedAnswer>& answers) {
+void printBox(std::ostream& output, const MessageDialog& box, const std::vector<NamedAnswer>& answers) {
     output << "+-- " << (box.title.empty() ? "Message" : box.title) << iconText(box.icon) << '\n';
     printBody(output, box.text);
     output << "+--";
@@ -65,23 +70,48 @@ void printBox(std::ostream& output, const MessageBox& box, const std::vector<Nam
     output << '\n';
 }
 
+/// The dialogs ask for the host's own drawings; here those in DXF are read as well.
+bool readsDxfToo(const forms::FileDialog::FilterEntry& entry) {
+    const auto has = [&](const char* pattern) {
+        return std::find(entry.patterns.begin(), entry.patterns.end(), pattern) != entry.patterns.end();
+    };
+    return has("*.dwg") && !has("*.dxf");
+}
+
 void printFileDialog(std::ostream& output, const forms::FileDialog& dialog, forms::FileDialogMode mode) {
     const char* untitled = mode == forms::FileDialogMode::Open ? "Open" : "Save as";
     output << "+-- " << (dialog.dialogTitle().empty() ? untitled : dialog.dialogTitle()) << '\n';
-    for (const auto& entry : dialog.filterEntries()) output << "|  " << entry.label << '\n';
+    for (const auto& entry : dialog.filterEntries()) {
+        output << "|  " << entry.label << (readsDxfToo(entry) ? " (.dxf too)" : "") << '\n';
+    }
     if (!dialog.initDir().empty()) output << "|  in " << dialog.initDir() << '\n';
     output << "+-- [file PATH] [cancel]\n";
 }
 
-std::string inFolder(const std::string& folder, const std::string& path) {
-    if (folder.empty()) return path;
-    return (std::filesystem::path(folder) / path).string();
+/// The path that a user means: "~" is the user's own folder, a relative one counts from the dialog's.
+fs::path absolutePath(const std::string& folder, std::string_view typed) {
+    const fs::path path = expandHome(std::string(typed));
+    return fs::absolute(folder.empty() ? path : fs::path(folder) / path).lexically_normal();
+}
+
+/// What a desktop's file dialog would say about the path; empty for one that will do.
+std::string objection(const fs::path& path, forms::FileDialogMode mode) {
+    std::error_code ignored;
+    if (fs::is_directory(path, ignored)) return path.string() + " is a folder";
+    if (mode == forms::FileDialogMode::Open) {
+        return std::ifstream(path).is_open() ? "" : path.string() + " isn't there or can't be read";
+    }
+    if (!fs::is_directory(path.parent_path(), ignored)) {
+        return "there is no folder " + path.parent_path().string();
+    }
+    const bool there = fs::exists(path, ignored);
+    // Opened for appending, so that nothing is lost; what wasn't there goes again.
+    const bool writable = std::ofstream(path, std::ios::app).is_open();
+    if (!there) fs::remove(path, ignored);
+    return writable ? "" : path.string() + " can't be written";
 }
 
 }  // namespace
-
-TextScreen::TextScreen(LineSource& source, std::ostream& output, std::function<void(int)> help)
-    : source_(source), output_(output), help_(std::move(help)) {}
 
 std::string TextScreen::nextLine(std::string_view waiting) {
     std::optional<std::string> line = source_.nextAct(output_);
@@ -89,31 +119,54 @@ std::string TextScreen::nextLine(std::string_view waiting) {
     return *line;
 }
 
-void TextScreen::runModal(forms::Form& form) {
+void TextScreen::printShown(const forms::Form& form) {
     const bool first = form.timesDrawn() == 1;
     output_ << '[' << form.name() << "] " << form.caption() << (first ? "\n" : " (again)\n");
     if (first) printForm(output_, form, Detail::Brief);
-    while (form.visible()) {
-        const std::string line = nextLine(form.name());
-        try {
-            performLine(output_, form, line);
-        } catch (const forms::ActError& error) {
-            refuseLine(source_, output_, line, error.what());
+}
+
+void TextScreen::performNext(forms::Form& form, Hand& hand) {
+    source_.offer([&form](std::string_view beginning) { return actCompletions(form, beginning); });
+    const std::string line = nextLine(form.name());
+    try {
+        if (line == kBreakOff) {
+            hand.key(form, forms::Key::Escape);
+        } else {
+            performLine(output_, hand, form, line);
         }
+    } catch (const forms::ActError& error) {
+        refuseLine(source_, output_, error.what());
     }
+}
+
+void TextScreen::runModal(forms::Form& form) {
+    printShown(form);
+    Hand hand;
+    while (form.visible()) performNext(form, hand);
 }
 
 void TextScreen::hidden(forms::Form& form) { output_ << '[' << form.name() << "] hidden\n"; }
 
-Answer TextScreen::messageBox(const MessageBox& box) {
+Answer TextScreen::messageBox(const MessageDialog& box) {
     const std::vector<NamedAnswer> answers = answersOf(box.buttons);
     printBox(output_, box, answers);
     while (true) {
+        source_.offer([&answers](std::string_view) {
+            std::vector<std::string> words;
+            for (const NamedAnswer& named : answers) words.emplace_back(named.word);
+            return words;
+        });
         const std::string line = nextLine("a message box");
+        // Esc means the last button, unless it is a question that has to be answered.
+        if (line == kBreakOff && box.buttons != MessageDialog::Buttons::YesNo) return answers.back().answer;
         for (const NamedAnswer& named : answers) {
-            if (basic::equalIgnoringCase(basic::trim(line), named.word)) return named.answer;
+            if (!basic::equalIgnoringCase(basic::trim(line), named.word)) continue;
+            // A warning that asks nothing tells that something went wrong: rows that failed, a text that is
+            // no number.
+            if (box.icon == MessageDialog::Icon::Exclamation && answers.size() == 1) source_.fail(box.text);
+            return named.answer;
         }
-        refuseLine(source_, output_, line, "is no button of the message box");
+        refuseLine(source_, output_, "is no button of the message box");
     }
 }
 
@@ -121,20 +174,41 @@ std::optional<std::string> TextScreen::fileDialog(const forms::FileDialog& dialo
                                                   forms::FileDialogMode mode) {
     printFileDialog(output_, dialog, mode);
     while (true) {
+        source_.offer([](std::string_view beginning) {
+            const std::string_view rest = beginning.size() > 5 ? beginning.substr(5) : std::string_view();
+            std::vector<std::string> lines = fileCompletions("file ", rest, {});
+            lines.emplace_back("cancel");
+            return lines;
+        });
         const std::string line = nextLine("a file dialog");
-        if (basic::trim(line) == "cancel") return std::nullopt;
-        if (line.starts_with("file ")) {
-            const std::string path(basic::trim(std::string_view(line).substr(5)));
-            if (!path.empty()) return inFolder(dialog.initDir(), path);
+        if (basic::trim(line) == "cancel" || line == kBreakOff) return std::nullopt;
+        const std::string_view typed =
+            line.starts_with("file ") ? basic::trim(std::string_view(line).substr(5)) : std::string_view();
+        if (typed.empty()) {
+            refuseLine(source_, output_, "is neither \"file PATH\" nor \"cancel\"");
+            continue;
         }
-        refuseLine(source_, output_, line, "is neither \"file PATH\" nor \"cancel\"");
+        const fs::path path = absolutePath(dialog.initDir(), typed);
+        const std::string reason = objection(path, mode);
+        if (!reason.empty()) refuseLine(source_, output_, reason);
+        if (!source_.interactive() || (reason.empty() && mayOverwrite(path, mode))) return path.string();
     }
 }
 
-void TextScreen::reportFailure(std::int32_t number, const std::string& description) {
-    output_ << "! Error " << number << ": " << description << '\n';
+bool TextScreen::mayOverwrite(const std::filesystem::path& path, forms::FileDialogMode mode) {
+    std::error_code ignored;
+    if (mode == forms::FileDialogMode::Open || !fs::exists(path, ignored)) return true;
+    const std::optional<std::string> answer =
+        source_.next(output_, path.string() + " is there already. Overwrite it? [yes/no] ");
+    return answer && basic::equalIgnoringCase(basic::trim(*answer), "yes");
 }
 
-void TextScreen::showHelp(int context) { help_(context); }
+void TextScreen::reportFailure(std::int32_t number, const std::string& description) {
+    const std::string failure = "Error " + std::to_string(number) + ": " + description;
+    output_ << "! " << failure << '\n';
+    const std::string advice = explain_ ? explain_(number) : std::string();
+    if (!advice.empty()) output_ << "  " << advice << '\n';
+    source_.fail(failure);
+}
 
 }  // namespace text_face

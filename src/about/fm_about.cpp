@@ -8,8 +8,7 @@
 
 namespace about {
 
-fmAbout::fmAbout(session::Session& session)
-    : Form("fmAbout", "001", "A propos de ", 100100), session_(session) {
+fmAbout::fmAbout(session::Session& session) : Dialog(session, "fmAbout", "001", "A propos de ", 100100) {
     setIcon("vorlane");
     layOut();
     Combo1.onChange = [this] { Combo1_Change(); };
@@ -42,6 +41,7 @@ void fmAbout::layOut() {
     OKButton.setCaption("OK");
     OKButton.setDefault(true);
     OKButton.setCancel(true);
+    setFirstFocus(OKButton);
 }
 
 void fmAbout::Form_Initialize() {

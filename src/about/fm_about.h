@@ -1,13 +1,13 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "session/session.h"
+#include "language/dialog.h"
 
 namespace about {
 
 /// The product's identity and the one choice of language. It is made early, by the first dialog that takes
 /// its icon from it, and lives as long as the component: its list is that of the languages found then.
-class fmAbout : public forms::Form {
+class fmAbout : public language::Dialog {
   public:
     explicit fmAbout(session::Session& session);
 
@@ -36,8 +36,6 @@ class fmAbout : public forms::Form {
     void Combo1_Click();
     void BtnWeb_Click();
     void OKButton_Click();
-
-    session::Session& session_;
 };
 
 }  // namespace about

@@ -7,7 +7,7 @@
 
 namespace about {
 
-fmHelp::fmHelp(session::Session& session) : Form("fmHelp", "007", "Aide "), session_(session) {
+fmHelp::fmHelp(session::Session& session) : Dialog(session, "fmHelp", "007", "Aide ") {
     resizeTo(4920 + kFrameWidth, 1380 + kFrameHeight);
     BtnHelp.place(120, 180, 2280, 375);
     BtnHelp.setCaption("Aide local");

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "session/session.h"
+#include "language/dialog.h"
 
 namespace about {
 
 /// The way to the local help and to the support page. No command opens it; it isn't translated, and it hides
 /// itself as soon as its showing has opened the help.
-class fmHelp : public forms::Form {
+class fmHelp : public language::Dialog {
   public:
     explicit fmHelp(session::Session& session);
 
@@ -25,8 +25,6 @@ class fmHelp : public forms::Form {
     void BtnHelp_Click();
     void Command1_Click();
     void cmdOK_Click();
-
-    session::Session& session_;
 };
 
 }  // namespace about

@@ -4,7 +4,8 @@
 
 namespace about {
 
-fmHelpHidden::fmHelpHidden() : Form("fmHelpHidden", "008", "Boîte de dialogue") {}
+fmHelpHidden::fmHelpHidden(session::Session& session)
+    : Dialog(session, "fmHelpHidden", "008", "Boîte de dialogue") {}
 
 void fmHelpHidden::Form_Activate() {
     forms::acts::key(*this, forms::Key::F1);  // returns when the key has been processed

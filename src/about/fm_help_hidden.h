@@ -1,14 +1,14 @@
 #pragma once
 
-#include "forms/form.h"
+#include "language/dialog.h"
 
 namespace about {
 
 /// The dialog of the help command, never seen: shown, it presses F1 in itself and hides. Without a help
 /// context of its own it opens the help at the start page.
-class fmHelpHidden : public forms::Form {
+class fmHelpHidden : public language::Dialog {
   public:
-    fmHelpHidden();
+    explicit fmHelpHidden(session::Session& session);
 
   protected:
     void Form_Activate() override;

@@ -11,7 +11,7 @@ using session::Session;
 void registerForms(Session& session) {
     session.registerForm("fmAbout", [](Session& s) { return std::make_unique<fmAbout>(s); });
     session.registerForm("fmHelp", [](Session& s) { return std::make_unique<fmHelp>(s); });
-    session.registerForm("fmHelpHidden", [](Session&) { return std::make_unique<fmHelpHidden>(); });
+    session.registerForm("fmHelpHidden", [](Session& s) { return std::make_unique<fmHelpHidden>(s); });
 }
 
 }  // namespace about

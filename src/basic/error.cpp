@@ -8,10 +8,18 @@ const char* standardDescription(ErrorNumber number) {
             return "Invalid procedure call or argument";
         case kOverflow:
             return "Overflow";
+        case kOutOfMemory:
+            return "Out of memory";
         case kSubscript:
             return "Subscript out of range";
         case kTypeMismatch:
             return "Type mismatch";
+        case kOutOfStringSpace:
+            return "Out of string space";
+        case kOutOfStackSpace:
+            return "Out of stack space";
+        case kInternalError:
+            return "Internal error";
         case kBadFileName:
             return "Bad file name or number";
         case kFileNotFound:

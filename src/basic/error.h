@@ -12,8 +12,12 @@ namespace basic {
 enum ErrorNumber : std::int32_t {
     kInvalidCall = 5,        ///< a call that can't be done now, such as focus on a hidden control
     kOverflow = 6,           ///< a number beyond its type, 16-bit counters above all
+    kOutOfMemory = 7,        ///< no memory left for what was asked
     kSubscript = 9,          ///< an index outside its array or collection
     kTypeMismatch = 13,      ///< a text that isn't a number, a value of the wrong kind
+    kOutOfStringSpace = 14,  ///< a text longer than any that is read
+    kOutOfStackSpace = 28,   ///< something nested deeper than it may
+    kInternalError = 51,     ///< a failure of our own, met at a border
     kBadFileName = 52,       ///< an empty or impossible file name
     kFileNotFound = 53,      ///< no file of that name
     kDeviceError = 57,       ///< reading or writing failed half-way

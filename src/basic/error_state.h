@@ -1,5 +1,6 @@
 #pragma once
 
+#include "basic/border.h"
 #include "basic/error.h"
 
 #include <string>
@@ -21,7 +22,7 @@ class ErrorState {
     template <typename Statement>
     bool skip(Statement&& statement) {
         try {
-            std::forward<Statement>(statement)();
+            acrossBorder(std::forward<Statement>(statement));
             return true;
         } catch (const Error& error) {
             note(error);
@@ -33,7 +34,7 @@ class ErrorState {
     template <typename Condition>
     bool test(Condition&& condition) {
         try {
-            return std::forward<Condition>(condition)();
+            return acrossBorder(std::forward<Condition>(condition));
         } catch (const Error& error) {
             note(error);
             return true;

@@ -10,7 +10,7 @@ namespace {
 
 bool isDigit(char byte) { return byte >= '0' && byte <= '9'; }
 
-bool isExponentMark(char byte) { return byte == 'E' || byte == 'e' || byte == 'D' || byte == 'd'; }
+constexpr std::string_view kExponentMarks = "EeDd";
 
 /// The separators that are blanks, which stand for one another as thousands separators: blank, no-break space
 /// and narrow no-break space.
@@ -75,8 +75,8 @@ class Scanner {
         return take('-') ? -1 : 0;
     }
     /// An exponent mark with its digits. A mark without digits stays where it is.
-    void takeExponent(long& exponent) {
-        if (!isExponentMark(peek())) return;
+    void takeExponent(long& exponent, std::string_view marks) {
+        if (atEnd() || marks.find(peek()) == std::string_view::npos) return;
         const std::size_t signs = peek(1) == '+' || peek(1) == '-' ? 1 : 0;
         if (!isDigit(peek(1 + signs))) return;
         const bool negative = peek(1) == '-';
@@ -111,7 +111,8 @@ std::optional<double> takeBased(Scanner& scanner) {
 }
 
 /// Digits with thousands separators and a decimal separator, then an exponent. False without any digit.
-bool takeDecimal(Scanner& scanner, const Regional& regional, Plain& plain) {
+bool takeDecimal(Scanner& scanner, const Regional& regional, Plain& plain,
+                 std::string_view exponentMarks = kExponentMarks) {
     bool digits = false, behindPoint = false;
     while (!scanner.atEnd()) {
         if (isDigit(scanner.peek())) {
@@ -125,7 +126,7 @@ bool takeDecimal(Scanner& scanner, const Regional& regional, Plain& plain) {
             break;
         }
     }
-    if (digits) scanner.takeExponent(plain.exponent);
+    if (digits) scanner.takeExponent(plain.exponent, exponentMarks);
     return digits;
 }
 
@@ -157,14 +158,6 @@ std::optional<double> readBased(std::string_view text) {
     return scanner.atEnd() ? value : std::nullopt;
 }
 
-/// A hexadecimal or octal number as the classic run-time reads it: what fits into 16 or 32 bits is signed,
-/// unless a "&" behind the digits asks for 32 bits.
-double signedValue(double value, bool wide) {
-    if (!wide && value <= 0xFFFF) return static_cast<std::int16_t>(static_cast<std::uint16_t>(value));
-    if (value <= 0xFFFFFFFF) return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
-    return value;
-}
-
 }  // namespace
 
 bool isNumeric(std::string_view text, const Regional& regional) {
@@ -178,14 +171,11 @@ double toDouble(std::string_view text, const Regional& regional) {
 }
 
 double leadingNumber(std::string_view text) {
-    std::string packed(text);
-    std::erase_if(packed, [](char byte) { return byte == ' ' || byte == '\t' || byte == '\n'; });
-    Scanner scanner(packed);
-    if (const std::optional<double> based = takeBased(scanner))
-        return signedValue(*based, scanner.peek() == '&');
+    Scanner scanner(text);
+    scanner.skipBlanks();
     Plain plain;
     plain.negative = scanner.takeSign() < 0;
-    return takeDecimal(scanner, {".", ""}, plain) ? plain.value() : 0;
+    return takeDecimal(scanner, {".", ""}, plain, "Ee") ? plain.value() : 0;
 }
 
 }  // namespace basic

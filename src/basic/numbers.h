@@ -47,9 +47,9 @@ inline double toDouble(const char* text, const Regional& regional) {
 /// Any variant: text by the rule above, numbers as they are, a Boolean as -1 or 0, empty as 0.
 double toDouble(const Variant& value, const Regional& regional);
 
-/// The number that stops at the first foreign character: blanks are passed over, the decimal separator is a
-/// point whatever the regional settings, an exponent is taken, and a text that begins with no number
-/// gives 0. "&H" and "&O" begin a hexadecimal and an octal number. Raises kOverflow beyond a 64-bit float.
+/// The longest number that the text begins with, blanks before it aside: a sign, digits, a point whatever the
+/// regional settings, an exponent behind an "E". A text that begins with none gives 0. Raises kOverflow
+/// beyond a 64-bit float.
 double leadingNumber(std::string_view text);
 
 /// Rounded to 16 bits, a half going to the even neighbour. Raises kOverflow outside -32,768 to 32,767.

@@ -2,6 +2,7 @@
 
 #include "basic/code_page.h"
 #include "basic/error.h"
+#include "basic/path.h"
 
 #include <algorithm>
 #include <array>
@@ -14,11 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path nativePath(const std::string& path) {
-    return {reinterpret_cast<const char8_t*>(path.data()),
-            reinterpret_cast<const char8_t*>(path.data()) + path.size()};
-}
-
 /// Raises an error with its standard description and the file that it is about.
 [[noreturn]] void raiseAbout(ErrorNumber number, const std::string& path) {
     throw Error(number, std::string(standardDescription(number)) + ": " + path);
@@ -29,7 +25,7 @@ fs::path nativePath(const std::string& path) {
     std::error_code ignored;
     switch (reason) {
         case ENOENT: {
-            const fs::path folder = nativePath(path).parent_path();
+            const fs::path folder = toPath(path).parent_path();
             const bool folderThere = folder.empty() || fs::is_directory(folder, ignored);
             raiseAbout(folderThere ? kFileNotFound : kPathNotFound, path);
         }
@@ -40,8 +36,7 @@ fs::path nativePath(const std::string& path) {
         case EACCES:
         case EPERM:
         case EROFS:
-            raiseAbout(fs::is_directory(nativePath(path), ignored) ? kPathFileAccess : kPermissionDenied,
-                       path);
+            raiseAbout(fs::is_directory(toPath(path), ignored) ? kPathFileAccess : kPermissionDenied, path);
         case EINVAL:
         case ENAMETOOLONG:
             raiseAbout(kBadFileName, path);
@@ -56,67 +51,86 @@ fs::path nativePath(const std::string& path) {
     }
 }
 
-std::FILE* openFile(const std::string& path, const char* mode) {
+/// Refuses what no file can be before it is opened: a pipe would wait for its other end.
+void requireFile(const std::string& path, bool reading) {
     if (path.empty() || path.find('\0') != std::string::npos) throw Error(kBadFileName);
-    errno = 0;
-    std::FILE* file = std::fopen(path.c_str(), mode);
-    if (file == nullptr) raise(path, errno);
-    return file;
+    std::error_code unseen;
+    const fs::file_type type = fs::status(toPath(path), unseen).type();
+    const bool pipe = type == fs::file_type::fifo || type == fs::file_type::socket;
+    const bool device = type == fs::file_type::character || type == fs::file_type::block;
+    if (pipe || (device && reading)) raiseAbout(kPathFileAccess, path);
 }
 
-std::string readWhole(const std::string& path) {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(openFile(path, "rb"), std::fclose);
-    std::string bytes;
-    std::array<char, 65536> chunk;
-    for (;;) {
-        errno = 0;
-        const std::size_t count = std::fread(chunk.data(), 1, chunk.size(), file.get());
-        bytes.append(chunk.data(), count);
-        if (count == chunk.size()) continue;
-        // A folder opens like a file on some systems and fails only here.
-        if (std::ferror(file.get()) != 0) raise(path, errno);
-        return bytes;
-    }
+template <typename Stream>
+void open(Stream& stream, const std::string& path, std::ios::openmode mode) {
+    requireFile(path, (mode & std::ios::in) != 0);
+    errno = 0;
+    stream.open(toPath(path), mode);
+    if (!stream) raise(path, errno);
 }
 
 }  // namespace
 
-TextReader::TextReader(const std::string& path) : bytes_(readWhole(path)) {}
+TextReader::TextReader(const std::string& path) : path_(path) {
+    open(file_, path, std::ios::in | std::ios::binary);
+    fill();
+}
+
+/// Reads on; false at the file's end. A folder opens like a file on some systems and fails only here.
+bool TextReader::fill() {
+    constexpr std::size_t kChunk = 65536;
+    bytes_.erase(0, position_);
+    position_ = 0;
+    const std::size_t before = bytes_.size();
+    bytes_.resize(before + kChunk);
+    errno = 0;
+    file_.read(bytes_.data() + before, kChunk);
+    bytes_.resize(before + static_cast<std::size_t>(file_.gcount()));
+    if (file_.bad()) raise(path_, errno);
+    return bytes_.size() > before;
+}
 
 std::string TextReader::readLine() {
     if (atEnd()) throw Error(kInputPastEnd);
-    const std::string_view rest = std::string_view(bytes_).substr(position_);
-    const std::size_t length = std::min(rest.find('\r'), rest.size());
+    std::size_t length = 0;
+    for (;;) {
+        const std::size_t end = bytes_.find('\r', position_ + length);
+        length = std::min(end, bytes_.size()) - position_;
+        if (length > kLongestLine) raiseAbout(kOutOfStringSpace, path_);
+        // The byte behind a carriage return must be in memory too: a pair may lie across two chunks.
+        if (end < bytes_.size() && end + 1 < bytes_.size()) break;
+        if (!fill()) break;
+    }
+    const std::string line = fromCodePage(std::string_view(bytes_).substr(position_, length));
     position_ += length;
-    if (length < rest.size()) ++position_;
-    if (length < rest.size() && position_ < bytes_.size() && bytes_[position_] == '\n') ++position_;
-    return fromCodePage(rest.substr(0, length));
+    if (position_ < bytes_.size()) ++position_;
+    if (position_ < bytes_.size() && bytes_[position_] == '\n') ++position_;
+    if (atEnd()) fill();
+    return line;
 }
 
-TextWriter::TextWriter(const std::string& path, Mode mode)
-    : path_(path), file_(openFile(path, mode == Mode::Append ? "ab" : "wb")) {}
-
-TextWriter::~TextWriter() {
-    if (file_ != nullptr) std::fclose(file_);
+TextWriter::TextWriter(const std::string& path, Mode mode) : path_(path) {
+    open(file_, path,
+         std::ios::out | std::ios::binary | (mode == Mode::Append ? std::ios::app : std::ios::trunc));
 }
 
 void TextWriter::writeLine(std::string_view text) {
-    if (file_ == nullptr) throw Error(kBadFileName);
+    if (!file_.is_open()) throw Error(kBadFileName);
     const std::string line = toCodePage(text) + "\r\n";
     errno = 0;
-    if (std::fwrite(line.data(), 1, line.size(), file_) != line.size()) raise(path_, errno);
+    if (!file_.write(line.data(), static_cast<std::streamsize>(line.size()))) raise(path_, errno);
 }
 
 void TextWriter::close() {
-    if (file_ == nullptr) return;
-    std::FILE* file = file_;
-    file_ = nullptr;
-    errno = 0;
-    int reason = std::fflush(file) != 0 ? errno : 0;
+    if (!file_.is_open()) return;
     // A write may have failed without a word to its caller, when the caller skips errors.
-    if (reason == 0 && std::ferror(file) != 0) reason = EIO;
-    if (std::fclose(file) != 0 && reason == 0) reason = errno;
-    if (reason != 0) raise(path_, reason);
+    const bool failedBefore = !file_;
+    errno = 0;
+    const bool flushed = file_.rdbuf()->pubsync() == 0;
+    int reason = flushed ? 0 : errno;
+    const bool closed = file_.rdbuf()->close() != nullptr;
+    if (flushed && !closed) reason = errno;
+    if (failedBefore || !flushed || !closed) raise(path_, reason);
 }
 
 }  // namespace basic

@@ -1,28 +1,35 @@
 #pragma once
 
-#include <cstdio>
-#include <memory>
+#include <cstddef>
+#include <fstream>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace basic {
 
 /// Sequential text files in the single-byte code page, each opened and closed within one call of the logic.
-/// Failures raise kBadFileName, kFileNotFound, kPathNotFound, kPathFileAccess (a folder), kPermissionDenied,
-/// kDiskFull or kDeviceError.
+/// Failures raise kBadFileName, kFileNotFound, kPathNotFound, kPathFileAccess (a folder, a pipe, a device),
+/// kPermissionDenied, kDiskFull or kDeviceError.
 
-/// Reads line by line. A line ends at a carriage return or at carriage return and line feed; a lone line feed
-/// is part of the line.
+/// Reads line by line, with no more of the file in memory than a line and some. A line ends at a carriage
+/// return or at carriage return and line feed; a lone line feed is part of the line.
 class TextReader {
   public:
+    /// The longest line, in bytes of the file.
+    static constexpr std::size_t kLongestLine = std::size_t{16} << 20;
+
     explicit TextReader(const std::string& path);
     bool atEnd() const { return position_ >= bytes_.size(); }
-    /// The next line as UTF-8, without its end. Past the end raises kInputPastEnd.
+    /// The next line as UTF-8, without its end. Past the end raises kInputPastEnd; a line longer than
+    /// kLongestLine raises kOutOfStringSpace.
     std::string readLine();
 
   private:
-    std::string bytes_;
+    bool fill();
+
+    std::string path_;
+    std::ifstream file_;
+    std::string bytes_;  ///< what was read of the file, from the line in hand on
     std::size_t position_ = 0;
 };
 
@@ -31,9 +38,6 @@ class TextWriter {
   public:
     enum class Mode { Replace, Append };  ///< Replace empties an existing file; both create a new one
     TextWriter(const std::string& path, Mode mode);
-    ~TextWriter();
-    TextWriter(const TextWriter&) = delete;
-    TextWriter& operator=(const TextWriter&) = delete;
 
     /// Raises kBadFileName after `close`.
     void writeLine(std::string_view text);
@@ -42,7 +46,7 @@ class TextWriter {
 
   private:
     std::string path_;
-    std::FILE* file_ = nullptr;
+    std::ofstream file_;
 };
 
 }  // namespace basic

@@ -64,11 +64,11 @@ const char* kindName(Variant::Kind kind) {
             return "text";
         case Variant::Kind::Object:
             return "object";
-        case Variant::Kind::Array:
+        case Variant::Kind::VariantArray:
             return "array";
-        case Variant::Kind::Doubles:
+        case Variant::Kind::DoubleArray:
             return "array of numbers";
-        case Variant::Kind::Shorts:
+        case Variant::Kind::ShortArray:
             return "array of 16-bit integers";
     }
     return "unknown";

@@ -32,7 +32,19 @@ using Shorts = std::vector<std::int16_t>;  ///< array of 16-bit integers, from 0
 /// an object variant without an object is "nothing".
 class Variant {
   public:
-    enum class Kind { Empty, Missing, Boolean, Int16, Int32, Double, Text, Object, Array, Doubles, Shorts };
+    enum class Kind {
+        Empty,
+        Missing,
+        Boolean,
+        Int16,
+        Int32,
+        Double,
+        Text,
+        Object,
+        VariantArray,
+        DoubleArray,
+        ShortArray
+    };
 
     Variant() = default;
     Variant(Missing) : value_(Missing{}) {}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/selection.h"
+#include "host/document.h"
 
 #include <string_view>
 

@@ -15,7 +15,7 @@ constexpr std::int32_t kNotABlock = 105;
 constexpr std::int32_t kPickTitle = 106;
 
 forms::Answer askWhetherToGoOn(const Session& session) {
-    using Box = forms::MessageBox;
+    using Box = forms::MessageDialog;
     return session.screen().messageBox({language::GetMsg(session, kNotABlock),
                                         session.AppTitle + language::GetMsg(session, kPickTitle),
                                         Box::Buttons::OkCancel, Box::Icon::Exclamation});

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/block_reference.h"
-#include "host/selection.h"
+#include "host/document.h"
+#include "host/entities.h"
 #include "session/session.h"
 
 #include <string>

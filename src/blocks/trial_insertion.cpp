@@ -1,7 +1,7 @@
 #include "blocks/trial_insertion.h"
 
 #include "host/document.h"
-#include "host/point.h"
+#include "host/object.h"
 
 namespace blocks {
 

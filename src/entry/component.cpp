@@ -6,8 +6,6 @@
 #include "labels/labels_command.h"
 #include "replace/replace_command.h"
 
-#include <optional>
-
 namespace entry {
 
 Component::Component(platform::Platform& platform, forms::Screen& screen)
@@ -20,10 +18,5 @@ Component::Component(platform::Platform& platform, forms::Screen& screen)
 }
 
 std::shared_ptr<VnObj0100> Component::createVnObj0100() { return std::make_shared<VnObj0100>(session_); }
-
-void Component::showHelp(std::int32_t context) {
-    const auto topic = context == 0 ? std::nullopt : std::optional(context);
-    session_->platform().showHelp(session_->HelpFile, topic);
-}
 
 }  // namespace entry

@@ -5,7 +5,6 @@
 #include "platform/platform.h"
 #include "session/session.h"
 
-#include <cstdint>
 #include <memory>
 #include <string_view>
 
@@ -22,9 +21,6 @@ class Component {
 
     session::Session& session() { return *session_; }
     std::shared_ptr<VnObj0100> createVnObj0100();
-
-    /// What F1 in a dialog does: opens the help file at a help context number, at its start page for 0.
-    void showHelp(std::int32_t context);
 
   private:
     std::shared_ptr<session::Session> session_;

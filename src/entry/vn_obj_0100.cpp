@@ -1,5 +1,6 @@
 #include "entry/vn_obj_0100.h"
 
+#include "basic/border.h"
 #include "basic/error_state.h"
 #include "basic/text.h"
 #include "entry/vlax_obj.h"
@@ -8,10 +9,12 @@
 #include "language/language.h"
 #include "platform/platform.h"
 #include "platform/version.h"
+#include "session/entry_file.h"
 #include "session/settings.h"
 
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace entry {
 namespace {
@@ -29,6 +32,25 @@ void forEachCell(Visit&& visit) {
         for (int j = 0; j < Session::kTableColumns; ++j) visit(i, j);
 }
 
+/// Tells once of each settings or language file that an editor saved with line feeds alone. No language file
+/// can say it, since it may be the one that is meant.
+void warnOfLineFeeds(Session& session) {
+    std::vector<std::string> files{session.IniFile};
+    for (const session::LngRecord& language : session.LngList) files.push_back(language.File);
+    for (const std::string& file : files) {
+        if (session.toldFiles.contains(file) || !session::hasBareLineFeeds(file)) continue;
+        session.toldFiles.insert(file);
+        forms::MessageDialog box;
+        box.text = file +
+                   "\r\n\r\nCe fichier a été enregistré avec des fins de ligne LF seules : il est lu comme "
+                   "une seule ligne. Enregistrez-le avec des fins de ligne CR LF.\r\n\r\nThis file was saved "
+                   "with LF line ends alone, so it is read as one line. Save it with CR LF line ends.";
+        box.title = session.AppTitle;
+        box.icon = forms::MessageDialog::Icon::Exclamation;
+        session.screen().messageBox(box);
+    }
+}
+
 [[noreturn]] void noSuchMember(std::string_view member) {
     throw basic::Error(basic::kNoSuchMember, "VnObj0100 has no member " + std::string(member));
 }
@@ -37,12 +59,16 @@ void forEachCell(Visit&& visit) {
 
 VnObj0100::VnObj0100(std::shared_ptr<Session> session) : session_(std::move(session)) {}
 
-VnObj0100::~VnObj0100() { Class_Terminate(); }
+VnObj0100::~VnObj0100() {
+    basic::inDestructor([&] { Class_Terminate(); });
+}
 
 void VnObj0100::Exec(const host::Variant& Doc) {
     try {
-        setUp(Doc);
-        session_->form("fmOwner").show(session_->screen());
+        basic::acrossBorder([&] {
+            setUp(Doc);
+            session_->form("fmOwner").show(session_->screen());
+        });
     } catch (const basic::Error& error) {
         ReportError(*session_, error);
     }
@@ -66,6 +92,7 @@ void VnObj0100::setUp(const host::Variant& Doc) {
     session.LngFolder = session.InstallPath;
     session.CurLng.Name = session::readSetting(session, "Lng");
     language::LoadLanguages(session);
+    warnOfLineFeeds(session);
     session.CmdCode = ReadLispCommand(session, kCommandSymbol);
     forEachCell(
         [&](int i, int j) { session.VTable[i][j] = session::readSetting(session, session::tableKey(i, j)); });
@@ -98,10 +125,10 @@ host::Variant VnObj0100::call(std::string_view member, host::Arguments& argument
 void VnObj0100::enumerate(const std::function<bool(const host::Variant&)>&) { noSuchMember("_NewEnum"); }
 
 void ReportError(Session& session, const basic::Error& error) {
-    forms::MessageBox box;
+    forms::MessageDialog box;
     box.text = "Erreur " + std::to_string(error.number()) + "\r\n" + error.description();
     box.title = session.AppTitle;
-    box.icon = forms::MessageBox::Icon::Exclamation;
+    box.icon = forms::MessageDialog::Icon::Exclamation;
     session.screen().messageBox(box);
 }
 

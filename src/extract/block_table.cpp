@@ -1,6 +1,6 @@
 #include "extract/block_table.h"
 
-#include "host/point.h"
+#include "host/object.h"
 
 namespace extract {
 namespace {

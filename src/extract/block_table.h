@@ -3,8 +3,8 @@
 #include "basic/error_state.h"
 #include "basic/numbers.h"
 #include "forms/list_view.h"
-#include "host/block_reference.h"
-#include "host/selection.h"
+#include "host/document.h"
+#include "host/entities.h"
 
 #include <utility>
 

@@ -3,6 +3,7 @@
 #include "extract/fm_extract.h"
 #include "extract/fm_re_insert.h"
 #include "extract/fm_vn_message.h"
+#include "language/dialog.h"
 
 #include <memory>
 
@@ -17,7 +18,7 @@ void registerForms(Session& session) {
 void StartReInsert(Session& session) {
     auto& dialog = session.form<fmReInsert>("fmReInsert");
     do {
-        dialog.show(session.screen(), &session.form("fmOwner"));
+        language::showOwned(session, dialog);
     } while (!dialog.IsClosed);
 }
 

@@ -7,7 +7,6 @@
 #include "extract/messages.h"
 #include "extract/selection_set.h"
 #include "forms/screen.h"
-#include "language/language.h"
 #include "language/translation.h"
 #include "platform/platform.h"
 
@@ -22,8 +21,7 @@ constexpr int kWindowRow = 22;
 }  // namespace
 
 fmExtract::fmExtract(session::Session& session)
-    : Form("fmExtract", "006", "Extraction des données des blocs", 100600),
-      session_(session),
+    : Dialog(session, "fmExtract", "006", "Extraction des données des blocs", 100600),
       window_(session, kWindowRow) {
     layOut();
     wire();
@@ -32,6 +30,8 @@ fmExtract::fmExtract(session::Session& session)
 void fmExtract::layOut() {
     setResizable(true);
     resizeTo(kLeastWidth, kLeastHeight);
+    setLeastSize(kLeastWidth, kLeastHeight);
+    setFirstFocus(BtnNew);
     Label0.place(285, 195, 1245, 255);
     Label0.setCaption("Nom du bloc :");
     Label1.place(1530, 195, 6975, 255);
@@ -134,7 +134,7 @@ host::BlockReference fmExtract::pickModel(SkipAtFirst& regime) {
 std::string fmExtract::askHowToGoOn(const std::string& name) {
     auto& question = session_.form<fmVnMessage>("fmVnMessage");
     question.Label1.setCaption(message(kPicked) + name + "'");
-    question.show(session_.screen(), &session_.form("fmOwner"));
+    language::showOwned(session_, question);
     return question.Text1.text();
 }
 
@@ -162,7 +162,7 @@ void fmExtract::BtnErase_Click() {
 
 /// The save shows the dialog again: this handler goes on only when a second close has ended that show.
 void fmExtract::BtnClose_Click() {
-    using Box = forms::MessageBox;
+    using Box = forms::MessageDialog;
     if (CheckBox1.value() == 0) {
         const Box question{message(kNotSaved) + "\r\n" + message(kSaveNow), session_.AppTitle,
                            Box::Buttons::YesNo, Box::Icon::None};
@@ -171,9 +171,5 @@ void fmExtract::BtnClose_Click() {
     BtnErase_Click();
     hide();
 }
-
-std::string fmExtract::message(std::int32_t id) const { return language::GetMsg(session_, id); }
-
-void fmExtract::showAgain() { show(session_.screen(), &session_.form("fmOwner")); }
 
 }  // namespace extract

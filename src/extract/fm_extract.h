@@ -3,8 +3,8 @@
 #include "extract/block_table.h"
 #include "extract/window_row.h"
 #include "forms/controls.h"
-#include "host/block_reference.h"
-#include "session/session.h"
+#include "host/entities.h"
+#include "language/dialog.h"
 
 #include <cstdint>
 #include <string>
@@ -16,7 +16,7 @@ namespace extract {
 /// It hides itself for every step that needs the drawing or a file dialog and comes back by a modal show of
 /// its own within the handler; these shows end together when it is closed. A failure in the drawing ends the
 /// handler with the dialog hidden, and the command with it.
-class fmExtract : public forms::Form {
+class fmExtract : public language::Dialog {
   public:
     explicit fmExtract(session::Session& session);
 
@@ -52,11 +52,6 @@ class fmExtract : public forms::Form {
     void BtnErase_Click();
     void BtnClose_Click();
 
-    std::string message(std::int32_t id) const;
-    /// Shows the dialog modally again, within the handler that hid it.
-    void showAgain();
-
-    session::Session& session_;
     WindowRow window_;
 };
 

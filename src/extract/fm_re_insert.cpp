@@ -23,7 +23,7 @@
 
 namespace extract {
 
-using Box = forms::MessageBox;
+using Box = forms::MessageDialog;
 
 namespace {
 
@@ -240,9 +240,5 @@ void fmReInsert::BtnClose_Click() {
     IsClosed = true;
     hide();
 }
-
-std::string fmReInsert::message(std::int32_t id) const { return language::GetMsg(session_, id); }
-
-void fmReInsert::showAgain() { show(session_.screen(), &session_.form("fmOwner")); }
 
 }  // namespace extract

@@ -3,7 +3,7 @@
 #include "extract/parameter_list.h"
 #include "extract/window_row.h"
 #include "forms/controls.h"
-#include "session/session.h"
+#include "language/dialog.h"
 
 #include <cstdint>
 #include <string>
@@ -15,7 +15,7 @@ namespace extract {
 ///
 /// For a pick it hides itself; StartReInsert shows it again as long as `IsClosed` is false. For a data file
 /// it comes back by a modal show within the handler.
-class fmReInsert : public forms::Form {
+class fmReInsert : public language::Dialog {
   public:
     explicit fmReInsert(session::Session& session);
 
@@ -61,8 +61,6 @@ class fmReInsert : public forms::Form {
 
     // The block.
     void Combo1_Click();
-    void pickBlock();
-    void browseBlock();
     void showParametersOf(const std::string& name);
     void BtnBloc_Click();
     host::BlockReference pickOldStyle(basic::ErrorState& errors);
@@ -84,11 +82,6 @@ class fmReInsert : public forms::Form {
     void BtnInsert_Click();
     void BtnClose_Click();
 
-    std::string message(std::int32_t id) const;
-    /// Shows the dialog modally again, within the handler that hid it.
-    void showAgain();
-
-    session::Session& session_;
     WindowRow window_;
     ParameterList parameters_{ListView1, ListView2};
     /// The columns come from a file. Nothing sets it back: the column line of a second file is a row like

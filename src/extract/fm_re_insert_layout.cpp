@@ -21,9 +21,7 @@ constexpr Twips kButtonHeight = 375;
 }  // namespace
 
 fmReInsert::fmReInsert(session::Session& session)
-    : Form("fmReInsert", "011", "Réinsertion des blocs", 101100),
-      session_(session),
-      window_(session, kWindowRow) {
+    : Dialog(session, "fmReInsert", "011", "Réinsertion des blocs", 101100), window_(session, kWindowRow) {
     layOut();
     wire();
 }
@@ -31,6 +29,8 @@ fmReInsert::fmReInsert(session::Session& session)
 void fmReInsert::layOut() {
     setResizable(true);
     resizeTo(kLeastWidth, kLeastHeight);
+    setLeastSize(kLeastWidth, kLeastHeight);
+    setFirstFocus(Combo1);
     layOutMapping();
 
     Frame2.place(3390, 180, 6375, 5655);

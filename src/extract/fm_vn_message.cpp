@@ -5,7 +5,7 @@
 namespace extract {
 
 fmVnMessage::fmVnMessage(session::Session& session)
-    : Form("fmVnMessage", "004", "Message", 100400), session_(session) {
+    : Dialog(session, "fmVnMessage", "004", "Message", 100400) {
     layOut();
     BtnSelect.onClick = [this] { BtnSelect_Click(); };
     OKButton.onClick = [this] { OKButton_Click(); };
@@ -28,6 +28,7 @@ void fmVnMessage::layOut() {
     CancelButton.setCancel(true);
     Text1.place(5160, 60, 600, 315);
     Text1.setVisible(false);
+    setFirstFocus(OKButton);
 }
 
 void fmVnMessage::Form_Initialize() { language::InitForm(session_, *this); }

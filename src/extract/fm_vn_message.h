@@ -1,13 +1,13 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "session/session.h"
+#include "language/dialog.h"
 
 namespace extract {
 
 /// The small dialog between the pick of a reference and the selection of the zone: it tells what was picked
 /// and asks how to go on.
-class fmVnMessage : public forms::Form {
+class fmVnMessage : public language::Dialog {
   public:
     explicit fmVnMessage(session::Session& session);
 
@@ -30,8 +30,6 @@ class fmVnMessage : public forms::Form {
     void BtnSelect_Click();
     void OKButton_Click();
     void CancelButton_Click();
-
-    session::Session& session_;
 };
 
 }  // namespace extract

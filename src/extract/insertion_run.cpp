@@ -4,7 +4,7 @@
 #include "basic/numbers.h"
 #include "extract/messages.h"
 #include "host/document.h"
-#include "host/point.h"
+#include "host/object.h"
 #include "language/language.h"
 #include "platform/platform.h"
 
@@ -65,7 +65,7 @@ void InsertionRun::reportRow(int row) {
     if (!rowTexts_)
         rowTexts_.emplace(language::GetMsg(session_, kRowFailed), language::GetMsg(session_, kNotInserted));
     report_.append(rowTexts_->first).append(std::to_string(row)).append(rowTexts_->second).append("\r\n");
-    icon_ = forms::MessageBox::Icon::Exclamation;
+    icon_ = forms::MessageDialog::Icon::Exclamation;
 }
 
 }  // namespace extract

@@ -25,7 +25,7 @@ class InsertionRun {
     /// The success first, then a line for each row of which a text was no number; other failures leave none.
     const std::string& report() const { return report_; }
     /// Information, or exclamation once the report names a row.
-    forms::MessageBox::Icon icon() const { return icon_; }
+    forms::MessageDialog::Icon icon() const { return icon_; }
 
   private:
     void insertRow(int row) const;
@@ -39,7 +39,7 @@ class InsertionRun {
     std::string report_;
     /// What stands before and behind a row's number, looked up at the first row that fails.
     std::optional<std::pair<std::string, std::string>> rowTexts_;
-    forms::MessageBox::Icon icon_ = forms::MessageBox::Icon::Information;
+    forms::MessageDialog::Icon icon_ = forms::MessageDialog::Icon::Information;
 };
 
 }  // namespace extract

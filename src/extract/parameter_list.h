@@ -3,7 +3,7 @@
 #include "basic/error_state.h"
 #include "forms/list_view.h"
 #include "forms/lists.h"
-#include "host/block_reference.h"
+#include "host/entities.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "basic/error_state.h"
-#include "host/selection.h"
+#include "host/document.h"
 #include "session/session.h"
 
 namespace extract {

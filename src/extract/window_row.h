@@ -3,6 +3,8 @@
 #include "forms/form.h"
 #include "session/session.h"
 
+#include <optional>
+
 namespace extract {
 
 /// The row of `VTable` that remembers a dialog's window: width, height, left and top in twips, each as the
@@ -11,7 +13,8 @@ class WindowRow {
   public:
     WindowRow(session::Session& session, int row) : session_(session), row_(row) {}
 
-    /// Gives the form the size and then the place of the row; an empty cell counts as 0.
+    /// Gives the form the size and then the place of the row; an empty cell counts as 0. A number that no
+    /// window can have, as a damaged settings file holds it, is left aside.
     void apply(forms::Form& form) const;
 
     void keepWidth(const forms::Form& form) { keep(0, form.width()); }
@@ -22,7 +25,7 @@ class WindowRow {
     }
 
   private:
-    forms::Twips cell(int column) const;
+    std::optional<forms::Twips> cell(int column, forms::Twips least) const;
     void keep(int column, forms::Twips value);
 
     session::Session& session_;

@@ -1,5 +1,6 @@
 #include "forms/acts.h"
 
+#include "forms/accelerators.h"
 #include "forms/controls.h"
 #include "forms/screen.h"
 
@@ -17,23 +18,15 @@ void requireUp(const Form& form) {
     if (!form.visible()) throw ActError(form.name() + " is not shown");
 }
 
-/// A user can act on a control only if it is drawn and not greyed.
-void requireReachable(const Control& control) {
-    requireUp(control.form());
-    if (!control.has(Property::Enabled)) refuse(control, std::string("is a ") + kindName(control.kind()));
-    if (!control.shown()) refuse(control, "is hidden");
-    if (!control.enabled()) refuse(control, "is disabled");
-    for (const Control* box = control.container(); box != nullptr; box = box->container()) {
-        if (!box->enabled()) refuse(control, "is disabled with " + box->name());
-    }
-}
-
 void takeFocus(Control& control) {
     if (control.has(Property::Focus)) control.setFocus();
 }
 
 /// Runs what the act sets off, guarded, on the screen that the form is up on at its beginning.
-void perform(Form& form, const std::function<void()>& act) { guarded(*form.screen(), act); }
+void perform(Form& form, const std::function<void()>& act) {
+    guarded(*form.screen(), act);
+    form.settleFocus();
+}
 
 template <typename Specific>
 Specific& as(Control& control) {
@@ -78,22 +71,36 @@ void help(Form& form) {
     Control* active = form.activeControl();
     int context = active != nullptr && active->has(Property::HelpContextId) ? active->helpContextId() : 0;
     if (context == 0) context = form.helpContextId();
-    form.screen()->showHelp(context);
+    guarded(*form.screen(), [&] { form.openHelp(context); });
 }
 
-/// The focus goes round the controls that can take it, in the order of creation.
-void focusNext(Form& form) {
-    const std::vector<Control*>& controls = form.controls();
-    auto active = std::find(controls.begin(), controls.end(), form.activeControl());
-    const auto start = active == controls.end() ? 0 : active - controls.begin() + 1;
-    const auto count = static_cast<std::ptrdiff_t>(controls.size());
-    for (std::ptrdiff_t step = 0; step < count; ++step) {
-        Control& candidate = *controls[static_cast<std::size_t>((start + step) % count)];
-        if (candidate.has(Property::Focus) && candidate.shown() && candidate.operable()) {
-            candidate.setFocus();
-            return;
-        }
+void moveFocus(Form& form, bool backwards) {
+    if (Control* stop = form.nextStop(backwards)) stop->setFocus();
+}
+
+/// An arrow turns the next option of the group on, round the group in reading order.
+void turnNextOption(OptionButton& option, bool backwards) {
+    std::vector<Control*> group;
+    for (Control* control : option.form().tabOrder()) {
+        const bool isOfGroup =
+            control->kind() == Kind::OptionButton && control->container() == option.container();
+        if (isOfGroup && control->shown() && control->operable()) group.push_back(control);
     }
+    if (backwards) std::reverse(group.begin(), group.end());
+    const auto self = std::find(group.begin(), group.end(), &option);
+    std::rotate(group.begin(), self, group.end());
+    if (group.size() > 1) click(*group[1]);
+}
+
+ListView& requireRows(Control& control) {
+    if (control.kind() != Kind::ListView) {
+        refuse(control, std::string("is a ") + kindName(control.kind()) + " and has no rows");
+    }
+    return as<ListView>(control);
+}
+
+void requireRow(const ListView& view, int row) {
+    if (row < 1 || row > view.listItems().count()) refuse(view, "has no entry " + std::to_string(row));
 }
 
 /// Enter presses the button that has the focus, or else the default button; Escape the cancel button.
@@ -115,7 +122,13 @@ void pressButtonFor(Form& form, Key key) {
 
 void keyInControl(Control& control, Key key) {
     if (control.kind() == Kind::ListView) {
-        perform(control.form(), [&] { as<ListView>(control).pressKey(key); });
+        ListView& view = as<ListView>(control);
+        perform(control.form(), [&] {
+            view.pressKey(key);
+            if (const int row = view.rowAfter(key); row != 0) view.selectItem(row);
+        });
+    } else if (control.kind() == Kind::OptionButton && (key == Key::Up || key == Key::Down)) {
+        turnNextOption(as<OptionButton>(control), key == Key::Up);
     } else if (isList(control)) {
         ListControl& list = as<ListControl>(control);
         const int index = moved(list, key);
@@ -127,9 +140,19 @@ void keyInControl(Control& control, Key key) {
 
 }  // namespace
 
+void requireReachable(const Control& control) {
+    requireUp(control.form());
+    if (!control.has(Property::Enabled)) refuse(control, std::string("is a ") + kindName(control.kind()));
+    if (!control.shown()) refuse(control, "is hidden");
+    if (!control.enabled()) refuse(control, "is disabled");
+    for (const Control* box = control.container(); box != nullptr; box = box->container()) {
+        if (!box->enabled()) refuse(control, "is disabled with " + box->name());
+    }
+}
+
 void guarded(Screen& screen, const std::function<void()>& handler) {
     try {
-        handler();
+        basic::acrossBorder(handler);
     } catch (const basic::Error& error) {
         screen.reportFailure(error.number(), error.description());
     }
@@ -205,7 +228,7 @@ void chooseIndex(Control& control, int index) {
     const std::string missing = "has no entry " + std::to_string(index);
     if (control.kind() == Kind::ListView) {
         ListView& view = as<ListView>(control);
-        if (index < 1 || index > view.listItems().count()) refuse(control, missing);
+        requireRow(view, index);
         takeFocus(control);
         perform(control.form(), [&] { view.pressRow(index); });
     } else if (isList(control)) {
@@ -218,27 +241,72 @@ void chooseIndex(Control& control, int index) {
     }
 }
 
-bool editLabel(Control& control, int row, std::string_view text) {
+bool beginEdit(Control& control, int row) {
     requireReachable(control);
-    if (control.kind() != Kind::ListView) {
-        refuse(control, std::string("is a ") + kindName(control.kind()) + " and has no rows");
-    }
-    ListView& view = as<ListView>(control);
-    if (row < 1 || row > view.listItems().count()) refuse(control, "has no entry " + std::to_string(row));
+    ListView& view = requireRows(control);
+    requireRow(view, row);
     takeFocus(control);
-    bool edited = false;
-    perform(control.form(), [&] { edited = view.editLabel(row, text); });
-    return edited;
+    bool isOpen = false;
+    perform(control.form(), [&] { isOpen = view.beginEdit(row); });
+    return isOpen;
+}
+
+void endEdit(Control& control, std::string_view text) {
+    requireReachable(control);
+    ListView& view = requireRows(control);
+    if (view.editedRow() == 0) refuse(control, "has no row in edit");
+    view.endEdit(text);
+}
+
+void focus(Control& control) {
+    requireReachable(control);
+    if (!control.has(Property::Focus))
+        refuse(control, std::string("is a ") + kindName(control.kind()) + " and takes no focus");
+    control.setFocus();
+}
+
+void keyDown(Control& control, Key key) {
+    requireReachable(control);
+    ListView& view = requireRows(control);
+    takeFocus(control);
+    perform(control.form(), [&] { view.pressKey(key); });
+}
+
+void moveSelection(Control& control, int row) {
+    requireReachable(control);
+    ListView& view = requireRows(control);
+    requireRow(view, row);
+    view.selectItem(row);
+}
+
+void resizeColumn(Control& control, int column, Twips width) {
+    requireReachable(control);
+    ListView& view = requireRows(control);
+    if (column < 1 || column > view.columnHeaders().count())
+        refuse(control, "has no column " + std::to_string(column));
+    if (!(width >= 0)) refuse(control, "has no columns of such a width");
+    view.columnHeaders().setWidth(column, width);
+}
+
+void accelerator(Form& form, char letter) {
+    requireUp(form);
+    for (const Accelerator& own : accelerators(form)) {
+        if (own.letter != letter) continue;
+        own.field == nullptr ? click(*own.control) : focus(*own.field);
+        return;
+    }
+    throw ActError(form.name() + " has no accelerator " + letter);
 }
 
 void key(Form& form, Key key) {
     requireUp(form);
     switch (key) {
         case Key::F1:
-            help(form);
+            perform(form, [&] { help(form); });
             return;
         case Key::Tab:
-            focusNext(form);
+        case Key::ShiftTab:
+            moveFocus(form, key == Key::ShiftTab);
             return;
         case Key::Enter:
         case Key::Escape:

@@ -8,7 +8,7 @@ void CheckBox::setValue(int value) {
     if (value < 0 || value > 2) throw basic::Error(basic::kInvalidProperty);
     if (value == value_) return;
     value_ = value;
-    changed();
+    changed(Change::Value);
     raise(onClick);
 }
 
@@ -34,14 +34,14 @@ void OptionButton::setValue(bool value) {
         }
     }
     value_ = true;
-    changed();
+    changed(Change::Value);
     raise(onClick);
 }
 
 void OptionButton::turnOff() {
     if (!value_) return;
     value_ = false;
-    changed();
+    changed(Change::Value);
 }
 
 void OptionButton::keepDesign() {

@@ -56,20 +56,20 @@ void Control::require(Property property) const {
 
 bool Control::live() const { return form_.initialized(); }
 
-void Control::changed() {
-    if (form_.drawn_) form_.screen_->changed(*this);
+void Control::changed(Change change) {
+    if (form_.drawn_) form_.screen_->changed(*this, change);
 }
 
 template <typename Value, typename NewValue>
-void Control::assign(Value& value, const NewValue& newValue) {
+void Control::assign(Value& value, const NewValue& newValue, Change change) {
     if (value == newValue) return;
     value = newValue;
-    changed();
+    changed(change);
 }
 
 void Control::place(Twips left, Twips top, Twips width, Twips height) {
     require(Property::Bounds);
-    assign(state_.bounds, Bounds{left, top, width, height});
+    assign(state_.bounds, Bounds{left, top, width, height}, Change::Bounds);
 }
 
 void Control::place(Control& container, Twips left, Twips top, Twips width, Twips height) {
@@ -84,7 +84,7 @@ const std::string& Control::caption() const {
 
 void Control::setCaption(std::string_view caption) {
     require(Property::Caption);
-    assign(state_.caption, caption);
+    assign(state_.caption, caption, Change::Caption);
 }
 
 bool Control::enabled() const {
@@ -94,7 +94,7 @@ bool Control::enabled() const {
 
 void Control::setEnabled(bool enabled) {
     require(Property::Enabled);
-    assign(state_.enabled, enabled);
+    assign(state_.enabled, enabled, Change::Enabled);
 }
 
 bool Control::visible() const {
@@ -104,7 +104,7 @@ bool Control::visible() const {
 
 void Control::setVisible(bool visible) {
     require(Property::Visible);
-    assign(state_.visible, visible);
+    assign(state_.visible, visible, Change::Visible);
 }
 
 int Control::helpContextId() const {
@@ -124,7 +124,7 @@ const std::string& Control::toolTipText() const {
 
 void Control::setToolTipText(std::string_view text) {
     require(Property::ToolTipText);
-    assign(state_.toolTipText, text);
+    assign(state_.toolTipText, text, Change::ToolTip);
 }
 
 const Bounds& Control::bounds() const {
@@ -134,27 +134,35 @@ const Bounds& Control::bounds() const {
 
 void Control::setLeft(Twips left) {
     require(Property::Bounds);
-    assign(state_.bounds.left, left);
+    assign(state_.bounds.left, left, Change::Bounds);
 }
 
 void Control::setTop(Twips top) {
     require(Property::Bounds);
-    assign(state_.bounds.top, top);
+    assign(state_.bounds.top, top, Change::Bounds);
 }
 
 void Control::setWidth(Twips width) {
     require(Property::Bounds);
-    assign(state_.bounds.width, width);
+    assign(state_.bounds.width, width, Change::Bounds);
 }
 
 void Control::setHeight(Twips height) {
     require(Property::Bounds);
-    assign(state_.bounds.height, height);
+    assign(state_.bounds.height, height, Change::Bounds);
 }
 
 bool Control::shown() const {
     if (!has(Property::Visible)) return false;
-    return state_.visible && (container_ == nullptr || container_->shown());
+    return state_.visible && (container_ == nullptr || (container_->shown() && !isCutOff()));
+}
+
+bool Control::isCutOff() const {
+    if (container_ == nullptr || !has(Property::Bounds)) return false;
+    const Bounds& own = state_.bounds;
+    const Bounds& box = container_->state_.bounds;
+    return own.top >= box.height || own.left >= box.width || own.top + own.height <= 0 ||
+           own.left + own.width <= 0;
 }
 
 bool Control::operable() const { return state_.enabled && (container_ == nullptr || container_->operable()); }
@@ -162,9 +170,7 @@ bool Control::operable() const { return state_.enabled && (container_ == nullptr
 void Control::setFocus() {
     require(Property::Focus);
     if (!form_.visible() || !shown() || !operable()) throw basic::Error(basic::kInvalidCall);
-    if (form_.activeControl_ == this) return;
-    form_.activeControl_ = this;
-    changed();
+    form_.moveFocus(this);
 }
 
 void Control::keepCaption() {

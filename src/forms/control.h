@@ -1,6 +1,7 @@
 #pragma once
 
 #include "basic/error.h"
+#include "forms/change.h"
 #include "forms/twips.h"
 
 #include <functional>
@@ -82,13 +83,17 @@ class Control {
     void setWidth(Twips width);
     void setHeight(Twips height);
 
-    /// Makes this the form's active control. Raises kInvalidCall when form, control or one of its containers
-    /// isn't visible or isn't enabled, kNoSuchMember for a kind that takes no focus.
+    /// Makes this the form's active control; the one before and this one are told. Raises kInvalidCall when
+    /// form, control or one of its containers isn't visible or isn't enabled, kNoSuchMember for a kind that
+    /// takes no focus.
     void setFocus();
 
-    /// Visible and enabled, counting the containers, not the form.
+    /// Visible and enabled, counting the containers, not the form. What a short container cuts off isn't
+    /// shown.
     bool shown() const;
     bool operable() const;
+    /// Whether the control lies wholly beyond the edge of its container.
+    bool isCutOff() const;
 
     // The design state, which an unload brings back without an event. The form calls these.
     virtual void keepDesign() { design_ = state_; }
@@ -97,14 +102,15 @@ class Control {
     void keepCaption();
 
   protected:
-    /// Tells the screen, if the form is up, that the control is to be drawn anew.
-    void changed();
+    /// Tells the screen, if the form is up, what of the control is to be drawn anew.
+    void changed(Change change);
     template <typename... Parameters, typename... Arguments>
     void raise(const std::function<void(Parameters...)>& handler, Arguments&&... arguments) {
         if (handler && live()) handler(std::forward<Arguments>(arguments)...);
     }
 
   private:
+    friend class Form;
     struct State {
         std::string caption;
         std::string toolTipText;
@@ -117,7 +123,7 @@ class Control {
     bool live() const;
     void require(Property property) const;
     template <typename Value, typename NewValue>
-    void assign(Value& value, const NewValue& newValue);
+    void assign(Value& value, const NewValue& newValue, Change change);
 
     Form& form_;
     std::string name_;

@@ -22,15 +22,18 @@
 //   OptionButton         value on: Click                             turn on: Click; already on: nothing
 //                        value off, others of its group turned off: nothing
 //   TextBox              text: Change                                type: Change, if the text differs
-//   ListBox              listIndex, selected on: Click               choose: Click, also the current entry
+//   ListBox              listIndex: Click; selected on: Click,       choose: Click, also the current entry
+//                        also the current entry
 //                        listIndex -1, selected off, clear: nothing
 //   ComboBox, editable   text: Change                                type: Change, if the text differs
-//                        listIndex: Click, no Change                 choose: Click, also the current entry
-//                        listIndex -1, clear: nothing
+//                        listIndex, also -1: Click, no Change        choose: Click, also the current entry
+//                        clear: nothing
 //   ComboBox, list only  text, listIndex: Click                      choose: Click, also the current entry
 //                        listIndex -1, clear: nothing
 //   ListView             nothing                                     row: ItemClick, Click; beside the rows:
-//   Click;
-//                                                                    key: KeyDown, then the selection moves;
-//                                                                    edit: BeforeLabelEdit(cancel)
+//                                                                    Click;
+//                                                                    key: KeyDown, then the selection moves
+//                                                                    without an event;
+//                                                                    edit begun: BeforeLabelEdit(cancel);
+//                                                                    edit ended, column widened: nothing
 //   Form                 size: Form_Resize                           resize: Form_Resize

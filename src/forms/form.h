@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/change.h"
 #include "forms/control.h"
 #include "forms/twips.h"
 
@@ -46,9 +47,11 @@ class Form {
     void ensureLoaded();
     bool loaded() const { return loaded_; }
 
+    static constexpr int kDeepestShow = 500;
     /// Shows the form modally and returns when it was hidden: loads it, activates it (a failure of
     /// Form_Activate is reported, not raised), then hands it to the screen unless it has hidden itself
-    /// already. Raises kAlreadyShown when it is visible.
+    /// already. Raises kAlreadyShown when it is visible, kOutOfStackSpace when shows of it already nest
+    /// kDeepestShow deep, each inside a handler of the one before.
     void show(Screen& screen, Form* owner = nullptr);
     /// Ends the show. Hiding what is hidden does nothing.
     void hide();
@@ -89,6 +92,10 @@ class Form {
     /// Design: whether the user may change the size.
     bool resizable() const { return resizable_; }
     void setResizable(bool resizable) { resizable_ = resizable; }
+    /// Design: the least size that a user may give a resizable form; a face's frame stops there.
+    void setLeastSize(Twips width, Twips height) { leastWidth_ = width, leastHeight_ = height; }
+    Twips leastWidth() const { return leastWidth_; }
+    Twips leastHeight() const { return leastHeight_; }
 
     int controlCount() const { return static_cast<int>(controls_.size()); }
     /// A control by its place in the order of creation, from 0. Raises kSubscript outside.
@@ -99,14 +106,31 @@ class Form {
 
     /// The control that has the focus; null for none.
     Control* activeControl() const { return activeControl_; }
+    /// The controls that can have the focus, in the order of the Tab key, hidden and disabled ones included:
+    /// those of setTabOrder, then the others in reading order.
+    std::vector<Control*> tabOrder() const;
+    /// Where Tab, or Shift+Tab, goes from the active control: round the controls that are shown and operable.
+    /// A group of options is one stop, at the option that is on. Null where there is no stop.
+    Control* nextStop(bool backwards) const;
+    /// Moves the focus on when the active control can't have it any more.
+    void settleFocus();
+    /// What F1 does: opens the help at a topic, or at its start page for context 0.
+    void openHelp(int context) { Form_Help(context); }
 
   protected:
+    /// Design: the first controls of the tab order, where it isn't the reading order.
+    void setTabOrder(std::vector<Control*> controls) { tabFirst_ = std::move(controls); }
+    /// Design: where a user starts; else the first of the tab order.
+    void setFirstFocus(Control& control) { firstFocus_ = &control; }
+
     virtual void Form_Initialize() {}
     virtual void Form_Load() {}
     /// At each show.
     virtual void Form_Activate() {}
     /// At each change of size.
     virtual void Form_Resize() {}
+    /// At F1, with the help context of the active control or else of the form.
+    virtual void Form_Help(int /*context*/) {}
 
   private:
     friend class Control;
@@ -118,8 +142,10 @@ class Form {
         int mousePointer = 0;
     };
 
+    bool isStop(const Control& control) const;
     void focusFirst();
-    void changed();
+    void moveFocus(Control* control);
+    void changed(Change change);
 
     std::string name_;
     std::string tag_;
@@ -127,6 +153,8 @@ class Form {
     State design_;
     std::vector<Control*> controls_;
     Control* activeControl_ = nullptr;
+    Control* firstFocus_ = nullptr;
+    std::vector<Control*> tabFirst_;
     Form* owner_ = nullptr;
     Screen* screen_ = nullptr;
     bool initialized_ = false;
@@ -134,7 +162,10 @@ class Form {
     bool visible_ = false;
     bool drawn_ = false;  ///< handed to the screen; a form that hides itself while it is activated never is
     int timesDrawn_ = 0;
+    int nestedShows_ = 0;
     bool resizable_ = false;
+    Twips leastWidth_ = 0;
+    Twips leastHeight_ = 0;
 };
 
 }  // namespace forms

@@ -1,6 +1,7 @@
 #include "forms/list_view.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace forms {
 
@@ -13,7 +14,7 @@ constexpr int kRowsPerPage = 10;
 
 void ColumnHeaders::add(std::string_view text, Twips width) {
     headers_.push_back({std::string(text), width});
-    view_.changed();
+    view_.changed(Change::Columns);
 }
 
 const ColumnHeader& ColumnHeaders::item(int index) const {
@@ -23,23 +24,23 @@ const ColumnHeader& ColumnHeaders::item(int index) const {
 
 void ColumnHeaders::setText(int index, std::string_view text) {
     const_cast<ColumnHeader&>(item(index)).text = text;
-    view_.changed();
+    view_.changed(Change::Columns);
 }
 
 void ColumnHeaders::setWidth(int index, Twips width) {
     const_cast<ColumnHeader&>(item(index)).width = width;
-    view_.changed();
+    view_.changed(Change::Columns);
 }
 
 void ColumnHeaders::clear() {
     headers_.clear();
-    view_.changed();
+    view_.changed(Change::Columns);
 }
 
 void ListItem::setText(std::string_view text) {
     if (text_ == text) return;
     text_ = text;
-    view_->changed();
+    view_->changed(Change::Rows);
 }
 
 void ListItem::requireColumn(int index) const {
@@ -58,13 +59,16 @@ void ListItem::setSubItem(int index, std::string_view text) {
     if (place >= subItems_.size()) subItems_.resize(place + 1);
     if (subItems_[place] == text) return;
     subItems_[place] = text;
-    view_->changed();
+    view_->changed(Change::Rows);
 }
 
 ListItem& ListItems::add(std::string_view text) {
     ListItem& item = items_.emplace_back(view_, count() + 1, text);
-    if (view_.selected_ == 0) view_.selected_ = 1;
-    view_.changed();
+    view_.changed(Change::Rows);
+    if (view_.selected_ == 0) {
+        view_.selected_ = 1;
+        view_.changed(Change::Selection);
+    }
     return item;
 }
 
@@ -77,8 +81,9 @@ ListItem& ListItems::item(int index) { return const_cast<ListItem&>(std::as_cons
 
 void ListItems::clear() {
     items_.clear();
-    view_.selected_ = 0;
-    view_.changed();
+    view_.selected_ = view_.editedRow_ = 0;
+    view_.changed(Change::Rows);
+    view_.changed(Change::Selection);
 }
 
 ListView::ListView(Form& form, std::string name)
@@ -95,12 +100,12 @@ void ListView::selectItem(int index) {
     if (index < 1 || index > items_.count()) throw basic::Error(basic::kSubscript);
     if (index == selected_) return;
     selected_ = index;
-    changed();
+    changed(Change::Selection);
 }
 
 void ListView::setHideSelection(bool hide) {
     hideSelection_ = hide;
-    changed();
+    changed(Change::Selection);
 }
 
 void ListView::pressRow(int index) {
@@ -111,20 +116,24 @@ void ListView::pressRow(int index) {
 
 void ListView::pressOutside() { raise(onClick); }
 
-bool ListView::editLabel(int index, std::string_view text) {
+bool ListView::beginEdit(int index) {
     selectItem(index);
     bool cancel = false;
     raise(onBeforeLabelEdit, cancel);
     // The handler may have emptied the list or refused.
-    if (cancel || index > items_.count()) return false;
-    items_.item(index).setText(text);
-    return true;
+    editedRow_ = cancel || index > items_.count() ? 0 : index;
+    return editedRow_ != 0;
 }
 
-void ListView::pressKey(Key key) {
-    raise(onKeyDown, key);
+void ListView::endEdit(std::string_view text) {
+    if (const int row = std::exchange(editedRow_, 0); row != 0) items_.item(row).setText(text);
+}
+
+void ListView::pressKey(Key key) { raise(onKeyDown, key); }
+
+int ListView::rowAfter(Key key) const {
     const int last = items_.count();
-    if (last == 0) return;
+    if (last == 0) return 0;
     int target = selected_;
     switch (key) {
         case Key::Up:
@@ -146,9 +155,9 @@ void ListView::pressKey(Key key) {
             target = last;
             break;
         default:
-            return;
+            break;
     }
-    selectItem(std::clamp(target, 1, last));
+    return std::clamp(target, 1, last);
 }
 
 void ListView::keepDesign() {
@@ -163,6 +172,7 @@ void ListView::restoreDesign() {
     headers_.headers_ = designHeaders_;
     items_.items_ = designRows_;
     selected_ = items_.count() > 0 ? 1 : 0;
+    editedRow_ = 0;
     hideSelection_ = designHideSelection_;
 }
 

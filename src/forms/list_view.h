@@ -105,9 +105,15 @@ class ListView : public Control {
     // The user's acts, see forms/acts.h.
     void pressRow(int index);  ///< select, ItemClick, Click
     void pressOutside();       ///< Click alone: outside the rows
-    bool editLabel(int index,
-                   std::string_view text);  ///< select, BeforeLabelEdit; whether the edit was let through
-    void pressKey(Key key);                 ///< KeyDown, then the move, which raises nothing
+    /// Select, BeforeLabelEdit; whether the edit is let through. It ends with endEdit, or with the rows.
+    bool beginEdit(int index);
+    /// Gives the row in edit its text, which raises nothing.
+    void endEdit(std::string_view text);
+    /// The row in edit; 0 for none.
+    int editedRow() const { return editedRow_; }
+    void pressKey(Key key);  ///< KeyDown alone
+    /// The row that a key moves the selection to, the same one for a key that moves nothing; 0 without rows.
+    int rowAfter(Key key) const;
 
     void keepDesign() override;
     void restoreDesign() override;
@@ -120,6 +126,7 @@ class ListView : public Control {
     ColumnHeaders headers_;
     ListItems items_;
     int selected_ = 0;
+    int editedRow_ = 0;
     bool hideSelection_ = true;
 
     std::vector<ColumnHeader> designHeaders_;

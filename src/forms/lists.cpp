@@ -31,32 +31,25 @@ void ListControl::addItem(std::string_view text, int index) {
     if (index < 0 || index > listCount()) throw basic::Error(basic::kInvalidCall);
     state_.entries.emplace(state_.entries.begin() + index, text);
     // The current entry stays current when others move it down.
-    if (index <= state_.listIndex) ++state_.listIndex;
-    changed();
-}
-
-void ListControl::removeItem(int index) {
-    if (index < 0 || index >= listCount()) throw basic::Error(basic::kInvalidCall);
-    state_.entries.erase(state_.entries.begin() + index);
-    if (index == state_.listIndex) {
-        state_.listIndex = -1;
-    } else if (index < state_.listIndex) {
-        --state_.listIndex;
+    if (index <= state_.listIndex) {
+        ++state_.listIndex;
+        changed(Change::Selection);
     }
-    changed();
+    changed(Change::Entries);
 }
 
 void ListControl::clear() {
     state_.entries.clear();
     state_.listIndex = -1;
-    changed();
+    changed(Change::Entries);
+    changed(Change::Selection);
 }
 
 void ListControl::setListIndex(int index) {
     if (index < -1 || index >= listCount()) throw basic::Error(basic::kInvalidProperty);
     if (index == state_.listIndex) return;
     moveTo(index);
-    if (index >= 0) raise(onClick);
+    if (index >= 0 || blankingRaisesClick()) raise(onClick);
 }
 
 void ListControl::choose(int index) {
@@ -72,7 +65,7 @@ int ListControl::indexOf(std::string_view text) const {
 
 void ListControl::moveTo(int index) {
     state_.listIndex = index;
-    changed();
+    changed(Change::Selection);
 }
 
 void ListControl::keepDesign() {
@@ -93,7 +86,7 @@ bool ListBox::selected(int index) const {
 void ListBox::setSelected(int index, bool selected) {
     if (index < 0 || index >= listCount()) throw basic::Error(basic::kInvalidProperty);
     if (selected) {
-        setListIndex(index);
+        choose(index);
     } else if (index == listIndex()) {
         setListIndex(-1);
     }
@@ -109,19 +102,25 @@ void ComboBox::setText(std::string_view text) {
         return;
     }
     if (text == state_.text) return;
-    state_.text = text;
+    setField(text);
     state_.listIndex = indexOf(text);
-    changed();
+    changed(Change::Selection);
     raise(onChange);
 }
 
+void ComboBox::setField(std::string_view text) {
+    if (text == state_.text) return;
+    state_.text = text;
+    if (editable()) changed(Change::Text);
+}
+
 void ComboBox::clear() {
-    state_.text.clear();
+    setField({});
     ListControl::clear();
 }
 
 void ComboBox::moveTo(int index) {
-    state_.text = list(index);
+    setField(list(index));
     ListControl::moveTo(index);
 }
 

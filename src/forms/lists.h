@@ -17,15 +17,13 @@ class ListControl : public Control {
     void addItem(std::string_view text);
     /// Adds an entry at an index, sorted style or not. Raises kInvalidCall beyond the end.
     void addItem(std::string_view text, int index);
-    /// Raises kInvalidCall for an index outside the list.
-    void removeItem(int index);
     /// Empties the list; no entry is current any more. Raises no event.
     virtual void clear();
 
     /// The current entry, -1 for none.
     int listIndex() const { return state_.listIndex; }
-    /// Makes an entry current, or none with -1. An entry that wasn't current raises Click, -1 raises nothing.
-    /// An index outside the list raises kInvalidProperty.
+    /// Makes an entry current, or none with -1. An entry that wasn't current raises Click. So does -1 where
+    /// an entry was current, in an editable combo alone. An index outside the list raises kInvalidProperty.
     void setListIndex(int index);
     /// The first entry with exactly this text, -1 for none.
     int indexOf(std::string_view text) const;
@@ -52,6 +50,7 @@ class ListControl : public Control {
     ListControl(Form& form, std::string name, Kind kind) : Control(form, std::move(name), kind) {}
     /// Makes an entry current without an event.
     virtual void moveTo(int index);
+    virtual bool blankingRaisesClick() const { return false; }
 
     State state_;
 
@@ -69,8 +68,8 @@ class ListBox : public ListControl {
     const std::string& text() const { return list(listIndex()); }
     /// Whether an entry is selected; raises kInvalidProperty for an index outside the list.
     bool selected(int index) const;
-    /// Selects an entry, which takes the selection from another and raises Click if it wasn't selected; or
-    /// takes its selection away, which raises nothing.
+    /// Selects an entry, which takes the selection from another and raises Click, also when it was selected
+    /// already; or takes its selection away, which raises nothing.
     void setSelected(int index, bool selected);
     int selCount() const { return listIndex() < 0 ? 0 : 1; }
 };
@@ -101,8 +100,11 @@ class ComboBox : public ListControl {
 
   protected:
     void moveTo(int index) override;
+    bool blankingRaisesClick() const override { return editable(); }
 
   private:
+    void setField(std::string_view text);
+
     Style style_;
 };
 

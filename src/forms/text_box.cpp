@@ -5,7 +5,7 @@ namespace forms {
 void TextBox::setText(std::string_view text) {
     if (text == text_) return;
     text_ = text;
-    changed();
+    changed(Change::Text);
     raise(onChange);
 }
 

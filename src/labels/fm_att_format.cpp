@@ -12,7 +12,7 @@ namespace labels {
 using forms::Twips;
 
 fmAttFormat::fmAttFormat(session::Session& session)
-    : Form("fmAttFormat", "002", "Format de l'attribut", 100200), session_(session) {
+    : Dialog(session, "fmAttFormat", "002", "Format de l'attribut", 100200) {
     layOut();
     layOutFields();
     wire();
@@ -28,7 +28,9 @@ void fmAttFormat::layOut() {
     Label2.setCaption("Mode de détermination :");
     LabelMode.place(2340, 420, 2340, 255);
     LabelMode.setCaption("Longueur Auto Monoclic");
-    // Beside the frame, since the dialog's height changes with the mode.
+    // Beside the frame, since the dialog's height changes with the mode; the fields come first for the
+    // keyboard.
+    setTabOrder({&Text1, &Text2, &Combo1, &Text3, &Text4});
     OKButton.place(4920, 120, 1215, 375);
     OKButton.setCaption("OK");
     OKButton.setDefault(true);
@@ -109,7 +111,7 @@ void fmAttFormat::CancelButton_Click() { backToLabels(); }
 
 void fmAttFormat::backToLabels() {
     hide();
-    session_.form("fmLabels").show(session_.screen(), &session_.form("fmOwner"));
+    language::showOwned(session_, session_.form("fmLabels"));
 }
 
 }  // namespace labels

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "session/session.h"
+#include "language/dialog.h"
 
 namespace labels {
 
 /// The dialog of an attribute's format: prefix, suffix, and the number of decimals or a counter's first value
 /// and step. It shows the remembered format of the mode; OK gives it to the attribute that is selected in
 /// fmLabels and to the mode's row in `VTable`.
-class fmAttFormat : public forms::Form {
+class fmAttFormat : public language::Dialog {
   public:
     explicit fmAttFormat(session::Session& session);
 
@@ -45,8 +45,6 @@ class fmAttFormat : public forms::Form {
     void OKButton_Click();
     void CancelButton_Click();
     void backToLabels();
-
-    session::Session& session_;
 };
 
 }  // namespace labels

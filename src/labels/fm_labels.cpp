@@ -166,7 +166,7 @@ void fmLabels::BtnAttFormat_Click() {
         errors.skip([&] { dialog.Text4.setText(format(kStepColumn)); });
         errors.clear();
         errors.skip([&] { dialog.showFieldsOf(mode); });
-        errors.skip([&] { dialog.show(session_.screen(), &session_.form("fmOwner")); });
+        errors.skip([&] { language::showOwned(session_, dialog); });
     });
 }
 
@@ -174,7 +174,7 @@ void fmLabels::BtnAttFormat_Click() {
 
 void fmLabels::BtnParametre_Click() {
     hide();
-    session_.form("fmParamIns").show(session_.screen(), &session_.form("fmOwner"));
+    language::showOwned(session_, session_.form("fmParamIns"));
 }
 
 void fmLabels::BtnInserer_Click() {
@@ -222,12 +222,8 @@ const std::string& fmLabels::modeText(int row) const {
     return ListView1.listItems().item(row).subItem(kModeItem);
 }
 
-std::string fmLabels::message(std::int32_t id) const { return language::GetMsg(session_, id); }
-
 std::string fmLabels::plain(double value) const {
     return basic::toText(value, session_.platform().regional());
 }
-
-void fmLabels::showAgain() { show(session_.screen(), &session_.form("fmOwner")); }
 
 }  // namespace labels

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "host/attribute.h"
+#include "host/entities.h"
 #include "labels/label_rows.h"
 #include "labels/value_capture.h"
-#include "session/session.h"
+#include "language/dialog.h"
 
 #include <cstdint>
 #include <string>
@@ -17,7 +17,7 @@ namespace labels {
 ///
 /// For a pick, for the side dialogs and for the insertion it hides itself, and comes back by a modal show
 /// within the handler.
-class fmLabels : public forms::Form, public LabelRows, public ValueCapture {
+class fmLabels : public language::Dialog, public LabelRows, public ValueCapture {
   public:
     explicit fmLabels(session::Session& session);
 
@@ -79,11 +79,9 @@ class fmLabels : public forms::Form, public LabelRows, public ValueCapture {
     void OKButton_Click();
 
     void fillRows(const host::Attributes& attributes);
-    std::string message(std::int32_t id) const;
     std::string plain(double value) const;
-    void showAgain();
 
-    session::Session& session_;
+    using Dialog::session_;
 };
 
 }  // namespace labels

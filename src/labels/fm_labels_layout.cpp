@@ -15,7 +15,7 @@ constexpr Twips kButtonHeight = 375;
 }  // namespace
 
 fmLabels::fmLabels(session::Session& session)
-    : Form("fmLabels", "009", "Etiquetage", 100900), ValueCapture(session, *this), session_(session) {
+    : Dialog(session, "fmLabels", "009", "Etiquetage", 100900), ValueCapture(session, *this) {
     layOut();
     layOutRows();
     wire();

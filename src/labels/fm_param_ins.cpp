@@ -10,7 +10,7 @@ namespace labels {
 using forms::Twips;
 
 fmParamIns::fmParamIns(session::Session& session)
-    : Form("fmParamIns", "010", "Paramètre d'insertion", 101000), session_(session) {
+    : Dialog(session, "fmParamIns", "010", "Paramètre d'insertion", 101000) {
     layOut();
     layOutLeader();
     wire();
@@ -81,7 +81,7 @@ void fmParamIns::Form_Initialize() { language::InitForm(session_, *this); }
 /// The fields aren't tested: the insertion reads them, and takes what isn't a number as 0.
 void fmParamIns::OKButton_Click() {
     hide();
-    session_.form("fmLabels").show(session_.screen(), &session_.form("fmOwner"));
+    language::showOwned(session_, session_.form("fmLabels"));
 }
 
 void fmParamIns::CheckBox1_Click() { Text4.setEnabled(CheckBox1.value() == 0); }
@@ -102,7 +102,7 @@ void fmParamIns::Option2_Click() {
     Option2.setValue(false);
     Option1.setValue(true);
     // The same in every language; the blank in "n 'est" and the second "avec" belong to the text.
-    using Box = forms::MessageBox;
+    using Box = forms::MessageDialog;
     session_.screen().messageBox(
         {"L'option 'ligne de repérage à partir du point de sélection'\r\n"
          "n 'est pas valable avec plus d'une valeur Auto ni avec\r\n"

@@ -2,7 +2,7 @@
 
 #include "forms/controls.h"
 #include "labels/insertion_loop.h"
-#include "session/session.h"
+#include "language/dialog.h"
 
 #include <string>
 
@@ -10,7 +10,7 @@ namespace labels {
 
 /// The dialog of the insertion: scales, rotation, leader line. It has no data but its controls, whose state
 /// lasts as long as the dialog; each choice of a block in fmLabels puts the four texts back.
-class fmParamIns : public forms::Form, public InsertionSettings {
+class fmParamIns : public language::Dialog, public InsertionSettings {
   public:
     explicit fmParamIns(session::Session& session);
 
@@ -58,8 +58,6 @@ class fmParamIns : public forms::Form, public InsertionSettings {
     void CheckBox1_Click();
     void CheckBox2_Click();
     void Option1_Click();
-
-    session::Session& session_;
 };
 
 }  // namespace labels

@@ -5,6 +5,7 @@
 #include "labels/fm_param_ins.h"
 #include "labels/label_table.h"
 #include "labels/value_modes.h"
+#include "language/dialog.h"
 
 namespace labels {
 
@@ -30,7 +31,7 @@ void StartLabels(Session& session) {
     // The rows of a dialog that outlived a command have lost their table: they are read from their block
     // anew.
     if (dialog.ListView1.listItems().count() > 0) dialog.Combo2_Click();
-    dialog.show(session.screen(), &session.form("fmOwner"));
+    language::showOwned(session, dialog);
 }
 
 }  // namespace labels

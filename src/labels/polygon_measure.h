@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/point.h"
+#include "host/object.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 
 #include "basic/numbers.h"
 #include "host/document.h"
-#include "host/point.h"
+#include "host/object.h"
 #include "labels/label_table.h"
 #include "labels/polygon_measure.h"
 #include "labels/value_modes.h"

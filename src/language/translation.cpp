@@ -64,8 +64,7 @@ basic::Variant InitForm(Session& session, forms::Form& Form) {
     ErrorState error;
     error.skip([&] { session.platform().initCommonControls(); });
     // Automatic redrawing needs no switch here: every face draws a form's model whenever it changes.
-    if (session.canMakeForm("fmAbout"))
-        error.skip([&] { Form.setIcon(session.form("fmAbout").icon()); });  // creates it at the first time
+    error.skip([&] { Form.setIcon(session.form("fmAbout").icon()); });  // creates it at the first time
     error.skip([&] {
         std::string prefix = Form.tag();
         TranslateForm(session, Form, prefix, session::kReadEntry, "");

@@ -2,12 +2,16 @@
 
 #include "basic/text.h"
 
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
 namespace replace {
 namespace {
 
 void refill(forms::ListControl& list, const blocks::BlockNames& names) {
     list.clear();
-    for (const std::string& name : names) AddItemSorted(list, name);
+    AddItemSorted(list, names);
 }
 
 /// Calls `select` with the index of each entry that was remembered. What was remembered is looked up without
@@ -36,18 +40,12 @@ void FillBlockList(forms::ComboBox& combo, const blocks::BlockNames& names, cons
     RestoreListSelection(combo, remembered, [&](int) { combo.setText(remembered); });
 }
 
-void AddItemSorted(forms::ListControl& list, std::string_view name) {
-    int first = 0;
-    int last = list.listCount();
-    while (first < last) {
-        const int middle = first + (last - first) / 2;
-        if (basic::compareText(list.list(middle), name) > 0) {
-            last = middle;
-        } else {
-            first = middle + 1;
-        }
-    }
-    list.addItem(name, first);
+void AddItemSorted(forms::ListControl& list, const blocks::BlockNames& names) {
+    std::vector<std::string_view> sorted(names.begin(), names.end());
+    std::stable_sort(sorted.begin(), sorted.end(), [](std::string_view left, std::string_view right) {
+        return basic::compareText(left, right) < 0;
+    });
+    for (const std::string_view name : sorted) list.addItem(name, list.listCount());
 }
 
 }  // namespace replace

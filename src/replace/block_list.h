@@ -16,8 +16,8 @@ void FillBlockList(forms::ListBox& list, const blocks::BlockNames& names);
 void FillBlockList(forms::ComboBox& combo, const blocks::BlockNames& names, const std::string& firstCommand,
                    const std::string& secondCommand);
 
-/// Inserts `name` before the first entry that comes after it in text order, without regard to case; at the
-/// end if there is none. The entries are in that order already.
-void AddItemSorted(forms::ListControl& list, std::string_view name);
+/// Adds names to an empty list, each before the first entry that comes after it in text order, without regard
+/// to case. All at once: one by one, 30,000 blocks in any order would move the entries 450 million times.
+void AddItemSorted(forms::ListControl& list, const blocks::BlockNames& names);
 
 }  // namespace replace

@@ -8,8 +8,7 @@
 namespace replace {
 
 fmAttSet::fmAttSet(session::Session& session)
-    : Form("fmAttSet", "003", "Paramètres de transcription des valeurs d'attributs", 100300),
-      session_(session) {
+    : Dialog(session, "fmAttSet", "003", "Paramètres de transcription des valeurs d'attributs", 100300) {
     layOut();
     wire();
 }

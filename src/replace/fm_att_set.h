@@ -1,15 +1,15 @@
 #pragma once
 
 #include "forms/controls.h"
+#include "language/dialog.h"
 #include "replace/transcription.h"
-#include "session/session.h"
 
 namespace replace {
 
 /// The table of attributes: which attribute of the source block feeds which of the destination block. Its
 /// list is the table's only store, and each choice goes into it at once. The dialog lives as long as the
 /// component, so the table of one command is still there in the next.
-class fmAttSet : public forms::Form, public TranscriptionTable {
+class fmAttSet : public language::Dialog, public TranscriptionTable {
   public:
     explicit fmAttSet(session::Session& session);
 
@@ -44,8 +44,6 @@ class fmAttSet : public forms::Form, public TranscriptionTable {
     void Combo2_Change();
     void Combo2_Click();
     void OKButton_Click();
-
-    session::Session& session_;
 };
 
 }  // namespace replace

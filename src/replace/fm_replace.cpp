@@ -19,7 +19,7 @@
 
 namespace replace {
 
-using Box = forms::MessageBox;
+using Box = forms::MessageDialog;
 
 void fmReplace::Form_Initialize() {
     basic::ErrorState errors;  // errors are ignored throughout
@@ -222,16 +222,10 @@ void fmReplace::CheckNumericField(const forms::CheckBox& check, forms::TextBox& 
 
 void fmReplace::ChkAttSet_Click() { BtnAttSet.setEnabled(ChkAttSet.value() == 1); }
 
-void fmReplace::BtnAttSet_Click() {
-    session_.form("fmAttSet").show(session_.screen(), &session_.form("fmOwner"));
-}
+void fmReplace::BtnAttSet_Click() { language::showOwned(session_, session_.form("fmAttSet")); }
 
 void fmReplace::BtnReplace_Click() { ReplaceBlocks(session_, DialogFields(session_, *this)); }
 
 void fmReplace::BtnClose_Click() { hide(); }
-
-std::string fmReplace::message(std::int32_t id) const { return language::GetMsg(session_, id); }
-
-void fmReplace::showAgain() { show(session_.screen(), &session_.form("fmOwner")); }
 
 }  // namespace replace

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "session/session.h"
+#include "language/dialog.h"
 
 #include <cstdint>
 #include <string>
@@ -14,7 +14,7 @@ namespace replace {
 /// For a pick in the drawing it hides itself. It comes back by a modal show within the handler, or, with
 /// `Check2` set, by the loop of RunReplaceCommand. A failure in between ends the handler before it comes
 /// back.
-class fmReplace : public forms::Form {
+class fmReplace : public language::Dialog {
   public:
     explicit fmReplace(session::Session& session);
 
@@ -97,12 +97,6 @@ class fmReplace : public forms::Form {
 
     void BtnReplace_Click();
     void BtnClose_Click();
-
-    std::string message(std::int32_t id) const;
-    /// Shows the dialog modally again, within the handler that hid it.
-    void showAgain();
-
-    session::Session& session_;
 };
 
 }  // namespace replace

@@ -18,7 +18,7 @@ constexpr Twips kButtonHeight = 375;
 }  // namespace
 
 fmReplace::fmReplace(session::Session& session)
-    : Form("fmReplace", "012", "Remplacement de blocs", 101200), session_(session) {
+    : Dialog(session, "fmReplace", "012", "Remplacement de blocs", 101200) {
     layOut();
     wire();
 }

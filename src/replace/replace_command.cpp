@@ -1,6 +1,7 @@
 #include "replace/replace_command.h"
 
 #include "host/document.h"
+#include "language/dialog.h"
 #include "replace/fm_att_set.h"
 #include "replace/fm_replace.h"
 
@@ -26,7 +27,7 @@ void RunReplaceCommand(Session& session) {
     set.Clear();
     auto& dialog = session.form<fmReplace>("fmReplace");
     for (;;) {
-        dialog.show(session.screen(), &session.form("fmOwner"));
+        language::showOwned(session, dialog);
         if (dialog.Check2.value() != 1) return;
         dialog.Check2.setValue(0);
         dialog.CboBlocReplacer.setText(dialog.TxtBlocReplacer.text());

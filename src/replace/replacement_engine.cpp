@@ -60,7 +60,7 @@ void ReplaceBlocks(const Session& session, const ReplacementFields& fields) {
     for (std::int16_t i = 1; i <= count; i = next(i))
         replaceOne(session, host::BlockReference(set.Item(i - 1)), fields, visible);
 
-    using Box = forms::MessageBox;
+    using Box = forms::MessageDialog;
     session.screen().messageBox({language::GetMsg(session, kReplaced), language::GetMsg(session, kBoxTitle),
                                  Box::Buttons::Ok, Box::Icon::Information});
 }

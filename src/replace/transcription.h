@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/block_reference.h"
+#include "host/entities.h"
 
 #include <functional>
 #include <string>

@@ -1,6 +1,7 @@
 #include "session/entry_file.h"
 
 #include "basic/error.h"
+#include "basic/path.h"
 #include "basic/text.h"
 #include "basic/text_file.h"
 
@@ -45,7 +46,7 @@ std::optional<std::string_view> valueOf(std::string_view line, const Wanted& wan
 /// Whether the file's last line lacks its end, so that a line appended to it would run on from it. A lone
 /// line feed ends no line.
 bool endsUnfinished(const std::string& path) {
-    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    std::ifstream file(basic::toPath(path), std::ios::binary | std::ios::ate);
     const std::streamoff size = file.tellg();
     if (size <= 0) return false;
     std::string tail(static_cast<std::size_t>(std::min<std::streamoff>(size, 2)), ' ');
@@ -74,9 +75,11 @@ void writeLines(const std::string& path, const std::vector<std::string>& lines) 
 void rewrite(const std::string& path, const std::vector<std::string>& lines) {
     TextWriter(path, TextWriter::Mode::Append).close();  // refused here, if it may not be written at all
     std::error_code failure;
-    const fs::path target = fs::canonical(path, failure);
-    const std::string beside = target.string() + "~";
-    if (failure || fs::exists(beside, failure)) return writeLines(path, lines);
+    const fs::path target = fs::canonical(basic::toPath(path), failure);
+    fs::path besidePath = target;
+    besidePath += "~";
+    const std::string beside = basic::fromPath(besidePath);
+    if (failure || fs::exists(besidePath, failure)) return writeLines(path, lines);
     try {
         TextWriter(beside, TextWriter::Mode::Replace).close();
     } catch (const basic::Error&) {
@@ -85,18 +88,23 @@ void rewrite(const std::string& path, const std::vector<std::string>& lines) {
     try {
         writeLines(beside, lines);
     } catch (...) {
-        fs::remove(beside, failure);
+        fs::remove(besidePath, failure);
         throw;
     }
-    fs::permissions(beside, fs::status(target, failure).permissions(), failure);
-    fs::rename(beside, target, failure);
+    fs::permissions(besidePath, fs::status(target, failure).permissions(), failure);
+    fs::rename(besidePath, target, failure);
     if (failure) {
-        fs::remove(beside, failure);
+        fs::remove(besidePath, failure);
         writeLines(path, lines);
     }
 }
 
 }  // namespace
+
+bool hasBareLineFeeds(const std::string& file) {
+    TextReader reader(file);
+    return !reader.atEnd() && reader.readLine().find('\n') != std::string::npos;
+}
 
 std::string entryValue(const std::string& key, const std::string& file, std::int16_t mode,
                        const std::string& value, Overwrite overwrite) {

@@ -18,4 +18,8 @@ enum class Overwrite {
 std::string entryValue(const std::string& key, const std::string& file, std::int16_t mode,
                        const std::string& value, Overwrite overwrite);
 
+/// Whether the file was saved with line feeds alone: it then is one line, and all but its first key are lost
+/// in that line's value. Raises the file errors of basic/text_file.h.
+bool hasBareLineFeeds(const std::string& file);
+
 }  // namespace session

@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,10 +54,11 @@ class Session {
     host::ObjectPtr ReplaceSelectionSet;  ///< the selection set of the replacement
     std::string HelpFile;                 ///< the application's help file, which F1 opens
 
-    std::string IniFile;             ///< path of the settings file
-    LngRecord CurLng;                ///< the current language
-    std::vector<LngRecord> LngList;  ///< all languages found, in the order of the folder's enumeration
-    std::string LngFolder;           ///< where language files are looked for
+    std::string IniFile;              ///< path of the settings file
+    LngRecord CurLng;                 ///< the current language
+    std::vector<LngRecord> LngList;   ///< all languages found, in the order of the folder's enumeration
+    std::string LngFolder;            ///< where language files are looked for
+    std::set<std::string> toldFiles;  ///< files of whose line ends the user was told
 
     basic::Variant PickPoint;                             ///< the last point that the labelling was given
     std::vector<std::vector<basic::Variant>> LabelTable;  ///< the labelling's table, by attribute position
@@ -67,7 +69,6 @@ class Session {
     using FormFactory = std::function<std::unique_ptr<forms::Form>(Session&)>;
     /// Tells how the dialog `name` is made. Each feature does this once for its dialogs.
     void registerForm(std::string_view name, FormFactory factory);
-    bool canMakeForm(std::string_view name) const { return factories_.find(name) != factories_.end(); }
 
     /// The dialog `name`, made at its first use: the variable holds it before its Form_Initialize runs, so
     /// that this may refer to it. If Form_Initialize fails, the failure comes out and the variable is empty

@@ -18,26 +18,6 @@ struct AboutDialog : AboutWorld {
     }
 };
 
-TEST_F(AboutDialog, FreeTextFallsBackToTheFirstLanguage) {
-    screen.choose("Combo1", 2);
-    look([this] {
-        EXPECT_EQ(setting(), "Espa\u00F1ol");
-        EXPECT_EQ(dialog().caption(), "Acerca de Vorlane 1.0");
-        EXPECT_EQ(dialog().OKButton.caption(), "") << "an entry that a user's file lacks";
-    });
-    screen.type("Combo1", "fran\u00E7ais");
-    look([this] {
-        EXPECT_EQ(dialog().Combo1.text(), "English");
-        EXPECT_EQ(setting(), "English");
-    });
-    // By its exact name a language is reached by typing too.
-    screen.type("Combo1", "Fran\u00E7ais");
-    show();
-    // The next command starts with it.
-    load();
-    EXPECT_EQ(language::GetMsg(session, 116), "Conserver");
-}
-
 TEST_F(AboutDialog, ItsListIsThatOfItsMakingUntilTheCloseBoxUnloadsIt) {
     dialog();
     folder.write("later.lng", ":Language=Deutsch\r\n");

@@ -15,12 +15,14 @@ class StayingHelp : public fmHelp {
     void Form_Activate() override {}
 };
 
-using Help = AboutWorld;
+struct Help : AboutWorld {
+    Help() { session.HelpFile = "Vorlane.chm"; }
+};
 
 TEST_F(Help, TheHiddenDialogOpensTheStartPageAndIsNeverDrawn) {
     forms::Form& dialog = session.form("fmHelpHidden");
     dialog.show(screen);
-    EXPECT_EQ(screen.helpContexts, std::vector<int>{0});
+    EXPECT_EQ(platform.helps, std::vector<std::string>{"Vorlane.chm|"});  // the start page
     EXPECT_FALSE(dialog.visible());
     EXPECT_TRUE(screen.log.empty()) << screen.log.front();
     EXPECT_EQ(dialog.caption(), "Bo\u00EEte de dialogue");
@@ -33,7 +35,7 @@ TEST_F(Help, TheOtherHelpStaysFrenchAndHidesItselfToo) {
     EXPECT_EQ(dialog.BtnHelp.caption(), "Aide local");
     EXPECT_EQ(dialog.Command1.caption(), "Site Web");
     dialog.show(screen);
-    EXPECT_EQ(screen.helpContexts, std::vector<int>{0});
+    EXPECT_EQ(platform.helps, std::vector<std::string>{"Vorlane.chm|"});  // the start page
     EXPECT_TRUE(screen.log.empty()) << screen.log.front();
 }
 
@@ -43,7 +45,7 @@ TEST_F(Help, ItsButtonsLeadToTheHelpAndTheSupportPage) {
     screen.click("Command1");
     screen.click("cmdOK");
     session.form("fmHelp").show(screen);
-    EXPECT_EQ(screen.helpContexts, std::vector<int>{0});
+    EXPECT_EQ(platform.helps, std::vector<std::string>{"Vorlane.chm|"});  // the start page
     EXPECT_EQ(platform.opened, std::vector<std::string>{VORLANE_SITE "/query.php?link=03010001|0|0"});
     EXPECT_EQ(screen.log, (std::vector<std::string>{"show fmHelp", "hide fmHelp"}));
 }

@@ -58,6 +58,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = CHAISE
 > CboBlocReplacer = ARBRE
+(typed only; "CboBlocReplacer : ARBRE" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -67,7 +68,7 @@ Command: VNREPLACE
 [fmReplace] hidden
 Command: SAVE
 Error 61: apartment.dxf: the file would be larger than allowed here
-vorlane-console: line 13: SAVE: could not be carried out
+vorlane-console: line 13: SAVE: Error 61: apartment.dxf: the file would be larger than allowed here
 -- run list_files.py
 apartment.dxf
 data

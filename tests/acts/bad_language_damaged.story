@@ -1,5 +1,7 @@
 Opened empty.dxf
 ; drawing: samples/empty.dxf
+; options: --keep-going
+; exit: 1
 ; before: mkdir -p data/vorlane && printf ':Language=English\r\n012_me=Only this\r\n' > data/vorlane/English.LNG
 ; A user's language file that lacks nearly all keys is left alone: what it lacks is empty.
 Command: VNREPLACE
@@ -41,3 +43,4 @@ Command: VNREPLACE
   LblNbrSelected: (disabled)
 > BtnClose
 [fmReplace] hidden
+vorlane-console: line 7: ok: 

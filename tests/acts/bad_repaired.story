@@ -1,7 +1,9 @@
 Opened duplicate_handles.dxf
 1 finding on reading:
-  33: handle 1A: the handle is taken by an earlier object, which keeps it
+  K8 33: handle 1A: the handle is taken by an earlier object, which keeps it
 ; drawing: tests/faults/duplicate_handles.dxf
+; options: --keep-going
+; exit: 1
 Command: LIST
 References  Block
 Command: VNREPLACE
@@ -45,10 +47,13 @@ Command: VNREPLACE
 [fmReplace] hidden
 Command: SAVE result.dxf
 Saved result.dxf
+vorlane-console: line 6: ok: No block références were found in this drawing.
 Opened no_entities.dxf
 1 finding on reading:
-  1: there is no section ENTITIES
+  K5 1: there is no section ENTITIES
 ; drawing: tests/faults/no_entities.dxf
+; options: --keep-going
+; exit: 1
 Command: LIST
 References  Block
 Command: VNREPLACE
@@ -92,3 +97,4 @@ Command: VNREPLACE
 [fmReplace] hidden
 Command: SAVE result.dxf
 Saved result.dxf
+vorlane-console: line 6: ok: No block références were found in this drawing.

@@ -1,5 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
+; options: --keep-going
+; exit: 1
 ; copy: samples/porte_double.dxf
 ; copy: samples/empty.dxf
 ; check: result.dxf --imports
@@ -60,7 +62,7 @@ Command: VNREPLACE
 > CboBlocReplacer # 1
 [fmReplace] hidden
 +-- Open
-|  Dessin bloc AutoCAD (*.dwg)
+|  Dessin bloc AutoCAD (*.dwg) (.dxf too)
 +-- [file PATH] [cancel]
 > file porte_double.dxf
 [fmReplace] Vorlane 1.0 : Block replacement (again)
@@ -151,7 +153,7 @@ Command: VNREPLACE
 > CboBlocReplacer # 1
 [fmReplace] hidden
 +-- Open
-|  Dessin bloc AutoCAD (*.dwg)
+|  Dessin bloc AutoCAD (*.dwg) (.dxf too)
 +-- [file PATH] [cancel]
 > cancel
 [fmReplace] Vorlane 1.0 : Block replacement (again)
@@ -292,6 +294,7 @@ References  Block
          0  *D3
          0  *D4
 The changes to result.dxf were not saved.
+vorlane-console: line 20: BtnReplace: Error -2145386420: Object was erased
 -- check result.dxf --imports
 removed: 12 ATTRIB, 3 INSERT, 3 SEQEND
 added: 2 ARC, 3 ATTDEF, 9 ATTRIB, 2 BLOCK, 2 BLOCK_RECORD, 1 CIRCLE, 2 ENDBLK, 5 INSERT, 1 LAYER, 3 LINE, 1 LTYPE, 3 SEQEND

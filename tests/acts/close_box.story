@@ -150,4 +150,3 @@ References  Block
          0  _CLOSEDFILLED
          0  *D3
          0  *D4
-The changes to apartment.dxf were not saved.

@@ -73,6 +73,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = SOFA
 > CboBlocReplacer = ARBRE10
+(typed only; "CboBlocReplacer : ARBRE10" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -153,6 +154,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = BL1
 > CboBlocReplacer = block1
+(typed only; "CboBlocReplacer : block1" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -216,6 +218,7 @@ Command: VNREPLACE
   LblNbrSelected: 3
 > lstDestination = CustomBlock1
 > CboBlocReplacer = CustomBlock1
+(typed only; "CboBlocReplacer : CustomBlock1" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -328,6 +331,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = BLOKO
 > CboBlocReplacer = CIRKLO_PUNKTOJ
+(typed only; "CboBlocReplacer : CIRKLO_PUNKTOJ" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -584,6 +588,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = xref-Bishop-Overland-08$0$FIXT-OVALBATH
 > CboBlocReplacer = xref-Bishop-Overland-08$0$P-Toilet
+(typed only; "CboBlocReplacer : xref-Bishop-Overland-08$0$P-Toilet" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -828,6 +833,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = V-CHAIR
 > CboBlocReplacer = V-SOFA
+(typed only; "CboBlocReplacer : V-SOFA" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -902,6 +908,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = FLAG
 > CboBlocReplacer = FLAG
+(typed only; "CboBlocReplacer : FLAG" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -983,6 +990,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = some block
 > CboBlocReplacer = some block
+(typed only; "CboBlocReplacer : some block" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -1094,6 +1102,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = DATE_BLOCK
 > CboBlocReplacer = A$C84c221ce
+(typed only; "CboBlocReplacer : A$C84c221ce" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -1184,6 +1193,7 @@ Command: VNREPLACE
   LblNbrSelected: 2
 > lstDestination = text-block
 > CboBlocReplacer = text-block
+(typed only; "CboBlocReplacer : text-block" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.

@@ -162,6 +162,7 @@ Command: VNREPLACE
 ; and another by a block without attributes, scaled and turned
 > lstDestination = CIRKLO_PUNKTOJ
 > CboBlocReplacer = bloko
+(typed only; "CboBlocReplacer : bloko" chooses the entry)
 > chkXScale
 > txtXScale = 2.5
 > chkRotation
@@ -357,6 +358,7 @@ Command: VNREPLACE
 ; and another by a block without attributes, scaled and turned
 > lstDestination = CIRKLO_PUNKTOJ
 > CboBlocReplacer = bloko
+(typed only; "CboBlocReplacer : bloko" chooses the entry)
 > chkXScale
 > txtXScale = 2.5
 > chkRotation

@@ -1,5 +1,7 @@
 Opened table_with_block.dxf
 ; drawing: corpus/table_with_block.dxf
+; options: --keep-going
+; exit: 1
 ; check: result.dxf
 ; A table carries the name of its block too, but is no reference: it lacks the scale factors.
 Command: LIST
@@ -85,6 +87,7 @@ Command: VNREPLACE
   Label2: Number of blocks to replace:
   LblNbrSelected: 1
 > CboBlocReplacer = B1
+(typed only; "CboBlocReplacer : B1" chooses the entry)
 > BtnReplace
 ! Error 438: Object doesn't support this property or method: 'InsertionPoint'
 > BtnClose
@@ -96,6 +99,7 @@ References  Block
          0  B1
 Command: SAVE result.dxf
 Saved result.dxf
+vorlane-console: line 10: BtnReplace: Error 438: Object doesn't support this property or method: 'InsertionPoint'
 -- check result.dxf
 removed: none
 added: none

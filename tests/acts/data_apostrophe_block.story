@@ -69,7 +69,7 @@ Command: VNINSERT
         1 X
         2 Y
         3 Z
-  Frame2: Données d'insert° du bloc 'T' : 'data.txt'
+  Frame2: Données d'insert° du bloc 'T' : 'FOLDER/data.txt'
     ListView2: 1 row
         # | N | X | Y | Z
       > 1 | 1 | 5 | 6 | 0
@@ -111,7 +111,7 @@ Command: VNINSERT
         1 X
         2 Y
         3 Z
-  Frame2: Données d'insert° du bloc 'T' : 'data.txt'
+  Frame2: Données d'insert° du bloc 'T' : 'FOLDER/data.txt'
     ListView2: 1 row
         # | N | X | Y | Z
       > 1 | 1 | 5 | 6 | 0
@@ -159,7 +159,7 @@ Command: VNINSERT
         1 X
         2 Y
         3 Z
-  Frame2: Données d'insert° du bloc 'T' : 'data''
+  Frame2: Données d'insert° du bloc 'T' : 'FOLDER/data''
     ListView2: 2 rows
         # | N | X | Y | Z
       > 1 | N | X | Y | Z
@@ -180,4 +180,3 @@ Command: VNINSERT
     > 7 SURVEY_POINT
 > BtnClose
 [fmReInsert] hidden
-The changes to apostrophe.dxf were not saved.

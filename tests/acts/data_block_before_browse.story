@@ -37,7 +37,7 @@ Command: VNINSERT
       6 SURVEY_POINT
 > Combo1 # 1
 +-- Select a block file
-|  Dessin bloc AutoCAD (*.dwg)
+|  Dessin bloc AutoCAD (*.dwg) (.dxf too)
 +-- [file PATH] [cancel]
 > file porte_double.dxf
 > show
@@ -150,7 +150,7 @@ Command: VNINSERT
       8 SURVEY_POINT
 > Combo1 # 1
 +-- Select a block file
-|  Dessin bloc AutoCAD (*.dwg)
+|  Dessin bloc AutoCAD (*.dwg) (.dxf too)
 +-- [file PATH] [cancel]
 > cancel
 > show

@@ -2,7 +2,8 @@ Opened template.dxf
 ; drawing: samples/template.dxf
 ; copy: samples/survey_points.txt
 ; before: head -n 5 survey_points.txt > few.txt
-; options: --regional fr
+; options: --regional fr --keep-going
+; exit: 1
 ; A file with decimal points under decimal-comma settings: each row with a fraction is reported and left out.
 Command: VNINSERT
 [fmReInsert] Vorlane 1.0 : Block re-insertion
@@ -62,4 +63,4 @@ References  Block
          0  NORD
          0  ARBRE
          0  SURVEY_POINT
-The changes to template.dxf were not saved.
+vorlane-console: line 12: ok: End of the insertion. Error : The line 1 was not insered! Error : The line 2 was not insered! Error : The line 3 was not insered!

@@ -1,7 +1,8 @@
 Opened template.dxf
 ; drawing: samples/template.dxf
 ; before: printf 'x\tT\r\nN\tX\tY\tZ\tEX\tEY\tEZ\tR\tNUMERO\r\n1\t1\t1\t0\t1\t1\t1\t0\tA\r\n2\t\t1\t0\t1\t1\t1\t0\tB\r\n3\t3\t1\t0\tbig\t1\t1\t0\tC\r\n\r\n5\t5\t1\t0\t0\t1\t1\t0\tE\r\n6\t6\t1\t0\t2\t2\t2\t1.5\tF\tsurplus\r\n7\t7\n7\t1\t0\t1\t1\t1\t0\tG\r\n' > data.txt
-; options: --regional en
+; options: --regional en --keep-going
+; exit: 1
 ; run: print_references.py result.dxf ETIQUETTE_PIECE
 ; run: check_drawing.py original-template.dxf result.dxf
 ; Rows with a text that is no number are reported; a scale of 0, which the drawing refuses, is dropped in silence; the
@@ -74,7 +75,7 @@ Command: VNINSERT
         6 EZ
         7 R
         8 NUMERO
-  Frame2: Données d'insert° du bloc 'T' : 'data.txt'
+  Frame2: Données d'insert° du bloc 'T' : 'FOLDER/data.txt'
     ListView2: 7 rows
         # | N | X | Y | Z | EX | EY | EZ | R | NUMERO
       > 1 | 1 | 1 | 1 | 0 | 1 | 1 | 1 | 0 | A
@@ -121,6 +122,7 @@ References  Block
          0  SURVEY_POINT
 Command: SAVE result.dxf
 Saved result.dxf
+vorlane-console: line 18: ok: End of the insertion. Error : The line 2 was not insered! Error : The line 3 was not insered! Error : The line 4 was not insered! Error : The line 7 was not insered!
 -- run print_references.py result.dxf ETIQUETTE_PIECE
 Model: at 1.5,1,0 scale 1,1,1 rotation 0 layer 0 NUMERO='A' NOM='Colonne 9' SURFACE='Colonne 10'
 Model: at 6.5,1,0 scale 2,2,2 rotation 85.9437 layer 0 NUMERO='F' NOM='Colonne 9' SURFACE='Colonne 10'

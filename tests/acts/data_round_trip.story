@@ -150,7 +150,7 @@ Command: VNINSERT
         7 Rotation
         8 Calque
         9 Couleur
-  Frame2: Données d'insert° du bloc 'SOFA' : 'data1.txt'
+  Frame2: Données d'insert° du bloc 'SOFA' : 'FOLDER/data1.txt'
     ListView2: 10 rows
         # | N° | X insertion | Y insertion | Z insertion | Ech. X | Ech. Y | Ech. Z | Rotation | Calque | Couleur
       > 1 | 1 | 17.6550914282747 | 13.470760244825 | 0 | 1 | 1 | 1 | 6.28318530717957 | texture | 256
@@ -399,7 +399,7 @@ Command: VNINSERT
         8 ETIKEDO
         9 Calque
         10 Couleur
-  Frame2: Données d'insert° du bloc 'bloko' : 'data1.txt'
+  Frame2: Données d'insert° du bloc 'bloko' : 'FOLDER/data1.txt'
     ListView2: 2 rows
         # | N° | X insertion | Y insertion | Z insertion | Ech. X | Ech. Y | Ech. Z | Rotation | ETIKEDO | Calque | Couleur
       > 1 | 1 | 3642.1373579311 | 6066.04956661179 | 0 | 1 | 1 | 1 | 0 | valoro de la teksto en bloko | Tavolo 3 | 256
@@ -637,7 +637,7 @@ Command: VNINSERT
         8 ETIKEDO
         9 Calque
         10 Couleur
-  Frame2: Données d'insert° du bloc 'BLOKO' : 'data1.txt'
+  Frame2: Données d'insert° du bloc 'BLOKO' : 'FOLDER/data1.txt'
     ListView2: 2 rows
         # | N° | X insertion | Y insertion | Z insertion | Ech. X | Ech. Y | Ech. Z | Rotation | ETIKEDO | Calque | Couleur
       > 1 | 1 | 3642,1373579311 | 6066,04956661179 | 0 | 1 | 1 | 1 | 0 | valoro de la teksto en bloko | TAVOLO_3 | 256
@@ -899,7 +899,7 @@ Command: VNINSERT
         7 Rotation
         8 Calque
         9 Couleur
-  Frame2: Données d'insert° du bloc 'xref-Bishop-Overland-08$0$FIXT-OVALBATH' : 'data1.txt'
+  Frame2: Données d'insert° du bloc 'xref-Bishop-Overland-08$0$FIXT-OVALBATH' : 'FOLDER/data1.txt'
     ListView2: 3 rows
         # | N° | X insertion | Y insertion | Z insertion | Ech. X | Ech. Y | Ech. Z | Rotation | Calque | Couleur
       > 1 | 1 | -363.536279232579 | 189.645948467859 | 0 | 1 | 1 | -1 | 4.71238898038469 | xref-Bishop-Overland-08$0$A-CASE-1 | 256

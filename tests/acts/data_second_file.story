@@ -2,7 +2,8 @@ Opened template.dxf
 ; drawing: samples/template.dxf
 ; copy: samples/survey_points.txt
 ; before: head -n 4 survey_points.txt > first.txt && printf 'x\tOTHER\r\nN\tEAST\tNORTH\r\n1\t5\t6\t7\t1\t1\t1\t0\tA\r\n' > second.txt
-; options: --regional en
+; options: --regional en --keep-going
+; exit: 1
 ; run: print_references.py result.dxf SURVEY_POINT
 ; The columns of the first file stay: the second file's column line is a row like others, and its text is no number. A
 ; cancel reads the last file once more, and a file that isn't there takes the rows away.
@@ -48,6 +49,7 @@ Command: VNINSERT
 > Combo1 # 6
 > ListView1 = NATURE
 > ComboBox1 = X insertion
+(typed only; "ComboBox1 : X insertion" chooses the entry)
 > BtnData
 [fmReInsert] hidden
 +-- Sélectionnez le fichier des données d'insertion
@@ -87,7 +89,7 @@ Command: VNINSERT
         10 NATURE
         11 Calque
         12 Couleur
-  Frame2: Données d'insert° du bloc 'OTHER' : 'second.txt'
+  Frame2: Données d'insert° du bloc 'OTHER' : 'FOLDER/second.txt'
     ListView2: 2 rows
         # | N° | X insertion | Y insertion | Z insertion | Ech. X | Ech. Y | Ech. Z | Rotation | MATRICULE | ALTITUDE | NATURE | Calque | Couleur
       > 1 | N | EAST | NORTH | | | | | | | | | |
@@ -125,6 +127,7 @@ Command: VNINSERT
 |  Fichier texte séparateur tabulation (*.txt)
 +-- [file PATH] [cancel]
 > file nowhere.txt
+! FOLDER/nowhere.txt isn't there or can't be read
 [fmReInsert] Vorlane 1.0 : Block re-insertion (again)
 > show
   Frame1: Attributs de 'SURVEY_POINT'
@@ -158,7 +161,7 @@ Command: VNINSERT
         10 NATURE
         11 Calque
         12 Couleur
-  Frame2: Données d'insert° du bloc 'OTHER' : 'second.txt'
+  Frame2: Données d'insert° du bloc 'OTHER' : 'FOLDER/second.txt'
     ListView2: 0 rows
         # | N° | X insertion | Y insertion | Z insertion | Ech. X | Ech. Y | Ech. Z | Rotation | MATRICULE | ALTITUDE | NATURE | Calque | Couleur
   Check1: [ ] Add a leader line (disabled)
@@ -178,5 +181,7 @@ Command: VNINSERT
 [fmReInsert] hidden
 Command: SAVE result.dxf
 Saved result.dxf
+vorlane-console: line 21: ok: End of the insertion. Error : The line 1 was not insered!
+vorlane-console: line 23: file nowhere.txt: FOLDER/nowhere.txt isn't there or can't be read
 -- run print_references.py result.dxf SURVEY_POINT
 Model: at 5,6,7 scale 1,1,1 rotation 0 layer 0 MATRICULE='A' ALTITUDE='' NATURE='5'

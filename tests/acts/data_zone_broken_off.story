@@ -1,5 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
+; options: --keep-going
+; exit: 1
 ; Escape while the zone is selected is a failure like another: the command is over, with the dialog hidden.
 Command: VNEXTRACT
 [fmExtract] Vorlane 1.0 : Block data extraction
@@ -48,3 +50,4 @@ References  Block
          0  _CLOSEDFILLED
          0  *D3
          0  *D4
+vorlane-console: line 9: esc: Error -2147352567: Method failed: SelectOnScreen: broken off by the user

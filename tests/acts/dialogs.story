@@ -111,6 +111,7 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = PORTE_90
+(typed only; "Combo2 : PORTE_90" chooses the entry)
 > show
   Label1: Block to insert:
   Combo2: "PORTE_90"
@@ -166,13 +167,14 @@ Command: VNLABEL
   BtnInserer: [Insert]
   OKButton: [Close]
 > Combo1 = Aire Auto Monoclic
+(typed only; "Combo1 : Aire Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: CODE
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Aire Auto Monoclic
   CancelButton: [Cancel]
   Frame1: Value
@@ -196,6 +198,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Labelling (again)
 ; a counter has other fields
 > Combo1 = Incrément Auto
+(typed only; "Combo1 : Incrément Auto" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format (again)
@@ -203,7 +206,7 @@ Command: VNLABEL
   Label1: Attribute 1:
   LabelTag: CODE
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Incrément Auto
   CancelButton: [Cancel]
   Frame1: Value
@@ -235,7 +238,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > OKButton
 [fmParamIns] hidden
@@ -306,7 +309,7 @@ Command: VNABOUT
 [fmAbout] About Vorlane 1.0
   Label1: Vorlane 1.0
   Label2: Copyright © 2026 Merovane
-  BtnWeb: [Web site]
+  BtnWeb: [Website]
   Label3: https://www.merovane.example
   Text1: "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
   Combo1: "English"
@@ -316,7 +319,6 @@ Command: VNABOUT
   OKButton: [OK]
 > OKButton
 [fmAbout] hidden
-The changes to apartment.dxf were not saved.
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf | fr
 ; language: fr
@@ -430,6 +432,7 @@ Command: VNLABEL
   BtnInserer: [Insérer] (disabled)
   OKButton: [Fermer]
 > Combo2 = PORTE_90
+(typed only; "Combo2 : PORTE_90" chooses the entry)
 > show
   Label1: Nom du bloc à insérer :
   Combo2: "PORTE_90"
@@ -485,6 +488,7 @@ Command: VNLABEL
   BtnInserer: [Insérer]
   OKButton: [Fermer]
 > Combo1 = Aire Auto Monoclic
+(typed only; "Combo1 : Aire Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Format de l'attribut
@@ -515,6 +519,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Etiquetage (again)
 ; a counter has other fields
 > Combo1 = Incrément Auto
+(typed only; "Combo1 : Incrément Auto" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Format de l'attribut (again)
@@ -635,4 +640,3 @@ Command: VNABOUT
   OKButton: [OK]
 > OKButton
 [fmAbout] hidden
-The changes to apartment.dxf were not saved.

@@ -44,7 +44,7 @@ Command: VNLABEL
   OKButton: [Close]
 > BtnImport
 +-- Open
-|  Dessin bloc AutoCAD (*.dwg)
+|  Dessin bloc AutoCAD (*.dwg) (.dxf too)
 +-- [file PATH] [cancel]
 > file releve_piece.dxf
 > show
@@ -103,13 +103,14 @@ Command: VNLABEL
   OKButton: [Close]
 > ListView1 # 2
 > Combo1 = Aire Auto Monoclic
+(typed only; "Combo1 : Aire Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: SURFACE
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Aire Auto Monoclic
   CancelButton: [Cancel]
   Frame1: Value
@@ -135,6 +136,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > ListView1 # 3
 > Combo1 = Périmètre Auto Monoclic
+(typed only; "Combo1 : Périmètre Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format (again)
@@ -145,6 +147,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > ListView1 # 4
 > Combo1 = Nom du Calque
+(typed only; "Combo1 : Nom du Calque" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format (again)
@@ -154,7 +157,7 @@ Command: VNLABEL
   Label1: Attribute 1:
   LabelTag: CALQUE
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Nom du Calque
   CancelButton: [Cancel]
   Frame1: Value
@@ -167,6 +170,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > ListView1 # 1
 > Combo1 = Couleur
+(typed only; "Combo1 : Couleur" chooses the entry)
 > BtnParametre
 [fmLabels] hidden
 [fmParamIns] Vorlane 1.0 : Insertion parameters
@@ -184,7 +188,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > show
   Frame1: Scale
@@ -201,7 +205,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton

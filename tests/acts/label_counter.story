@@ -39,6 +39,7 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = PORTE_90
+(typed only; "Combo2 : PORTE_90" chooses the entry)
 > BtnParametre
 [fmLabels] hidden
 [fmParamIns] Vorlane 1.0 : Insertion parameters
@@ -56,20 +57,21 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton
 [fmParamIns] hidden
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > Combo1 = Incrément Auto
+(typed only; "Combo1 : Incrément Auto" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: CODE
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Incrément Auto
   CancelButton: [Cancel]
   Frame1: Value
@@ -85,7 +87,7 @@ Command: VNLABEL
   Label1: Attribute 1:
   LabelTag: CODE
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Incrément Auto
   CancelButton: [Cancel]
   Frame1: Value
@@ -187,7 +189,9 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = PORTE_90
+(typed only; "Combo2 : PORTE_90" chooses the entry)
 > Combo1 = Incrément Auto
+(typed only; "Combo1 : Incrément Auto" chooses the entry)
 > BtnParametre
 [fmLabels] hidden
 [fmParamIns] Vorlane 1.0 : Insertion parameters
@@ -205,7 +209,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton

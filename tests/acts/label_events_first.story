@@ -41,6 +41,7 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = ARBRE
+(typed only; "Combo2 : ARBRE" chooses the entry)
 ; Escape or Enter at the insertion point: nothing is placed
 > BtnInserer
 [fmLabels] hidden
@@ -82,7 +83,7 @@ Indiquer le 2è point de la ligne de repère :esc
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > Text1 = 0
 > OKButton
@@ -123,11 +124,15 @@ Indiquer l'orientation :esc
 [fmLabels] Vorlane 1.0 : Labelling (again)
 ; Escape at the picks of attributes never ends the run
 > Combo2 = PORTE_90
+(typed only; "Combo2 : PORTE_90" chooses the entry)
 > Combo1 = Longueur Auto Monoclic
+(typed only; "Combo1 : Longueur Auto Monoclic" chooses the entry)
 > ListView1 # 2
 > Combo1 = Aire Auto Polyclic
+(typed only; "Combo1 : Aire Auto Polyclic" chooses the entry)
 > ListView1 # 3
 > Combo1 = Abscisse X Auto
+(typed only; "Combo1 : Abscisse X Auto" chooses the entry)
 > BtnInserer
 [fmLabels] hidden
 Indiquer le point d'insertion du bloc :6,-10

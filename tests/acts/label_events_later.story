@@ -41,6 +41,7 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = ARBRE
+(typed only; "Combo2 : ARBRE" chooses the entry)
 ; Escape at the leader's first point: the line starts where the one before did
 > BtnInserer
 [fmLabels] hidden
@@ -79,7 +80,7 @@ Indiquer le 2è point de la ligne de repère :esc
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox1
 > OKButton
@@ -99,14 +100,16 @@ Indiquer le 2è point de la ligne de repère :6,-12
 ; with attributes the label before is filled anew, and the run goes on; Escape at an attribute's pick gives the value of
 ; before
 > Combo2 = PORTE_90
+(typed only; "Combo2 : PORTE_90" chooses the entry)
 > Combo1 = Incrément Auto
+(typed only; "Combo1 : Incrément Auto" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: CODE
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Incrément Auto
   CancelButton: [Cancel]
   Frame1: Value
@@ -125,6 +128,7 @@ Indiquer le 2è point de la ligne de repère :6,-12
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > ListView1 # 2
 > Combo1 = Cote Z Auto
+(typed only; "Combo1 : Cote Z Auto" chooses the entry)
 > BtnParametre
 [fmLabels] hidden
 [fmParamIns] Vorlane 1.0 : Insertion parameters (again)

@@ -1,6 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
-; options: --regional en
+; options: --regional en --keep-going
+; exit: 1
 ; check: result.dxf
 ; run: print_lines.py result.dxf 0
 ; run: print_references.py result.dxf PORTE_90
@@ -40,6 +41,7 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = PORTE_90
+(typed only; "Combo2 : PORTE_90" chooses the entry)
 > BtnParametre
 [fmLabels] hidden
 [fmParamIns] Vorlane 1.0 : Insertion parameters
@@ -57,7 +59,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > Option2
 > OKButton
@@ -65,6 +67,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Labelling (again)
 ; one value from an object: the line starts where the object was clicked
 > Combo1 = Longueur Auto Monoclic
+(typed only; "Combo1 : Longueur Auto Monoclic" chooses the entry)
 > BtnInserer
 [fmLabels] hidden
 Indiquer le point d'insertion du bloc :1,-10
@@ -82,6 +85,7 @@ Indiquer le point d'insertion du bloc :esc
 |  Vorlane a corrigé le choix.
 +-- [ok]
 > ok
+(typed only; "Combo1 : Nom du Calque" chooses the entry)
 > show
   Label1: Block to insert:
   Combo2: "PORTE_90"
@@ -154,7 +158,7 @@ Indiquer le point d'insertion du bloc :esc
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 ; chosen again, it is put right again
 > Option2
@@ -170,6 +174,7 @@ Indiquer le point d'insertion du bloc :esc
 [fmLabels] Vorlane 1.0 : Labelling (again)
 ; a polygon, all alone
 > Combo1 = Saisie manuel
+(typed only; "Combo1 : Saisie manuel" chooses the entry)
 > BtnParametre
 [fmLabels] hidden
 [fmParamIns] Vorlane 1.0 : Insertion parameters (again)
@@ -186,8 +191,10 @@ Indiquer le point d'insertion du bloc :esc
 |  Vorlane a corrigé le choix.
 +-- [ok]
 > ok
+(typed only; "Combo1 : Aire Auto Polyclic" chooses the entry)
 ; also with the leader line switched off
 > Combo1 = Saisie manuel
+(typed only; "Combo1 : Saisie manuel" chooses the entry)
 > BtnParametre
 [fmLabels] hidden
 [fmParamIns] Vorlane 1.0 : Insertion parameters (again)
@@ -208,7 +215,7 @@ Indiquer le point d'insertion du bloc :esc
   Frame3: Leader line
     CheckBox2: [ ] Draw a leader line
     Option1: ( ) From a new point (disabled)
-    Option2: (o) From the one-click pick point (disabled)
+    Option2: (o) From the picked point (disabled)
   OKButton: [OK]
 > OKButton
 [fmParamIns] hidden
@@ -221,12 +228,16 @@ Indiquer le point d'insertion du bloc :esc
 |  Vorlane a corrigé le choix.
 +-- [ok]
 > ok
+(typed only; "Combo1 : Périmètre Auto Polyclic" chooses the entry)
 ; a mode that another block left behind counts, though the list says that all values are typed
 > Combo1 = Saisie manuel
+(typed only; "Combo1 : Saisie manuel" chooses the entry)
 > ListView1 # 3
 > Combo1 = Longueur Auto Polyclic
+(typed only; "Combo1 : Longueur Auto Polyclic" chooses the entry)
 > ListView1 # 1
 > Combo2 = ETIQUETTE_PIECE
+(typed only; "Combo2 : ETIQUETTE_PIECE" chooses the entry)
 > show
   Label1: Block to insert:
   Combo2: "ETIQUETTE_PIECE"
@@ -299,6 +310,11 @@ Indiquer le point d'insertion du bloc :esc
 [fmLabels] hidden
 Command: SAVE result.dxf
 Saved result.dxf
+vorlane-console: line 23: ok: L'option 'ligne de repérage à partir du point de sélection' n 'est pas valable avec plus d'une valeur Auto ni avec avec des valeurs Auto polyclic. Vorlane a corrigé le choix.
+vorlane-console: line 29: ok: L'option 'ligne de repérage à partir du point de sélection' n 'est pas valable avec plus d'une valeur Auto ni avec avec des valeurs Auto polyclic. Vorlane a corrigé le choix.
+vorlane-console: line 38: ok: L'option 'ligne de repérage à partir du point de sélection' n 'est pas valable avec plus d'une valeur Auto ni avec avec des valeurs Auto polyclic. Vorlane a corrigé le choix.
+vorlane-console: line 47: ok: L'option 'ligne de repérage à partir du point de sélection' n 'est pas valable avec plus d'une valeur Auto ni avec avec des valeurs Auto polyclic. Vorlane a corrigé le choix.
+vorlane-console: line 58: ok: L'option 'ligne de repérage à partir du point de sélection' n 'est pas valable avec plus d'une valeur Auto ni avec avec des valeurs Auto polyclic. Vorlane a corrigé le choix.
 -- check result.dxf
 removed: none
 added: 4 ATTRIB, 1 INSERT, 1 LINE, 1 SEQEND

@@ -40,14 +40,16 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = bloko
+(typed only; "Combo2 : bloko" chooses the entry)
 > Combo1 = Longueur Auto Monoclic
+(typed only; "Combo1 : Longueur Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: ETIKEDO
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Longueur Auto Monoclic
   CancelButton: [Cancel]
   Frame1: Value
@@ -87,7 +89,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton
@@ -102,6 +104,7 @@ Selectionner le contour ou l'objet. @75B
 Indiquer le point d'insertion du bloc :esc
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > Combo1 = Aire Auto Monoclic
+(typed only; "Combo1 : Aire Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format (again)
@@ -176,14 +179,16 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = bloko
+(typed only; "Combo2 : bloko" chooses the entry)
 > Combo1 = Longueur Auto Monoclic
+(typed only; "Combo1 : Longueur Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: ETIKEDO
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Longueur Auto Monoclic
   CancelButton: [Cancel]
   Frame1: Value
@@ -223,7 +228,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton
@@ -238,6 +243,7 @@ Selectionner le contour ou l'objet. @75B
 Indiquer le point d'insertion du bloc :esc
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > Combo1 = Aire Auto Monoclic
+(typed only; "Combo1 : Aire Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format (again)
@@ -312,14 +318,16 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = BLOKO
+(typed only; "Combo2 : BLOKO" chooses the entry)
 > Combo1 = Longueur Auto Monoclic
+(typed only; "Combo1 : Longueur Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: ETIKEDO
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Longueur Auto Monoclic
   CancelButton: [Cancel]
   Frame1: Value
@@ -359,7 +367,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton
@@ -374,6 +382,7 @@ Selectionner le contour ou l'objet. @75B
 Indiquer le point d'insertion du bloc :esc
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > Combo1 = Aire Auto Monoclic
+(typed only; "Combo1 : Aire Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format (again)

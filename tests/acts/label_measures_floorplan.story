@@ -40,14 +40,16 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = T-section-marker2
+(typed only; "Combo2 : T-section-marker2" chooses the entry)
 > Combo1 = Longueur Auto Monoclic
+(typed only; "Combo1 : Longueur Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: SHT#
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Longueur Auto Monoclic
   CancelButton: [Cancel]
   Frame1: Value
@@ -72,6 +74,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > ListView1 # 2
 > Combo1 = Aire Auto Monoclic
+(typed only; "Combo1 : Aire Auto Monoclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format (again)
@@ -96,7 +99,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton

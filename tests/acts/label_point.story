@@ -34,14 +34,16 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = FLAG
+(typed only; "Combo2 : FLAG" chooses the entry)
 > Combo1 = Abscisse X Auto
+(typed only; "Combo1 : Abscisse X Auto" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: NAME
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Abscisse X Auto
   CancelButton: [Cancel]
   Frame1: Value
@@ -67,6 +69,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > ListView1 # 2
 > Combo1 = Ordonnée Y Auto
+(typed only; "Combo1 : Ordonnée Y Auto" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format (again)
@@ -78,6 +81,7 @@ Command: VNLABEL
 [fmLabels] Vorlane 1.0 : Labelling (again)
 > ListView1 # 3
 > Combo1 = Cote Z Auto
+(typed only; "Combo1 : Cote Z Auto" chooses the entry)
 > show
   Label1: Block to insert:
   Combo2: "FLAG"
@@ -127,7 +131,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton
@@ -177,7 +181,9 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = FLAG
+(typed only; "Combo2 : FLAG" chooses the entry)
 > Combo1 = Abscisse X Auto
+(typed only; "Combo1 : Abscisse X Auto" chooses the entry)
 > show
   Label1: Block to insert:
   Combo2: "FLAG"
@@ -216,7 +222,7 @@ Command: VNLABEL
   Label1: Attribute 1:
   LabelTag: NAME
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Abscisse X Auto
   CancelButton: [Cancel]
   Frame1: Value
@@ -239,7 +245,7 @@ Command: VNLABEL
   Label1: Attribute 1:
   LabelTag: NAME
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Abscisse X Auto
   CancelButton: [Cancel]
   Frame1: Value

@@ -1,6 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
-; options: --regional fr
+; options: --regional fr --keep-going
+; exit: 1
 ; language: fr
 ; check: result.dxf
 ; run: print_references.py result.dxf ETIQUETTE_PIECE
@@ -343,6 +344,7 @@ Indiquer le point d'insertion du bloc :esc
 [fmLabels] Vorlane 1.0 : Etiquetage (again)
 ; a block without attributes of its own
 > Combo2 = POTEAU
+(typed only; "Combo2 : POTEAU" chooses the entry)
 > BtnInserer
 [fmLabels] hidden
 Indiquer le point d'insertion du bloc :3,-10
@@ -352,6 +354,8 @@ Indiquer le point d'insertion du bloc :esc
 [fmLabels] hidden
 Command: SAVE result.dxf
 Saved result.dxf
+vorlane-console: line 10: ListView1 key DOWN: Error 91: Object variable not set
+vorlane-console: line 25: OKButton: Error 9: Subscript out of range
 -- check result.dxf
 removed: none
 added: 6 ATTRIB, 3 INSERT, 2 SEQEND

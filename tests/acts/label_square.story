@@ -40,18 +40,22 @@ Command: VNLABEL
   BtnInserer: [Insert] (disabled)
   OKButton: [Close]
 > Combo2 = PORTE_90
+(typed only; "Combo2 : PORTE_90" chooses the entry)
 > Combo1 = Longueur Auto Polyclic
+(typed only; "Combo1 : Longueur Auto Polyclic" chooses the entry)
 > ListView1 # 2
 > Combo1 = Périmètre Auto Polyclic
+(typed only; "Combo1 : Périmètre Auto Polyclic" chooses the entry)
 > ListView1 # 3
 > Combo1 = Aire Auto Polyclic
+(typed only; "Combo1 : Aire Auto Polyclic" chooses the entry)
 > BtnAttFormat
 [fmLabels] hidden
 [fmAttFormat] Vorlane 1.0 : Attribute format
   Label1: Attribute 1:
   LabelTag: COUPE_FEU
   OKButton: [OK]
-  Label2: Value taken by:
+  Label2: Value mode:
   LabelMode: Aire Auto Polyclic
   CancelButton: [Cancel]
   Frame1: Value
@@ -92,7 +96,7 @@ Command: VNLABEL
   Frame3: Leader line
     CheckBox2: [x] Draw a leader line
     Option1: (o) From a new point
-    Option2: ( ) From the one-click pick point
+    Option2: ( ) From the picked point
   OKButton: [OK]
 > CheckBox2
 > OKButton

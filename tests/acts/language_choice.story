@@ -24,7 +24,7 @@ Command: VNABOUT
 [fmAbout] About Vorlane 1.0
   Label1: Vorlane 1.0
   Label2: Copyright © 2026 Merovane
-  BtnWeb: [Web site]
+  BtnWeb: [Website]
   Label3: https://www.merovane.example
   Text1: "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
   Combo1: "English"
@@ -34,6 +34,7 @@ Command: VNABOUT
   Label6: Choisir la langue
   OKButton: [OK]
 > Combo1 = Español
+(typed only; "Combo1 : Español" chooses the entry)
 > show
   Label1: Vorlane 1.0
   Label2: Copyright © 2026 Merovane
@@ -64,10 +65,11 @@ Command: VNEXTRACT
 Command: VNABOUT
 [fmAbout] Acerca de Vorlane 1.0 (again)
 > Combo1 = español
+(typed only; "Combo1 : español" chooses the entry)
 > show
   Label1: Vorlane 1.0
   Label2: Copyright © 2026 Merovane
-  BtnWeb: [Web site]
+  BtnWeb: [Website]
   Label3: https://www.merovane.example
   Text1: "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
   Combo1: "English"
@@ -77,6 +79,7 @@ Command: VNABOUT
   Label6: Choisir la langue
   OKButton: [OK]
 > Combo1 = Français
+(typed only; "Combo1 : Français" chooses the entry)
 > BtnWeb
 https://www.merovane.example/query.php?app=03&ver=01.00&act=00&lng=Français
 > OKButton
@@ -238,7 +241,7 @@ Command: VNABOUT
 [fmAbout] About Vorlane 1.0
   Label1: Vorlane 1.0
   Label2: Copyright © 2026 Merovane
-  BtnWeb: [Web site]
+  BtnWeb: [Website]
   Label3: https://www.merovane.example
   Text1: "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
   Combo1: "English"
@@ -251,8 +254,8 @@ Command: VNABOUT
 [fmAbout] hidden
 Command: VNHELP
 [help: en/start.html]
-Vorlane: help
-=============
+Vorlane help
+============
 
 Vorlane works on the block references of the open drawing. Where you would
 deal with one reference at a time, it deals with all of them together.
@@ -260,7 +263,7 @@ deal with one reference at a time, it deals with all of them together.
 The commands
 ------------
   Block replacement
-      VNREPLACE: replace all references of a block by another block, with
+      VNREPLACE: replace all references of a block with another block, with
       scales, rotation and attributes carried over or not.
   Labelling
       VNLABEL: insert a block as often as you click and fill its attributes
@@ -273,8 +276,11 @@ The commands
       VNINSERT: insert a block for each line of such a file.
   About Vorlane
       VNABOUT: the version and the choice of language.
-  Help
+  Vorlane help
       VNHELP: this page. F1 in a dialog opens that dialog's page.
+
+An unexpected message, an error with a number, nothing at all? When Vorlane
+says…
 
 The other dialogs
 -----------------
@@ -289,18 +295,92 @@ What holds everywhere
     made on a machine with commas can't be read as it stands on a machine with
     points: 12,5 becomes 125 there, without a warning. The other way round its
     lines are refused.
+  - Layer. New references and lines go to the current layer, in model space.
   - Radians. Rotation is in radians in the replacement, the extraction and the
     re-insertion; in degrees in the labelling only. A quarter turn is 1.5708
     radians, half a turn 3.1416.
   - Esc. Esc during a pick in the drawing gives that pick up. Depending on the
     command, the dialog comes back or the command ends: each page tells. What
     has been inserted stays in the drawing.
-  - Undo. A whole command is undone in one step, by the drawing program's
-    undo.
-  - Layer. New references and lines go to the current layer, in model space.
-  - French. Value modes, column headings and most questions asked in the
-    drawing stay French in every language.
+  - Undo. A whole command is undone in one step, by U or Ctrl+Z.
+
+Glossary
+--------
+  English
+  French
+      block reference
+      référence de bloc
+      insertion point, scale, rotation
+      point d'insertion, échelle, rotation
+      attribute, tag, value
+      attribut, étiquette d'attribut, valeur
+      pick; select
+      désigner ; sélectionner
+      zone: the part of the drawing that is treated
+      zone
+      layer, current layer, locked layer
+      calque, calque courant, calque verrouillé
+      model space, layout
+      espace objet, présentation
+      leader line
+      ligne ou trait de repérage, ligne de repère
+      outline
+      contour
+      transfer, pairing or mapping
+      transcription, correspondance
+
+What stays French in every language
+-----------------------------------
+
+These texts come from no language file.
+  Value modes
+  What they give
+      Saisie manuel
+      the value typed
+      Abscisse X Auto, Ordonnée Y Auto, Cote Z Auto
+      X, Y, Z of a point
+      Longueur, Périmètre, Aire Auto Monoclic
+      length, perimeter, area of an object picked by one click
+      Longueur, Périmètre, Aire Auto Polyclic
+      the same of an outline of several clicks
+      Incrément Auto
+      a counter
+      Nom du Calque, Couleur
+      layer name, colour
+  Columns
+  Meaning
+      Attribut, Etiquette, Valeur, Mode de détermination
+      attribute, tag, value, value mode
+      Attribut dans le bloc source, de destination
+      attribute in the source block, in the destination block
+      N°, X insertion, Ech. X, Rotation, Calque, Couleur
+      number, X of the insertion point, X scale, rotation, layer, colour
+      Paramètre, Colonne-valeurs
+      parameter, column or value
+      X_, Ech.X, Rotation(rd), DeltaX
+      X, X scale, rotation in radians, offset in X
+  Questions in the drawing
+  What is asked for
+      Indiquer le point d'insertion du bloc :
+      the label's insertion point
+      Indiquer l'orientation :
+      its orientation
+      Indiquer le 1er point, le 2è point de la ligne de repère :
+      first, second point of the leader line
+      Selectionner le point à repérer.
+      the point whose coordinates are read
+      Selectionner le contour ou l'objet.
+      the object that is measured
+      Cliquer sur le premier point, le point suivant pour le contour polyclic
+      :
+      first, next point of the outline
+      Selectionner l'étiquette à insérer :
+      the block to insert
+
+Also French: "Vorlane : Erreur", the box about the leader line; "Erreur" and a
+number as a command starts; "L'objet selectionné n'est pas un bloc." in the
+re-insertion; titles and kinds of the file dialogs. English in every language:
+"The following error has occurred trying to replace a block: ".
 [end of help]
-The changes to apartment.dxf were not saved.
 -- run print_setting.py Lng
 Lng=English

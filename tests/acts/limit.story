@@ -1,5 +1,7 @@
 Opened big.dxf
 ; drawing: big 32767
+; options: --keep-going
+; exit: 1
 ; The counter overflows after the last reference of 32767: all are replaced, and the closing message is lost. One more
 ; doesn't fit the counter: nothing is replaced.
 Command: VNREPLACE
@@ -43,8 +45,10 @@ Command: VNREPLACE
   LblNbrSelected: 32767
 > lstDestination = LAMP
 > CboBlocReplacer = SPOT
+(typed only; "CboBlocReplacer : SPOT" chooses the entry)
 > BtnReplace
 ! Error 6: Overflow
+  A command counts to 32,767: take fewer references at a time, zone by zone.
 > BtnClose
 [fmReplace] hidden
 Command: LIST
@@ -52,8 +56,11 @@ References  Block
          0  LAMP
      32768  SPOT
 The changes to big.dxf were not saved.
+vorlane-console: line 9: BtnReplace: Error 6: Overflow
 Opened big.dxf
 ; drawing: big 32768
+; options: --keep-going
+; exit: 1
 ; The counter overflows after the last reference of 32767: all are replaced, and the closing message is lost. One more
 ; doesn't fit the counter: nothing is replaced.
 Command: VNREPLACE
@@ -97,12 +104,14 @@ Command: VNREPLACE
   LblNbrSelected: 32768
 > lstDestination = LAMP
 > CboBlocReplacer = SPOT
+(typed only; "CboBlocReplacer : SPOT" chooses the entry)
 > BtnReplace
 ! Error 6: Overflow
+  A command counts to 32,767: take fewer references at a time, zone by zone.
 > BtnClose
 [fmReplace] hidden
 Command: LIST
 References  Block
      32768  LAMP
          1  SPOT
-The changes to big.dxf were not saved.
+vorlane-console: line 9: BtnReplace: Error 6: Overflow

@@ -1,5 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
+; options: --keep-going
+; exit: 1
 ; Pairs of an earlier block stay in force by position: a block with fewer attributes fails at the first of them.
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
@@ -105,3 +107,4 @@ References  Block
          0  *D3
          0  *D4
 The changes to apartment.dxf were not saved.
+vorlane-console: line 14: BtnReplace: Error 9: Subscript out of range

@@ -54,6 +54,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = CHAISE
 > CboBlocReplacer = ARBRE
+(typed only; "CboBlocReplacer : ARBRE" chooses the entry)
 > optZoneSelection
 [fmReplace] hidden
 Select objects: 
@@ -165,4 +166,3 @@ References  Block
          0  _CLOSEDFILLED
          0  *D3
          0  *D4
-The changes to apartment.dxf were not saved.

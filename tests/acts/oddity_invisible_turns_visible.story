@@ -56,6 +56,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = PORTE_80
 > CboBlocReplacer = PORTE_80
+(typed only; "CboBlocReplacer : PORTE_80" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.

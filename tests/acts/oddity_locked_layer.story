@@ -1,5 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
+; options: --keep-going
+; exit: 1
 ; run: print_references.py result.dxf NORD
 ; run: print_references.py result.dxf ARBRE
 ; The old reference stands on a locked layer and can't be deleted: both are there.
@@ -56,12 +58,15 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = NORD
 > CboBlocReplacer = ARBRE
+(typed only; "CboBlocReplacer : ARBRE" chooses the entry)
 > BtnReplace
 ! Error -2145386239: Object on locked layer: FOND_PLAN
+  Unlock the layer, or leave its objects out by selecting a zone. U takes back what was done.
 > BtnClose
 [fmReplace] hidden
 Command: SAVE result.dxf
 Saved result.dxf
+vorlane-console: line 10: BtnReplace: Error -2145386239: Object on locked layer: FOND_PLAN
 -- run print_references.py result.dxf NORD
 Model: at 19,10.6,0 scale 1,1,1 rotation -20 layer FOND_PLAN
 -- run print_references.py result.dxf ARBRE

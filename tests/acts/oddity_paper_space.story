@@ -133,6 +133,7 @@ Command: VNREPLACE
   Label2: Number of blocks to replace:
   LblNbrSelected: 1
 > CboBlocReplacer = NORD
+(typed only; "CboBlocReplacer : NORD" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.

@@ -1,5 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
+; options: --keep-going
+; exit: 1
 ; A pick broken off in Select of the source side ends the command with the dialog hidden.
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
@@ -470,4 +472,6 @@ Select one block reference of the group to be replaced :@16A
   LblNbrSelected: 2
 > BtnClose
 [fmReplace] hidden
-The changes to apartment.dxf were not saved.
+vorlane-console: line 8: cancel: Error 91: Object variable not set
+vorlane-console: line 13: esc: Error -2147352567: Method failed: SelectOnScreen: broken off by the user
+vorlane-console: line 19: cancel: Error 91: Object variable not set

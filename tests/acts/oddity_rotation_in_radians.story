@@ -56,6 +56,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = LAVABO
 > CboBlocReplacer = ARBRE
+(typed only; "CboBlocReplacer : ARBRE" chooses the entry)
 > chkRotation
 > txtRotation = 90
 > chkVisibility

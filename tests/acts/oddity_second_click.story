@@ -1,5 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
+; options: --keep-going
+; exit: 1
 ; The set still holds the erased references: a second click fails on the first of them.
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
@@ -54,6 +56,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = CHAISE
 > CboBlocReplacer = ARBRE
+(typed only; "CboBlocReplacer : ARBRE" chooses the entry)
 > BtnReplace
 +-- Quillet 1.0 (i)
 |  Blocks references replaced succesfully.
@@ -251,3 +254,4 @@ References  Block
          0  *D3
          0  *D4
 The changes to apartment.dxf were not saved.
+vorlane-console: line 10: BtnReplace: Error -2145386420: Object was erased

@@ -1,6 +1,7 @@
 Opened apartment.dxf
 ; drawing: samples/apartment.dxf
-; options: --regional fr
+; options: --regional fr --keep-going
+; exit: 1
 ; Numbers are judged as they are typed, by the regional settings; Replace doesn't judge again.
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
@@ -55,6 +56,7 @@ Command: VNREPLACE
   LblNbrSelected: 1
 > lstDestination = POTEAU
 > CboBlocReplacer = ARBRE
+(typed only; "CboBlocReplacer : ARBRE" chooses the entry)
 > chkXScale
 ; a decimal point is no number under a decimal comma
 > txtXScale = 2.5
@@ -256,3 +258,7 @@ References  Block
          0  *D3
          0  *D4
 The changes to apartment.dxf were not saved.
+vorlane-console: line 11: ok: This value must be numeric
+vorlane-console: line 13: ok: This value must be numeric
+vorlane-console: line 15: ok: This value must be numeric
+vorlane-console: line 16: BtnReplace: Error 13: Type mismatch

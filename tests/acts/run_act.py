@@ -85,8 +85,18 @@ def find_tool(name):
     return next(path for path in (ROOT / "tests/acts" / name, ROOT / "tools" / name) if path.exists())
 
 
-def tell(console, script, folder):
-    """The story."""
+def run_console(console, drawing, script, folder, settings):
+    of = lambda key: [value for k, value in settings if k == key]
+    locale = "fr_FR.UTF-8" if of("language") == ["fr"] else "en_US.UTF-8"
+    environment = {"PATH": os.environ["PATH"], "XDG_DATA_HOME": str(folder / "data"), "LANG": locale}
+    options = " ".join(of("options")).split()
+    return subprocess.run([console, drawing, "--script", script, *options], cwd=folder, env=environment,
+                          stdin=subprocess.DEVNULL, capture_output=True, timeout=600,
+                          preexec_fn=lambda: fill_disk(of("disk")))
+
+
+def tell(console, script, folder, program=None):
+    """The story; `program` runs another program in the console's place."""
     settings, story = list(directives(script)), ""
     of = lambda key: [value for k, value in settings if k == key]
     drawing = bring(of("drawing")[0].split("|")[0].strip(), folder, console)
@@ -94,17 +104,15 @@ def tell(console, script, folder):
         bring(name, folder, console)
     original = folder / ("original-" + drawing)
     shutil.copyfile(folder / drawing, original)
-    locale = "fr_FR.UTF-8" if of("language") == ["fr"] else "en_US.UTF-8"
-    environment = {"PATH": os.environ["PATH"], "XDG_DATA_HOME": str(folder / "data"), "LANG": locale}
-    options = " ".join(of("options")).split()
     for command in of("before"):
         subprocess.run(command, shell=True, cwd=folder, check=True)
     for command in of("prepare"):
         name, *rest = command.split()
         story += f"-- prepare {command}\n" + run_tool([find_tool(name), *rest], folder)
-    done = subprocess.run([console, drawing, "--script", script, *options], cwd=folder, env=environment,
-                          stdin=subprocess.DEVNULL, capture_output=True, timeout=600,
-                          preexec_fn=lambda: fill_disk(of("disk")))
+    if program is None:
+        done = run_console(console, drawing, script, folder, settings)
+    else:
+        done = program(drawing, script, folder, settings)
     story += done.stdout.decode("utf-8", "replace") + done.stderr.decode("utf-8", "replace")
     wanted = int((of("exit") or ["0"])[0])
     if done.returncode != wanted:

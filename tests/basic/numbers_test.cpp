@@ -120,12 +120,10 @@ TEST(ToDouble, ReadsBackWhatToTextGives) {
 }
 
 TEST(LeadingNumber, StopsAtTheFirstForeignCharacter) {
-    // Only the point separates, whatever the settings.
+    // Only the point separates, whatever the settings; nothing inside is passed over.
     const Rows<const char*, double> rows{
-        {"12b", 12}, {"", 0},        {"b12", 0},       {" 1 6\t1\n5 rue", 1615},
-        {"001", 1},  {"2,5", 2},     {"-2.5.1", -2.5}, {"1e2x", 100},
-        {"1Ex", 1},  {"&HFF&", 255}, {"&HFFFF", -1},   {"&HFFFF&", 65535},
-        {"&O17", 15}};
+        {"12b", 12}, {"", 0},     {"b12", 0},       {" 1 6 rue", 1}, {"001", 1}, {"2,5", 2}, {"1d2", 1},
+        {"- 1", 0},  {"1\t2", 1}, {"-2.5.1", -2.5}, {"1e2x", 100},   {"1Ex", 1}, {"&HFF", 0}};
     for (const auto& [text, value] : rows) EXPECT_EQ(leadingNumber(text), value) << text;
     EXPECT_EQ(errorOf([] { leadingNumber("1e400"); }), kOverflow);
 }

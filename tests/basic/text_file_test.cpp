@@ -7,6 +7,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace basic {
@@ -64,6 +65,25 @@ TEST_F(TextFile, ReadsLinesByCarriageReturns) {
     TextReader reader(write("f", "x\r"));
     reader.readLine();
     EXPECT_EQ(errorOf([&] { reader.readLine(); }), kInputPastEnd);
+}
+
+TEST_F(TextFile, ReadsPairsAcrossChunksAndStopsAtAnEndlessLine) {
+    for (const std::size_t length : {65534, 65535, 65536}) {
+        const std::string line(length, 'x');
+        EXPECT_EQ(linesOf(write("a", line + "\r\n\r\nlast")), (Lines{line, "", "last"})) << length;
+        EXPECT_EQ(linesOf(write("b", line + "\r" + line + "\r")), (Lines{line, line})) << length;
+    }
+    write("long", "");
+    fs::resize_file(path("long"), std::uintmax_t{1} << 34);  // a hole of 16 GB
+    TextReader reader(path("long"));
+    EXPECT_EQ(errorOf([&] { reader.readLine(); }), kOutOfStringSpace);
+}
+
+TEST_F(TextFile, RefusesAPipeAndADevice) {
+    ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(readError(path("pipe")), kPathFileAccess);
+    EXPECT_EQ(writeError(path("pipe")), kPathFileAccess);
+    EXPECT_EQ(readError("/dev/zero"), kPathFileAccess);
 }
 
 TEST_F(TextFile, WritesAndAppendsInTheCodePage) {

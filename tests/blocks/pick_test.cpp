@@ -1,9 +1,9 @@
 #include "blocks/pick.h"
 
+#include "blocks/block_file.h"
 #include "blocks/list_entry.h"
+#include "blocks/trial_insertion.h"
 #include "tests/fakes/dialog_world.h"
-
-#include <gtest/gtest.h>
 
 namespace blocks {
 namespace {
@@ -11,88 +11,105 @@ namespace {
 using fakes::Texts;
 using forms::Answer;
 
-class PickTest : public testing::Test, public fakes::DialogWorld {
-  protected:
-    PickTest() {
-        host.addBlock("DOOR");
-        door = host.addReference("DOOR");
-        line = host.addEntity("AcDbLine");
+struct PickTest : testing::Test, fakes::DialogWorld {
+    PickTest() : DialogWorld({{"DOOR", {{"MARK", "D"}}}, {"CHAIR", {}}}) {
+        space()->invoke("AddLine", {basic::Doubles{0, 0, 0}, basic::Doubles{1, 0, 0}});
+        line = item(1);
     }
     /// The object that the picks and the answers to the boxes end with.
-    host::ObjectPtr pick(std::initializer_list<Answer> answers) {
+    host::ObjectPtr pickBlock(std::initializer_list<Answer> answers) {
         screen.answers = answers;
         const auto picked = PickBlockReference(session, "Which door? ").object();
         EXPECT_TRUE(screen.answers.empty());
         return fakes::FaultyHost::behind(picked);
     }
+    /// The user chooses a block file, or none.
+    std::string browse(const std::optional<std::string>& path) {
+        screen.paths = {path};
+        return BrowseBlockFile(session, dialog.CommonDialog1, attributes, "", "Select a block file");
+    }
 
-    fakes::FakeReferencePtr door;
-    fakes::FakeEntityPtr line;
+    host::ObjectPtr door = place("DOOR"), line;
+    struct Dialog : forms::Form {
+        using Form::Form;
+        forms::FileDialog CommonDialog1{*this, "CommonDialog1"};
+        forms::ListBox list{*this, "list"};
+    } dialog{"fmTest", "", ""};
+    basic::Variant attributes{"as it was"};
 };
 
 TEST_F(PickTest, AsksAgainAfterAWrongObjectAndAfterEscape) {
-    host.pick(line);
-    host.breakOffPick();  // the line is still at hand, and must not count as picked now
-    host.pick(door);
-    EXPECT_EQ(pick({Answer::Ok, Answer::Ok}), door);
-    EXPECT_EQ(host.drawing().prompts, Texts(3, "Which door? "));
+    pick(line);
+    breakOffPick();  // the line is still at hand, and must not count as picked now
+    pick(door);
+    EXPECT_EQ(model::textOf(pickBlock({Answer::Ok, Answer::Ok}), "Name"), "DOOR");
+    EXPECT_EQ(prompts(), Texts(3, "Which door? "));
     ASSERT_EQ(boxTexts(), Texts(2, "The selected object is not a block reference."));
     EXPECT_EQ(screen.boxes[1].title, "Vorlane 1.0: Selection of a block reference");
-    EXPECT_EQ(screen.boxes[1].icon, forms::MessageBox::Icon::Exclamation);
-    EXPECT_EQ(screen.boxes[1].buttons, forms::MessageBox::Buttons::OkCancel);
+    EXPECT_EQ(screen.boxes[1].icon, forms::MessageDialog::Icon::Exclamation);
+    EXPECT_EQ(screen.boxes[1].buttons, forms::MessageDialog::Buttons::OkCancel);
 }
 
 TEST_F(PickTest, GivesNothingOnCancelAndNeverFailsOutwards) {
-    host.breakOffPick();
-    host.pick(line);
-    EXPECT_EQ(pick({Answer::Ok, Answer::Cancel}), nullptr);
-    EXPECT_EQ(fakes::errorOf([] { host::BlockReference().Name(); }), basic::kObjectNotSet);
-
-    // The class name is compared with case: this isn't the name that the host gives a reference.
-    host.pick(host.addEntity("AcDbBlockreference"));
-    EXPECT_EQ(pick({Answer::Cancel}), nullptr);
-
+    breakOffPick();
+    pick(line);
+    EXPECT_EQ(pickBlock({Answer::Ok, Answer::Cancel}), nullptr);
     faulty.failAt("get Utility");
-    EXPECT_EQ(pick({Answer::Cancel}), nullptr);
-
+    EXPECT_EQ(pickBlock({Answer::Cancel}), nullptr);
     // Without a language there is no message, so no answer either: the object comes back as it stands.
     session.CurLng = {};
-    host.pick(line);
-    EXPECT_EQ(pick({}), line);
+    pick(line);
+    EXPECT_EQ(model::textOf(pickBlock({}), "ObjectName"), "AcDbLine");
 }
 
 TEST_F(PickTest, SelectsReferencesOfOneBlockOnScreen) {
-    host.drawing().sets.push_back(std::make_shared<fakes::FakeSelectionSet>(host.drawing(), "SS1"));
-    const auto set = host.drawing().sets.front();
-    const auto chair = host.addReference("CHAIR");
-    set->members = {chair};
-    line->name = "DOOR";  // another kind of entity with the block's name doesn't pass
-    const auto select = [&] { SelectBlockReferencesOnScreen(host::SelectionSet(set), "DOOR"); };
-
-    host.select({line, door, chair});
-    select();
-    EXPECT_EQ(set->members, (std::vector<fakes::FakeEntityPtr>{door}));
-    host.breakOffSelection();
-    EXPECT_EQ(fakes::errorOf(select), fakes::kEscape);
-    EXPECT_TRUE(set->members.empty()) << "the set is emptied before the pick";
+    const auto set = model::called(object("SelectionSets"), "Add", {"SS1"});
+    const auto chair = place("CHAIR");
+    const auto selectDoors = [&] { SelectBlockReferencesOnScreen(host::SelectionSet(set), "DOOR"); };
+    select({line, door, chair});
+    selectDoors();
+    ASSERT_EQ(set->get("Count").integer(), 1);
+    EXPECT_EQ(model::textOf(model::called(set, "Item", {0}), "Name"), "DOOR");
+    prompter.selections.emplace_back();
+    EXPECT_EQ(fakes::errorOf(selectDoors), model::kPromptFailed);
+    EXPECT_EQ(set->get("Count").integer(), 0) << "the set is emptied before the pick";
 }
 
-TEST(SelectListEntryTest, TakesTheLastExactMatchOrNone) {
-    struct : forms::Form {
-        using Form::Form;
-        forms::ListBox list{*this, "list"};
-        forms::ComboBox combo{*this, "combo"};
-    } form{"fmTest", "", ""};
-    form.initialize();
-    for (forms::ListControl* control : std::initializer_list<forms::ListControl*>{&form.list, &form.combo}) {
-        SelectListEntry(*control, "DOOR");
-        EXPECT_EQ(control->listIndex(), -1);
-        for (const char* entry : {"DOOR", "CHAIR", "DOOR", "WINDOW"}) control->addItem(entry);
-        SelectListEntry(*control, "DOOR");
-        EXPECT_EQ(control->listIndex(), 2);
-        SelectListEntry(*control, "door");
-        EXPECT_EQ(control->listIndex(), -1);
+TEST_F(PickTest, AListEntryIsTheLastExactMatchOrNone) {
+    for (const char* entry : {"DOOR", "CHAIR", "DOOR", "WINDOW"}) dialog.list.addItem(entry);
+    SelectListEntry(dialog.list, "DOOR");
+    EXPECT_EQ(dialog.list.listIndex(), 2);
+    SelectListEntry(dialog.list, "door");
+    EXPECT_EQ(dialog.list.listIndex(), -1);
+}
+
+TEST_F(PickTest, ATrialInsertionWithoutANameAsksTheHostForNothing) {
+    EXPECT_TRUE(InsertTrialReference(session, "").isNothing());
+    EXPECT_EQ(faulty.calls(), 0);
+    EXPECT_EQ(fakes::errorOf([&] { InsertTrialReference(session, "NONE"); }), model::kFileError);
+    EXPECT_EQ(InsertTrialReference(session, "CHAIR").Name(), "CHAIR");
+    EXPECT_EQ(references("CHAIR").size(), 1U) << "the caller deletes it";
+}
+
+TEST_F(PickTest, ABlockFilePassesOverFailuresOfTheHost) {
+    dialog.CommonDialog1.setFileName("/blocks/old.dwg");
+    EXPECT_EQ(browse(std::nullopt), "") << "cancelled, whatever was chosen before";
+    EXPECT_EQ(browse(folder.write("broken.dxf", "no drawing")), "broken")
+        << "refused, which shows only when its name is used";
+    EXPECT_EQ(attributes.text(), "as it was");
+
+    auto plain = fakes::drawingOf({});
+    plain.entity("ATTDEF 8 0 10 0 20 0 40 1 1 L 3 Mark 2 MARK 70 0");
+    const std::string lamp = folder.write("lamp.v2.dxf", plain.text());
+    for (const char* access : {"get hasAttributes", "call GetAttributes", "call Delete"}) {
+        faulty.failAt(access);
+        EXPECT_EQ(browse(lamp), "lamp.v2") << access;
+        EXPECT_TRUE(faulty.failed()) << access;
+        EXPECT_EQ(references("lamp.v2").size(), access == std::string("call Delete") ? 1U : 0U) << access;
     }
+    EXPECT_EQ(attributes.array().size(), 1U);
+    EXPECT_EQ(dialog.CommonDialog1.flags(), 4);
+    EXPECT_EQ(dialog.CommonDialog1.dialogTitle(), "Select a block file");
 }
 
 }  // namespace

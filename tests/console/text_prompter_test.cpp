@@ -10,7 +10,7 @@ namespace console {
 namespace {
 
 using drawing::EntityId;
-using drawing::Point3;
+using geometry::Point3;
 using model::Answer;
 
 /// Model space: a line from 0,0 to 100,0 (handle A1), a reference with an attribute at 100,100 (A2, A3),
@@ -78,8 +78,8 @@ TEST_F(TextPrompterTest, PointsAndAngles) {
     const auto angle = [](const std::string& line) {
         return Console(line + "\n").prompter.getAngle({1, 1, 0}, "Angle: ");
     };
-    EXPECT_DOUBLE_EQ(angle("2,2").radians, drawing::kPi / 4) << "the direction from the base point";
-    EXPECT_DOUBLE_EQ(angle("@0,-5").radians, 3 * drawing::kPi / 2);
+    EXPECT_DOUBLE_EQ(angle("2,2").radians, geometry::kPi / 4) << "the direction from the base point";
+    EXPECT_DOUBLE_EQ(angle("@0,-5").radians, 3 * geometry::kPi / 2);
 }
 
 TEST_F(TextPrompterTest, Selections) {
@@ -92,6 +92,12 @@ TEST_F(TextPrompterTest, Selections) {
     EXPECT_EQ(selected("c -1,-1 @51,2"), (Ids{entity(0xA1)}));
     EXPECT_EQ(selected("50,0\n@A3"), (Ids{entity(0xA1), entity(0xA2)}));
     EXPECT_EQ(selected(""), Ids{});
+    EXPECT_EQ(selected("all\nr @A1\n@A2\na l"), (Ids{entity(0xA2)})) << "taken away, and the newest again";
+    EXPECT_EQ(selected("f 20,-10 40,10"), (Ids{entity(0xA1)}));
+    EXPECT_EQ(selected("first dot"), (Ids{entity(0xA2)}));
+    Console console("@A1\n\np\n\n");
+    console.prompter.selectEntities(*drawing, "");
+    EXPECT_EQ(console.prompter.selectEntities(*drawing, "").entities, (Ids{entity(0xA1)}));
 
     const model::SelectionPick pick = Console("@A1\nesc\n").prompter.selectEntities(*drawing, "Select: ");
     EXPECT_EQ(pick.answer, Answer::BrokenOff);
@@ -110,7 +116,7 @@ TEST_F(TextPrompterTest, AScriptStopsAtAnAnswerThatSaysNothing) {
     };
     const auto entityAsked = [&](TextPrompter& prompter) { prompter.getEntity(*drawing, ""); };
     const auto selectionAsked = [&](TextPrompter& prompter) { prompter.selectEntities(*drawing, ""); };
-    EXPECT_EQ(stops("@A7\n", entityAsked), "line 1: @A7: no entity of the drawing has this handle")
+    EXPECT_EQ(stops("@A7\n", entityAsked), "line 1: @A7: no entity of the drawing has the handle A7")
         << "it stands in a block";
     EXPECT_EQ(stops("; say\nBtnClose\n", entityAsked).substr(0, 16), "line 2: BtnClose");
     for (const char* line : {"w 1,1", "c 1,1 2,2 3,3", "w a b", "@A1 @A9", "A1", "all of it", "\t"}) {
@@ -119,12 +125,20 @@ TEST_F(TextPrompterTest, AScriptStopsAtAnAnswerThatSaysNothing) {
     EXPECT_EQ(stops("@A1\n", selectionAsked), "the script ended while a prompt of the drawing was waiting");
 }
 
+TEST_F(TextPrompterTest, LispValuesAreAnswers) {
+    Console console("!place\n");
+    console.prompter.setEvaluate([](const std::string& expression) {
+        return expression == "!place" ? std::string("3,4") : std::string();
+    });
+    EXPECT_EQ(console.prompter.getPoint({}, "").point, (Point3{3, 4, 0}));
+}
+
 TEST_F(TextPrompterTest, APersonIsToldAndAskedAgain) {
     Console console("here\n@A9\n60,0\n", true);
     EXPECT_EQ(console.prompter.getEntity(*drawing, "Pick: ").entity, entity(0xA1));
     EXPECT_EQ(console.output.str(),
-              "Pick: ? is neither @HANDLE nor a point nor esc\n"
-              "Pick: ? no entity of the drawing has this handle\n"
+              "Pick: ? is neither @HANDLE nor first NAME nor a point nor esc\n"
+              "Pick: ? no entity of the drawing has the handle A9\n"
               "Pick: ");
 }
 

@@ -1,4 +1,4 @@
-#include "plain_drawing.h"
+#include "tests/drawing/plain_drawing.h"
 
 namespace drawing {
 namespace {
@@ -66,6 +66,33 @@ TEST_F(Edit, TextsGoThroughTheEncoding) {
     EXPECT_EQ(drawing->attributeText(tag), "");
 }
 
+TEST(AttributeText, AJustifiedOneBeginsWhereItsTextDoes) {
+    PlainDrawing plain(Kind::R2000);
+    plain.entity("INSERT 5 60 330 1F 100 AcDbEntity 8 0 100 AcDbBlockReference 66 1 2 DOOR 10 0.0 20 0.0");
+    int handle = 0x61;
+    // Centred, right, upwards and left: four characters, eight wide, written at 11.
+    for (const char* words : {"10 6.0 20 1.0 30 0.0 40 2.5 1 abcd 72 1 11 10.0 21 1.0",
+                              "10 2.0 20 1.0 40 2.5 1 abcd 72 2 11 10.0 21 1.0",
+                              "10 3.0 20 6.0 40 2.5 1 abcd 50 90 72 4 11 4.0 21 10.0",
+                              "10 2.0 20 1.0 40 2.5 1 abcd 11 2.0 21 3.0"}) {
+        std::ostringstream number;
+        number << std::hex << handle++;
+        plain.entity("ATTRIB 5 " + number.str() + " 330 60 100 AcDbEntity 8 0 100 AcDbText " + words +
+                     " 100 AcDbAttribute 2 TAG 70 0");
+    }
+    const auto drawing = plain.entity("SEQEND 5 65 330 60 100 AcDbEntity 8 0").make();
+    const Point3 wanted[][2] = {
+        {{8, 1, 0}, {10, 1, 0}}, {{6, 1, 0}, {10, 1, 0}}, {{3, 8, 0}, {3, 10, 0}}, {{2, 1, 0}, {2, 1, 0}}};
+    for (Handle each = 0x61; each < 0x65; ++each) {
+        const EntityId id = drawing->byHandle(each);
+        drawing->setAttributeText(id, "ab");
+        expectNear(drawing->attribute(id).position, wanted[each - 0x61][0]);
+        drawing->setAttributeText(id, "");
+        expectNear(drawing->attribute(id).position, wanted[each - 0x61][1]);
+        EXPECT_EQ(drawing->attributeText(id), "");
+    }
+}
+
 TEST_F(Edit, ErrorsOfTheHost) {
     EXPECT_EQ(errorOf([&] { drawing->setNumber(line, 10, "AcDbLine", 3); }), kLockedLayer);
     EXPECT_EQ(errorOf([&] { drawing->placement(line); }), kNotApplicable);
@@ -115,6 +142,24 @@ TEST(Erasing, TakesWhatTheEntityOwns) {
     EXPECT_EQ(saved->entityCount(saved->modelSpace()), 1u);
     ASSERT_TRUE(drawing->undo());
     EXPECT_EQ(drawing->savedBytes(), sample.text());
+}
+
+TEST(Erase, AChainOfOwnersMayBeOfAnyLength) {
+    constexpr int kChain = 80000;
+    PlainDrawing file(Kind::R2000);
+    file.entity(
+        "LINE 5 60 102 {ACAD_XDICTIONARY 360 1000 102 } 330 1F 100 AcDbEntity 8 0 100 AcDbLine "
+        "10 0.0 20 0.0 11 1.0 21 1.0");
+    std::ostringstream chain;
+    chain << std::hex;
+    for (int i = 0x1000; i < 0x1000 + kChain; ++i)
+        chain << "0 DICTIONARY 5 " << i << " 330 " << (i == 0x1000 ? 0x60 : i - 1)
+              << " 100 AcDbDictionary 280 1 281 1 3 next 360 " << i + 1 << " ";
+    file.object(chain.str().substr(2));
+    const auto drawing = file.make();
+    drawing->erase(drawing->byHandle(0x60));
+    EXPECT_EQ(drawing->byHandle(0x1000 + kChain - 1), kNoEntity);
+    EXPECT_EQ(drawing->savedBytes().find("DICTIONARY\r"), std::string::npos);
 }
 
 }  // namespace

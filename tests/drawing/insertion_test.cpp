@@ -1,4 +1,4 @@
-#include "plain_drawing.h"
+#include "tests/drawing/plain_drawing.h"
 
 namespace drawing {
 namespace {
@@ -58,6 +58,18 @@ TEST(Insertion, TakesTheHeadersSettings) {
               "0=ATTRIB|8=WALLS|10=0.0|20=2.0|30=0.0|40=2.5|1=T0|2=TAG|70=0|");
 }
 
+TEST(Insertion, AttributesTakeOverFieldLengthAndLock) {
+    PlainDrawing sample(Kind::R2000);
+    sample.block("LONG").inBlock(
+        "ATTDEF 100 AcDbEntity 8 0 100 AcDbText 39 0.5 10 1.0 20 2.0 30 0.0 40 2.5 1 x "
+        "100 AcDbAttributeDefinition 3 ? 2 A 70 4 73 12 74 2");
+    const auto drawing = sample.make();
+    const EntityId id = drawing->insertBlock(drawing->blocks().find("LONG"), {}, {1, 1, 1}, 0);
+    EXPECT_EQ(groupsOf(*drawing, drawing->attributes(id)[0]),
+              "0=ATTRIB|5=101|330=100|100=AcDbEntity|8=0|100=AcDbText|39=0.5|10=1.0|20=2.0|30=0.0|40=2.5|1=x|"
+              "11=0.0|21=0.0|31=0.0|100=AcDbAttribute|2=A|70=4|73=12|74=2|");
+}
+
 TEST(Insertion, RefusesWhatTheHostRefuses) {
     const auto drawing = PlainDrawing(Kind::R2000).make();
     const std::string before = drawing->savedBytes();
@@ -106,6 +118,22 @@ TEST(Insertion, StretchesMirrorsAndSlantsTexts) {
         EXPECT_NEAR(text.oblique, row.slant, 1e-12);
         EXPECT_EQ(text.generation, row.generation);
         EXPECT_NEAR(text.widthFactor, row.widthFactor, 1e-12);
+    }
+}
+
+TEST(Insertion, ADrawingThatUsesTheHighestHandleGetsThoseOfItsGaps) {
+    for (const char* highest : {"FFFFFFFFFFFFFFFF", "FFFFFFFFFFFFFFFE", "FFFFFFFFFFFFFFFD"}) {
+        const auto drawing =
+            PlainDrawing(Kind::R2000)
+                .entity("LINE 5 " + std::string(highest) +
+                        " 330 1F 100 AcDbEntity 8 0 100 AcDbLine 10 0.0 20 0.0 11 1.0 21 1.0")
+                .make();
+        for (int i = 0; i < 3; ++i) drawing->insertBlock(drawing->blocks().find("DOOR"), {}, {1, 1, 1}, 0);
+        const auto saved = Drawing::parse(drawing->savedBytes(), "saved.dxf");
+        EXPECT_EQ(modelEntities(*saved).size(), 4u) << highest;
+        // No seed can be above them; but no handle is there twice.
+        for (const dxf::Finding& finding : saved->findings())
+            EXPECT_EQ(finding.kind.code, "R5") << finding.reason;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "plain_drawing.h"
+#include "tests/drawing/plain_drawing.h"
 
 namespace drawing {
 namespace {
@@ -24,6 +24,22 @@ TEST(Opening, ReadsBlocksSpacesAndLayers) {
     const Block& fixed = drawing->blocks()[drawing->blocks().find("FIXED")];
     EXPECT_TRUE(fixed.attributeDefinitions.empty());
     EXPECT_TRUE(fixed.hasAttributes());
+}
+
+TEST(Opening, EntitiesWithoutHandlesAreToldApart) {
+    for (const char* layer :
+         {"0 TABLE 2 LAYER 0 LAYER 2 0 0 ENDTAB", "0 TABLE 2 LAYER 0 LAYER 5 7 2 0 0 ENDTAB"}) {
+        const std::string text = groups(
+            "0 SECTION 2 HEADER 9 $ACADVER 1 AC1009 0 ENDSEC 0 SECTION 2 TABLES " + std::string(layer) +
+            " 0 ENDSEC 0 SECTION 2 ENTITIES 0 LINE 8 0 0 LINE 8 0 0 ENDSEC 0 EOF");
+        const auto drawing = Drawing::parse(text, "bare.dxf");
+        const auto lines = modelEntities(*drawing);
+        ASSERT_EQ(lines.size(), 2u);
+        EXPECT_NE(drawing->handle(lines[0]), drawing->handle(lines[1]));
+        for (const EntityId line : lines) EXPECT_EQ(drawing->byHandle(drawing->handle(line)), line);
+        EXPECT_EQ(drawing->byHandle(0), kNoEntity);
+        EXPECT_EQ(drawing->savedBytes(), text) << "these handles are the session's own";
+    }
 }
 
 TEST(Opening, MakesTheSpacesOfAnR12FileThatHasNone) {

@@ -3,6 +3,7 @@
 #include "desk/drawing/drawing.h"
 #include "desk/dxf/findings.h"
 #include "tests/fakes/error_of.h"
+#include "tests/geometry/expect_near.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +18,7 @@
 namespace drawing {
 
 using fakes::errorOf;
+using geometry::expectNear;
 
 /// Groups of DXF from words, code and value in turn; "~" stands for a blank inside a value. An old drawing,
 /// of R12, knows neither subclass markers nor owners: they are left out.
@@ -144,12 +146,6 @@ inline std::string groupsOf(const Drawing& drawing, EntityId id) {
 
 inline bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
-}
-
-inline void expectNear(const Point3& found, const Point3& wanted, double slack = 1e-9) {
-    EXPECT_NEAR(distance(found, wanted), 0, slack)
-        << found.x << ' ' << found.y << ' ' << found.z << " is not " << wanted.x << ' ' << wanted.y << ' '
-        << wanted.z;
 }
 
 }  // namespace drawing

@@ -1,4 +1,4 @@
-#include "plain_drawing.h"
+#include "tests/drawing/plain_drawing.h"
 
 namespace drawing {
 namespace {

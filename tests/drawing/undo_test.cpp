@@ -1,4 +1,4 @@
-#include "plain_drawing.h"
+#include "tests/drawing/plain_drawing.h"
 #include "tests/fakes/temp_folder.h"
 
 namespace drawing {
@@ -36,6 +36,27 @@ TEST(Undo, StepsComeBackOneByOne) {
     EXPECT_TRUE(drawing->isErased(line));
 }
 
+TEST(Undo, VariablesOfTheHeaderAreSetAndTakenBack) {
+    const auto drawing = PlainDrawing(Kind::R2000).header("9 $CLAYER 8 0 9 $LTSCALE 40 2.0").make();
+    const std::string before = drawing->savedBytes();
+    drawing->setVariable("$clayer", 8, std::string("WALLS"));
+    EXPECT_EQ(drawing->layerName(drawing->addLine({}, {1, 0, 0})), "WALLS");
+    drawing->setVariable("$INSUNITS", 70, std::int64_t{6});
+    drawing->setVariable("$INSBASE", 10, Point3{1, 2, 3});
+    const auto saved = Drawing::parse(drawing->savedBytes(), "saved.dxf");
+    EXPECT_EQ(saved->header().text("$CLAYER"), "WALLS");
+    EXPECT_EQ(saved->header().integer("$INSUNITS"), 6);
+    EXPECT_EQ(saved->header().point("$INSBASE"), (Point3{1, 2, 3}));
+    EXPECT_EQ(saved->header().number("$LTSCALE"), 2);
+    EXPECT_TRUE(saved->findings().empty());
+    while (drawing->undo()) {
+    }
+    EXPECT_EQ(drawing->savedBytes(), before);
+    EXPECT_EQ(drawing->layerName(drawing->addLine({}, {1, 0, 0})), "0");
+    const auto bare = PlainDrawing().make();
+    EXPECT_EQ(errorOf([&] { bare->setVariable("$CLAYER", 8, std::string("0")); }), kInvalidInput);
+}
+
 TEST(Undo, ATrialInsertionLeavesNothing) {
     const auto drawing = PlainDrawing(Kind::R2000).make();
     const std::string before = drawing->savedBytes();
@@ -51,6 +72,20 @@ TEST(Undo, ATrialInsertionLeavesNothing) {
     EXPECT_EQ(drawing->attributeText(drawing->attributes(kept)[0]), "T0");
     drawing->undo();
     EXPECT_EQ(drawing->savedBytes(), before);
+}
+
+TEST(Undo, AStepThatLeavesNothingIsNone) {
+    const auto drawing = PlainDrawing(Kind::R2000).entity("LINE 5 60 330 1F 100 AcDbEntity 8 0").make();
+    const std::string before = drawing->savedBytes();
+    {
+        const UndoStep step(*drawing);
+        drawing->erase(drawing->insertBlock(drawing->blocks().find("DOOR"), {}, {1, 1, 1}, 0));
+        drawing->setVisible(drawing->byHandle(0x60), false);
+        drawing->setVisible(drawing->byHandle(0x60), true);
+    }
+    EXPECT_FALSE(drawing->canUndo());
+    EXPECT_FALSE(drawing->isModified());
+    EXPECT_EQ(drawing->savedBytes(), before) << "the handle seed too";
 }
 
 TEST(Undo, ADrawingWithoutSectionsGetsOneOnlyForWhatStays) {

@@ -19,7 +19,8 @@ bool sameValue(const Tag& left, const Tag& right) {
     if (left.code != right.code) return false;
     const ValueType type = valueType(left.code);
     if (type == ValueType::Double) return left.number() == right.number();
-    const bool isText = type == ValueType::String || type == ValueType::Handle || type == ValueType::Chunk;
+    const bool isText =
+        type == ValueType::String || type == ValueType::HandleText || type == ValueType::Chunk;
     return isText ? left.text() == right.text() : left.integer() == right.integer();
 }
 

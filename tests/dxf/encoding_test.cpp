@@ -56,8 +56,8 @@ TEST(Encoding, escapesAreDecoded) {
     EXPECT_EQ(utf8.decode("\\U+D83D\\U+DE00"), "😀");
     EXPECT_EQ(utf8.decode("\\M+1966E\\M+5D6D0"), "墨中");
     // What would be no character, or would break its line, stays as it stands.
-    for (const char* same :
-         {"\\U+D83D x", "\\U+DE00", "\\U+000A", "\\U+12", "\\U+00G1", "\\M+9966E", "\\M+1", "\\Pa\\", "a^Jb"})
+    for (const char* same : {"\\U+D83D x", "\\U+DE00", "\\U+000A", "\\U+12", "\\U+00G1", "\\M+9966E", "\\M+1",
+                             "\\Pa\\", "a^jb", "x^2", "^"})
         EXPECT_EQ(utf8.decode(same), same);
     // The second byte of a double-byte character is no backslash.
     EXPECT_EQ(Encoding::codePage("ANSI_932").decode("\x83\x5CU+00E9"), "ソU+00E9");
@@ -71,6 +71,7 @@ TEST(Encoding, whatThePageLacksIsEscaped) {
     const Encoding page = Encoding::codePage("ANSI_1252");
     EXPECT_EQ(page.encode("a😀Д"), "a\\U+D83D\\U+DE00\\U+0414");
     EXPECT_EQ(page.decode(page.encode("a😀Дé")), "a😀Дé");
-    EXPECT_EQ(page.encode("two\nlines\ttab"), "two^Jlines^Itab");
+    EXPECT_EQ(page.encode("two\nlines\ttab^"), "two^Jlines^Itab^ ");
+    EXPECT_EQ(page.decode("two^Jlines^Itab^ ^ J"), "two\nlines\ttab^^J");
     EXPECT_EQ(Encoding().encode("é\r\n"), "é^M^J");
 }

@@ -7,6 +7,7 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -54,6 +55,63 @@ TEST_F(Save, replacesAndKeepsRights) {
     save(path("b.dxf"), "fresh");
     EXPECT_EQ(folder_.read("b.dxf"), "fresh");
     EXPECT_EQ(fileCount(), 2);
+}
+
+TEST_F(Save, keepsAttributesAndTellsOfOtherNames) {
+    folder_.write("a.dxf", "old");
+    allow("a.dxf", 0600);
+    // The owner reads and writes, user 1234 reads (version 2; tag, bits, id of each entry).
+    const unsigned char list[] = {2, 0,    0,   0,   1,   0,   6,  0, 255, 255, 255, 255, 2,   0,  4,
+                                  0, 0xD2, 4,   0,   0,   4,   0,  0, 0,   255, 255, 255, 255, 16, 0,
+                                  4, 0,    255, 255, 255, 255, 32, 0, 0,   0,   255, 255, 255, 255};
+    const std::pair<const char*, std::string> attributes[] = {
+        {"user.note", "kept"},
+        {"system.posix_acl_access", {reinterpret_cast<const char*>(list), sizeof list}}};
+    for (const auto& [name, value] : attributes) {
+        if (setxattr(path("a.dxf").c_str(), name, value.data(), value.size(), 0) != 0)
+            GTEST_SKIP() << "the temporary folder takes no " << name;
+    }
+    fs::create_hard_link(path("a.dxf"), path("b.dxf"));
+    EXPECT_TRUE(dxf::saveAtomically(path("a.dxf"), std::vector<std::string_view>{"new"}).otherNames);
+    EXPECT_EQ(folder_.read("b.dxf"), "old");
+    for (const auto& [name, value] : attributes) {
+        std::string kept(100, 0);
+        kept.resize(static_cast<std::size_t>(
+            std::max<ssize_t>(getxattr(path("a.dxf").c_str(), name, kept.data(), kept.size()), 0)));
+        EXPECT_EQ(kept, value) << name;
+    }
+}
+
+TEST_F(Save, writesInPlaceWhereTheFolderTakesNoFiles) {
+    fs::create_directory(path("folder"));
+    fs::create_directory(path("backup"));
+    allow("backup", 0777);
+    allow("", 0755);
+    folder_.write("folder/a.dxf", "the old text");
+    allow("folder/a.dxf", 0666);
+    allow("folder", 0555);
+    const auto inPlace = [&](std::string_view text) {
+        return inChild([&] {
+            if (!becomeNobody()) return 99;
+            const std::string_view pieces[] = {text};
+            return dxf::saveAtomically(path("folder/a.dxf"), pieces, path("backup")).inPlace ? 1 : 0;
+        });
+    };
+    for (const char* text : {"new", "a longer text than the old one"}) {
+        EXPECT_EQ(inPlace(text), 1);
+        EXPECT_EQ(folder_.read("folder/a.dxf"), text);
+        EXPECT_TRUE(fs::is_empty(path("backup")));
+    }
+    const int tooLarge = inChild([&] {
+        const rlimit limit{50000, 50000};
+        std::signal(SIGXFSZ, SIG_IGN);
+        const std::string large(100000, 'x');
+        const std::string_view pieces[] = {large};
+        if (setrlimit(RLIMIT_FSIZE, &limit) != 0 || !becomeNobody()) return 99;
+        return fakes::errorOf([&] { dxf::saveAtomically(path("folder/a.dxf"), pieces, path("backup")); });
+    });
+    EXPECT_EQ(tooLarge, basic::kDiskFull);
+    EXPECT_EQ(folder_.read("folder/a.dxf"), "a longer text than the old one");
 }
 
 TEST_F(Save, manyPiecesInOrder) {

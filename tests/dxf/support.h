@@ -50,6 +50,7 @@ inline std::vector<std::string> corpusFiles() {
     std::vector<std::string> files;
     const std::filesystem::path folder = VORLANE_ROOT "/../shared/corpus";
     if (!std::filesystem::exists(folder)) return files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) files.push_back(entry.path());
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        if (entry.path().extension() == ".dxf") files.push_back(entry.path());
     return files;
 }

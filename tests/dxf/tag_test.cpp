@@ -7,8 +7,8 @@ using namespace dxf;
 
 TEST(Codes, typesByRange) {
     const std::pair<int, ValueType> rows[] = {
-        {-3, ValueType::String}, {1, ValueType::String},  {5, ValueType::Handle},  {59, ValueType::Double},
-        {60, ValueType::Int16},  {90, ValueType::Int32},  {160, ValueType::Int64}, {290, ValueType::Bool},
+        {-3, ValueType::String}, {1, ValueType::String},  {5, ValueType::HandleText}, {59, ValueType::Double},
+        {60, ValueType::Int16},  {90, ValueType::Int32},  {160, ValueType::Int64},    {290, ValueType::Bool},
         {310, ValueType::Chunk}, {1071, ValueType::Int32}};
     for (const auto& [code, type] : rows) EXPECT_EQ(valueType(code), type) << code;
     EXPECT_EQ(handleRole(360), HandleRole::HardOwner);

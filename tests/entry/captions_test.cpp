@@ -107,7 +107,7 @@ TEST_F(DialogCaptions, EveryDialogIsHereWithItsHelpContextAndPage) {
     }
     EXPECT_EQ(pages, wanted);
     EXPECT_EQ(about::fmHelp(session).helpContextId(), 0);
-    EXPECT_EQ(about::fmHelpHidden().helpContextId(), 0);
+    EXPECT_EQ(about::fmHelpHidden(session).helpContextId(), 0);
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "entry/component.h"
 #include "forms/form.h"
-#include "tests/fakes/fake_lisp.h"
+#include "tests/entry/lisp_world.h"
 #include "tests/fakes/fake_platform.h"
 #include "tests/fakes/recording_screen.h"
 #include "tests/fakes/session_world.h"
@@ -34,7 +34,7 @@ class Probe : public forms::Form {
     std::vector<std::string>& story_;
 };
 
-struct Exec : testing::Test {
+struct Exec : testing::Test, LispWorld {
     Exec() {
         platform.install(folder.path());
         folder.write("Vorlane.ini", "Lng=English\r\nV_0_1= m\r\nV_30_4=last\r\n");
@@ -47,15 +47,16 @@ struct Exec : testing::Test {
     void add(const char* name) {
         session().registerForm(name, [=, this](Session&) { return std::make_unique<Probe>(name, story); });
     }
-    void exec(const basic::Variant& code) {
-        lisp.symbols["ZOL101"] = code;
-        object->Exec(lisp.document());
+    /// Runs the command of a code, which is written as Lisp writes it.
+    void exec(const std::string& code) {
+        lisp.eval("(setq ZOL101 " + code + ")");
+        object->Exec(document);
     }
     std::string onlyBox() {
         if (screen.boxes.size() != 1) return std::to_string(screen.boxes.size()) + " boxes";
         EXPECT_EQ(screen.boxes[0].title, "Vorlane 1.0");
-        EXPECT_EQ(screen.boxes[0].icon, forms::MessageBox::Icon::Exclamation);
-        EXPECT_EQ(screen.boxes[0].buttons, forms::MessageBox::Buttons::Ok);
+        EXPECT_EQ(screen.boxes[0].icon, forms::MessageDialog::Icon::Exclamation);
+        EXPECT_EQ(screen.boxes[0].buttons, forms::MessageDialog::Buttons::Ok);
         const std::string text = screen.boxes[0].text;
         screen.boxes.clear();
         return text.substr(0, text.find("\r\n"));
@@ -65,32 +66,35 @@ struct Exec : testing::Test {
     fakes::TempFolder folder;
     fakes::FakePlatform platform;
     fakes::RecordingScreen screen;
-    fakes::FakeLisp lisp;
     entry::Component component{platform, screen};
     std::shared_ptr<entry::VnObj0100> object = component.createVnObj0100();
 };
 
 TEST_F(Exec, SetsTheSessionUp) {
-    exec("6");
+    exec("\"6\"");
     EXPECT_EQ(session().AppTitle, "Vorlane 1.0");
     EXPECT_EQ(session().InstallPath, folder.path());
     EXPECT_EQ(session().CurLng.Name, "English");
     EXPECT_EQ(session().LngList.size(), 2U);
     EXPECT_EQ(session().VTable[0][1], " m");
     EXPECT_EQ(session().VTable[30][4], "last");
-    component.showHelp(101200);
-    component.showHelp(0);
-    const std::string file = folder.file("Vorlane.chm");
-    EXPECT_EQ(platform.helps, (std::vector<std::string>{file + "|101200", file + "|"}));
 
     folder.write("c.lng", ":Language=Deutsch\r\n");
-    exec("6");
+    exec("\"6\"");
     EXPECT_EQ(session().LngList.size(), 3U);
 }
 
+TEST_F(Exec, FilesWithLineFeedsAloneAreToldOnce) {
+    folder.write("c.lng", ":Language=Deutsch\nmsg_101=Kasten\n");
+    exec("6");
+    EXPECT_EQ(session().LngList[2].Name, "Deutsch\nmsg_101=Kasten\n");
+    EXPECT_EQ(onlyBox(), folder.file("c.lng"));
+    exec("6");
+    EXPECT_TRUE(screen.boxes.empty());
+}
+
 TEST_F(Exec, UnknownCodesDoNothing) {
-    const std::vector<basic::Variant> codes{"6", "01", " 4", "", basic::Variant()};
-    for (const auto& code : codes) exec(code);
+    for (const char* code : {"\"6\"", "\"01\"", "\" 4\"", "\"\"", "nil"}) exec(code);
     EXPECT_TRUE(screen.boxes.empty());
     EXPECT_FALSE(session().form("fmOwner").visible());
     for (const std::string& line : screen.log) EXPECT_EQ(line, "hide fmOwner");
@@ -98,9 +102,9 @@ TEST_F(Exec, UnknownCodesDoNothing) {
 
 TEST_F(Exec, CommandsShowTheirDialogOnceWithTheHiddenOwner) {
     for (const char* name : {"fmExtract", "fmHelpHidden", "fmAbout"}) add(name);
-    exec("2");
-    exec(4);
-    exec(5.0);
+    exec("\"2\"");
+    exec("4");
+    exec("5.0");
     EXPECT_EQ(story, (std::vector<std::string>{"fmExtract of fmOwner", "fmHelpHidden of fmOwner",
                                                "fmAbout of fmOwner"}));
 }
@@ -108,55 +112,50 @@ TEST_F(Exec, CommandsShowTheirDialogOnceWithTheHiddenOwner) {
 TEST_F(Exec, AFailureOfACommandStaysInItsEvent) {
     add("fmAbout");
     session().form<Probe>("fmAbout").fails = true;
-    exec("5");
+    exec("\"5\"");
     EXPECT_TRUE(screen.boxes.empty());
     EXPECT_EQ(screen.log.back(), "failure 1234: broken");
 
     session().registerForm("fmHelpHidden", [](Session&) -> std::unique_ptr<forms::Form> {
         throw basic::Error(77, "can't be made");
     });
-    exec("4");
+    exec("\"4\"");
     EXPECT_TRUE(screen.boxes.empty());
     EXPECT_EQ(screen.log.back(), "failure 77: can't be made");
 }
 
 TEST_F(Exec, AFailedSetUpEndsInOneBox) {
-    lisp.available.clear();
-    exec("1");
+    available.clear();
+    exec("\"1\"");
     EXPECT_EQ(onlyBox(), "Erreur 91");
     object->Exec("no document");
     EXPECT_EQ(onlyBox(), "Erreur 424");
-    lisp.available.insert("VL.Application");
-    exec(basic::Array{"1"});
-    EXPECT_EQ(onlyBox(), "Erreur 13");
-    lisp.failing = "eval";
-    exec("1");
-    EXPECT_EQ(onlyBox(), "Erreur -2147467259");
+    available.insert("VL.Application");
 
     std::filesystem::create_symlink("nowhere", folder.file("unreadable.lng"));
-    exec("1");
+    exec("\"1\"");
     EXPECT_EQ(onlyBox(), "Erreur 53");
     std::filesystem::remove(folder.file("Vorlane.ini"));
-    exec("1");
+    exec("\"1\"");
     EXPECT_EQ(onlyBox(), "Erreur 53");
     platform.registry.clear();
-    exec("1");
+    exec("\"1\"");
     EXPECT_EQ(onlyBox(), "Erreur 53") << "without an install folder the settings lie nowhere";
     EXPECT_EQ(session().IniFile, "/Vorlane.ini");
-    EXPECT_EQ(screen.log.size(), 7U) << "boxes and nothing else";
+    EXPECT_EQ(screen.log.size(), 5U) << "boxes and nothing else";
 }
 
 TEST_F(Exec, IsTheOneMemberByName) {
-    lisp.symbols["ZOL101"] = "6";
-    host::Arguments document{lisp.document()};
-    EXPECT_TRUE(object->call("exec", document).isEmpty());
+    lisp.eval("(setq ZOL101 \"6\")");
+    host::Arguments arguments{document};
+    EXPECT_TRUE(object->call("exec", arguments).isEmpty());
     EXPECT_EQ(session().CmdCode, "6");
     EXPECT_EQ(errorOf([&] { object->invoke("Execute", {1}); }), basic::kNoSuchMember);
     EXPECT_EQ(errorOf([&] { object->invoke("Exec"); }), 450);
 }
 
 TEST_F(Exec, TheEndOfTheObjectSavesAndDrops) {
-    exec("6");
+    exec("\"6\"");
     for (const char* name : {"fmOwner", "fmAttFormat", "fmLabels", "fmParamIns", "fmReplace", "fmExtract",
                              "fmReInsert", "fmVnMessage", "fmHelp", "fmAttSet", "fmHelpHidden", "fmAbout"}) {
         session().dropForm(name);

@@ -1,12 +1,7 @@
 #include "entry/vlax_obj.h"
 
-#include "desk/lisp/interpreter.h"
-#include "tests/fakes/fake_lisp.h"
+#include "tests/entry/lisp_world.h"
 #include "tests/fakes/session_world.h"
-
-#include <gtest/gtest.h>
-#include <sstream>
-#include <string>
 
 namespace {
 
@@ -14,68 +9,33 @@ using basic::Variant;
 using entry::VlaxObj;
 using fakes::errorOf;
 
-struct Bridge : testing::Test, fakes::SessionWorld {
-    Bridge() { session.AcadDoc = lisp.document(); }
-    fakes::FakeLisp lisp;
+struct Bridge : testing::Test, fakes::SessionWorld, LispWorld {
+    Bridge() { session.AcadDoc = document; }
 };
 
 TEST_F(Bridge, NumberedNamesServeUpToNineteen) {
-    lisp.symbols["ZOL101"] = "1";
+    lisp.eval("(setq ZOL101 \"1\")");
     EXPECT_EQ(entry::ReadLispCommand(session, "ZOL101"), "1");
-    EXPECT_EQ(lisp.requested, std::vector<std::string>{"VL.Application"});
+    EXPECT_EQ(requested, std::vector<std::string>{"VL.Application"});
 
-    for (const int last : {1, 19}) {
-        lisp.requested.clear();
-        lisp.available = {"VL.Application." + std::to_string(last)};
+    for (const std::size_t last : {1, 19}) {
+        requested.clear();
+        available = {"VL.Application." + std::to_string(last)};
         EXPECT_EQ(entry::ReadLispCommand(session, "ZOL101"), "1");
-        EXPECT_EQ(lisp.requested.size(), 1U + last);
-        EXPECT_EQ(lisp.requested.back(), *lisp.available.begin());
+        EXPECT_EQ(requested.size(), 1 + last);
+        EXPECT_EQ(requested.back(), *available.begin());
     }
 
-    lisp.requested.clear();
-    lisp.available = {"VL.Application.20"};
+    requested.clear();
+    available = {"VL.Application.20"};
     VlaxObj bridge(session);
-    EXPECT_EQ(lisp.requested.size(), 21U) << "found at the last try, too late for its functions";
+    EXPECT_EQ(requested.size(), 21U) << "found at the last try, too late for its functions";
     EXPECT_EQ(errorOf([&] { bridge.EvalLispExpression("1"); }), basic::kObjectNotSet);
     EXPECT_EQ(errorOf([&] { bridge.SetLispSymbol("X", 1); }), basic::kObjectNotSet);
     EXPECT_EQ(errorOf([&] { bridge.NullifySymbol("X"); }), basic::kObjectNotSet);
-    bridge.NullifySymbol();
 }
 
-TEST_F(Bridge, OnlyEvaluationSwallowsItsErrors) {
-    VlaxObj bridge(session);
-    lisp.failing = "eval";
-    EXPECT_EQ(bridge.EvalLispExpression("(boom)").text(), "");
-    bridge.NullifySymbol("A", std::string("B"));
-    EXPECT_EQ(lisp.called,
-              (std::vector<std::string>{"read (boom)", "eval (boom)", "read (setq A nil)",
-                                        "eval (setq A nil)", "read (setq B nil)", "eval (setq B nil)"}));
-    EXPECT_EQ(errorOf([&] { bridge.GetLispSymbol("A"); }), fakes::FakeLisp::kLispError);
-    EXPECT_EQ(errorOf([&] { bridge.GetLispList("A"); }), fakes::FakeLisp::kLispError);
-    lisp.failing = "read";
-    EXPECT_EQ(errorOf([&] { bridge.EvalLispExpression("("); }), fakes::FakeLisp::kLispError);
-    lisp.failing = "set";
-    EXPECT_EQ(errorOf([&] { bridge.SetLispSymbol("A", 1); }), fakes::FakeLisp::kLispError);
-}
-
-/// The bridge over the desk's own Lisp.
-struct DeskBridge : testing::Test, fakes::SessionWorld {
-    DeskBridge() {
-        auto application = std::make_shared<fakes::FakeMembers>();
-        application->members["GetInterfaceObject"] = [this](host::Arguments& a) -> Variant {
-            auto made = lisp.createObject(a.at(0).text());
-            if (!made) throw basic::Error(429, "no such class");
-            return made;
-        };
-        auto document = std::make_shared<fakes::FakeMembers>();
-        document->members["Application"] = [application](auto&) -> Variant { return application; };
-        session.AcadDoc = document;
-    }
-    std::ostringstream output;
-    lisp::Interpreter lisp{output};
-};
-
-TEST_F(DeskBridge, ValuesGoToLispAndComeBack) {
+TEST_F(Bridge, ValuesGoToLispAndComeBack) {
     VlaxObj bridge(session);
     bridge.SetLispSymbol("texte", "été");
     bridge.SetLispSymbol("tout", basic::Array{1, "deux", 3.5});
@@ -88,9 +48,10 @@ TEST_F(DeskBridge, ValuesGoToLispAndComeBack) {
     EXPECT_EQ(list.array()[1].text(), "deux");
     EXPECT_EQ(list.array()[2].number(), 3.5);
     EXPECT_TRUE(bridge.GetLispList("unset").array().empty());
-    EXPECT_EQ(bridge.EvalLispExpression("(car 1)").text(), "");
+    EXPECT_EQ(bridge.EvalLispExpression("(car 1)").text(), "") << "only evaluation swallows its errors";
     EXPECT_NE(errorOf([&] { bridge.EvalLispExpression("(+ 1"); }), 0);
-    bridge.NullifySymbol("texte", "tout");
+    bridge.NullifySymbol("texte", std::string("tout"));
+    EXPECT_TRUE(bridge.GetLispSymbol("texte").isEmpty());
     EXPECT_TRUE(bridge.GetLispSymbol("tout").isEmpty());
 }
 

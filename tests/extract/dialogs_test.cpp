@@ -41,6 +41,11 @@ TEST_F(DialogsTest, ComeWithTheWindowThatTheTableRemembers) {
     EXPECT_EQ(extraction().bounds(), (forms::Bounds{-15, 0, 8625, 7000.5})) << "empty becomes the least";
     EXPECT_EQ(session.VTable[22], (Cells{"", "7000.5", "-15", "0", ""}));
 
+    // What no window can have is left aside, as a damaged settings file holds it.
+    session.VTable[22] = {"1e400", "-1", "1e30", "-1e30", ""};
+    session.dropForm("fmExtract");
+    EXPECT_EQ(extraction().bounds(), (forms::Bounds{0, 0, 8625, 6975}));
+
     platform.numbers = basic::Regional::french();
     screen.acts.push_back([](forms::Form& form) { forms::acts::resize(form, 8700.25, 7000); });
     screen.click("BtnClose");

@@ -12,7 +12,14 @@ using fakes::Texts;
 
 /// The dialogs of extraction and re-insertion.
 struct ExtractWorld : fakes::DialogWorld {
-    ExtractWorld() { extract::registerForms(session); }
+    ExtractWorld()
+        : ExtractWorld(fakes::drawingOf(
+              {{"TREE", {{"SPECIES", "oak"}, {"GIRTH", "?"}}},
+               {"bench", {}},
+               {"ODD", {{"SPECIES", "s"}, {"SPECIES", "t"}, {"X_", "x"}, {"AGE", "a"}, {"GIRTH", "g"}}}})) {}
+    explicit ExtractWorld(const drawing::PlainDrawing& plain) : DialogWorld(plain) {
+        extract::registerForms(session);
+    }
 
     extract::fmExtract& extraction() { return session.form<extract::fmExtract>("fmExtract"); }
     extract::fmReInsert& insertion() { return session.form<extract::fmReInsert>("fmReInsert"); }

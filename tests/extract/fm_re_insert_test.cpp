@@ -9,10 +9,6 @@ using forms::Answer;
 
 class ReInsertTest : public testing::Test, public ExtractWorld {
   protected:
-    ReInsertTest() {
-        host.addBlock("TREE", {{"SPECIES", "oak"}, {"GIRTH", "1"}});
-        host.addBlock("bench");
-    }
     fmReInsert& form() { return insertion(); }
     void load(const std::string& path) {
         screen.click("BtnData");
@@ -49,20 +45,20 @@ TEST_F(ReInsertTest, ReadsWhatIsThereOfAnOddFile) {
 }
 
 TEST_F(ReInsertTest, PicksABlockAndComesBackByTheLoop) {
-    const auto tree = host.addReference("TREE");
-    host.breakOffPick();
+    const auto tree = place("TREE");
+    breakOffPick();
     screen.choose("Combo1", 0);
     screen.answers.push_back(Answer::Cancel);
     look([&] {
         EXPECT_EQ(form().Combo1.text(), "") << "the command is out of the field";
         EXPECT_EQ(form().Frame1.caption(), "Attributes of ''");
     });
-    host.pick(tree);
+    pick(tree);
     screen.choose("Combo1", 0);
     look([&] {
-        EXPECT_EQ(form().Combo1.listIndex(), 3);
+        EXPECT_EQ(form().Combo1.text(), "TREE");
         EXPECT_EQ(mappings(form().ListView1), kPlaceholders);
-        EXPECT_EQ(host.references("TREE").size(), 1U) << "the trial reference is gone";
+        EXPECT_EQ(references("TREE").size(), 1U) << "the trial reference is gone";
     });
     screen.choose("Combo1", "TREE");  // the same once more changes nothing
     look([&] { EXPECT_EQ(form().ComboBox1.listCount(), 12); });
@@ -98,26 +94,27 @@ TEST_F(ReInsertTest, OffersTheLeaderLineWhileADeltaIsNotZero) {
 
 TEST_F(ReInsertTest, EndsASecondCommandOnTheSameObjectWithTheFirstHide) {
     runAndClose();
-    host.pick(host.addReference("TREE"));
+    pick(place("TREE"));
     screen.choose("Combo1", 0);
     runInsertion();
     EXPECT_EQ(shows("fmReInsert"), 2);
 }
 
 TEST_F(ReInsertTest, StillHasTheOldPick) {
-    const auto tree = host.addReference("TREE");
-    host.pick(host.addEntity("AcDbLine"));
-    host.pick(tree);
-    host.breakOffPick();
+    const auto tree = place("TREE");
+    space()->invoke("AddLine", {basic::Doubles{0, 0, 0}, basic::Doubles{1, 0, 0}});
+    pick(item(1));
+    pick(tree);
+    breakOffPick();
     screen.answers = {Answer::Ok, Answer::Cancel};
     screen.acts.push_back([&](forms::Form&) { form().BtnBloc.press(); });
     look([&] {
         EXPECT_EQ(mappings(form().ListView1), kPlaceholders);
-        EXPECT_FALSE(tree->erased);
+        EXPECT_EQ(references("TREE").size(), 1U);
         form().BtnBloc.press();
     });
     runAndClose();
-    EXPECT_EQ(host.drawing().prompts[0], "Selectionner l'étiquette à insérer :");
+    EXPECT_EQ(prompter.prompts[0], "Selectionner l'étiquette à insérer :");
     EXPECT_EQ(screen.boxes[0].title, "Ardenix 1.0 : Selection de l'étiquette");
     EXPECT_EQ(form().TxtName.text(), "TREE");
 }

@@ -5,7 +5,7 @@
 namespace extract {
 namespace {
 
-using Icon = forms::MessageBox::Icon;
+using Icon = forms::MessageDialog::Icon;
 
 const std::string kDone = "End of the insertion.\r\n";
 
@@ -13,14 +13,16 @@ const std::string kDone = "End of the insertion.\r\n";
 class InsertionTest : public testing::Test, public ExtractWorld {
   protected:
     InsertionTest() {
-        host.addBlock("TREE", {{"SPECIES", "oak"}, {"GIRTH", "?"}});
-        form().Combo1.setListIndex(form().Combo1.indexOf("TREE"));
-        form().ListView2.columnHeaders().clear();
-        for (const char* header : {"N", "X", "Y", "S", "A"})
-            form().ListView2.columnHeaders().add(header, 700);
+        choose("TREE");
         map({"X", "Y", "0", "S", "S", "1", "0.5", "0", "0", "0", "A", "big"});
     }
     fmReInsert& form() { return insertion(); }
+    void choose(const char* block) {
+        form().Combo1.setListIndex(form().Combo1.indexOf(block));
+        form().ListView2.columnHeaders().clear();
+        for (const char* header : {"N", "X", "Y", "S", "A"})
+            form().ListView2.columnHeaders().add(header, 700);
+    }
     void map(const Texts& mappings) {
         for (std::size_t i = 0; i < mappings.size(); ++i)
             form().ListView1.listItems().item(static_cast<int>(i) + 1).setSubItem(1, mappings[i]);
@@ -37,7 +39,7 @@ class InsertionTest : public testing::Test, public ExtractWorld {
     std::string value(const std::string& name, int row) {
         return ParameterList(form().ListView1, form().ListView2).GetParameterValue(name, row);
     }
-    std::vector<fakes::FakeReferencePtr> trees() { return host.references("TREE"); }
+    std::vector<host::ObjectPtr> trees() { return references("TREE"); }
 };
 
 TEST_F(InsertionTest, FindsTheValueOfAParameter) {
@@ -68,11 +70,12 @@ TEST_F(InsertionTest, InsertsAllAgainAtASecondPress) {
     map({"X", "Y", "0", "1", "1", "1", "0", "0"});
     insert();
     ASSERT_EQ(trees().size(), 3U);
-    EXPECT_EQ(trees()[0]->point, (fakes::Point{1.5, -2, 0})) << "without the option the deltas aren't read";
-    EXPECT_EQ(trees()[0]->scale, (std::array<double, 3>{2, 2, 1}));
-    EXPECT_EQ(trees()[0]->rotation, 0.5) << "radians";
-    EXPECT_EQ(trees()[1]->point, (fakes::Point{3.5, -2, 0}));
-    EXPECT_EQ(host.lines().size(), 2U) << "also a line of no length";
+    model::expectPoint(trees()[0], "InsertionPoint", {1.5, -2, 0});
+    EXPECT_EQ(model::numberOf(trees()[0], "YScaleFactor"), 2);
+    EXPECT_EQ(model::numberOf(trees()[0], "ZScaleFactor"), 1);
+    EXPECT_DOUBLE_EQ(model::numberOf(trees()[0], "Rotation"), 0.5) << "radians";
+    model::expectPoint(trees()[1], "InsertionPoint", {3.5, -2, 0});
+    EXPECT_EQ(lineCount(), 2U) << "also a line of no length";
 }
 
 TEST_F(InsertionTest, ReportsTheRowsWithATextThatIsNoNumber) {
@@ -88,7 +91,7 @@ TEST_F(InsertionTest, ReportsTheRowsWithATextThatIsNoNumber) {
     for (const Case& c : {Case{1, "", true, 2}, Case{2, "north", true, 2}, Case{4, "", true, 2},
                           Case{3, "big", true, 3}, Case{3, "0", false, 3}, Case{1, "1E999", false, 2}}) {
         SCOPED_TRACE(std::to_string(c.column) + c.text);
-        host.drawing().entities.clear();
+        eraseAll();
         form().ListView2.listItems().clear();
         Texts bad = good;
         bad[c.column] = c.text;
@@ -96,7 +99,7 @@ TEST_F(InsertionTest, ReportsTheRowsWithATextThatIsNoNumber) {
         EXPECT_EQ(insert(), kDone + (c.isReported ? "Error : The line 2 was not insered!\r\n" : ""));
         EXPECT_EQ(screen.boxes.back().icon, c.isReported ? Icon::Exclamation : Icon::Information);
         EXPECT_EQ(trees().size(), 2U);
-        EXPECT_EQ(host.lines().size(), c.lines);
+        EXPECT_EQ(lineCount(), c.lines);
     }
 }
 
@@ -105,21 +108,19 @@ TEST_F(InsertionTest, DropsARowInSilenceWhenTheHostFails) {
         const char* access;
         std::size_t lines, references;  ///< in the drawing after a run of two rows, the second failing
         const char* species;            ///< of the last reference
-        int updates;
     };
     const Row rows[] = {
-        {"get ModelSpace", 1, 1, "ash", 1},   {"call AddLine", 1, 1, "ash", 1},
-        {"call InsertBlock", 2, 1, "ash", 1}, {"call GetAttributes", 2, 2, "oak", 1},
-        {"get TagString", 2, 2, "oak", 1},    {"set TextString", 2, 2, "oak", 1},
-        {"call Update", 2, 2, "ash", 1},
+        {"get ModelSpace", 1, 1, "ash"},   {"call AddLine", 1, 1, "ash"},
+        {"call InsertBlock", 2, 1, "ash"}, {"call GetAttributes", 2, 2, "oak"},
+        {"get TagString", 2, 2, "oak"},    {"set TextString", 2, 2, "oak"},
+        {"call Update", 2, 2, "ash"},
     };
     addRow({"1", "1", "2", "1", "ash"});
     addRow({"2", "1", "2", "1", "ash"});
     form().Check1.setValue(1);
     for (const Row& row : rows) {
         SCOPED_TRACE(row.access);
-        host.drawing().entities.clear();
-        host.drawing().updates = 0;
+        eraseAll();
         faulty.reset();
         const std::string access = row.access;
         const bool pair = access.ends_with("ModelSpace") || access.ends_with("String");
@@ -127,23 +128,22 @@ TEST_F(InsertionTest, DropsARowInSilenceWhenTheHostFails) {
         EXPECT_EQ(insert(), kDone);
         EXPECT_TRUE(faulty.failed());
         EXPECT_EQ(screen.boxes.back().icon, Icon::Information);
-        EXPECT_EQ(host.lines().size(), row.lines);
+        EXPECT_EQ(lineCount(), row.lines);
         ASSERT_EQ(trees().size(), row.references);
-        EXPECT_EQ(trees().back()->text("SPECIES"), row.species);
-        EXPECT_EQ(host.drawing().updates, row.updates);
+        EXPECT_EQ(model::attributeTexts(trees().back()).front(), std::string("SPECIES=") + row.species);
     }
 }
 
 TEST_F(InsertionTest, FillsAttributesUpToATagThatIsInNoRow) {
+    choose("ODD");
+    map({"X", "Y", "0", "S", "S", "1", "0.5", "0", "0", "0", "A", "A", "X", "", "big"});
+    form().ListView1.listItems().item(14).setText("YEARS");
     addRow({"1", "1", "2", "1", "ash"});
-    host.drawing().findBlock("TREE")->attributes = {
-        {"SPECIES", "s"}, {"SPECIES", "t"}, {"X_", "x"}, {"AGE", "a"}, {"GIRTH", "g"}};
     EXPECT_EQ(insert(), kDone);
-    const auto& attributes = trees().at(0)->attributes;
-    Texts texts;
-    for (const auto& attribute : attributes) texts.push_back(attribute->text);
-    EXPECT_EQ(texts, (Texts{"ash", "ash", "1", "a", "g"})) << "one like a fixed parameter gets its text";
-    EXPECT_EQ(host.drawing().updates, 0);
+    EXPECT_EQ(model::attributeTexts(references("ODD").at(0)),
+              (Texts{"SPECIES=ash", "SPECIES=ash", "X_=1", "AGE=a", "GIRTH=g"}))
+        << "one like a fixed parameter gets its text";
+    EXPECT_EQ(faulty.count("call Update"), 0);
 }
 
 }  // namespace

@@ -108,7 +108,7 @@ class FaultyHost {
                 if (inner == nullptr) return value;
                 return basic::Variant(std::make_shared<Proxy>(std::move(inner), state_));
             }
-            if (value.is(basic::Variant::Kind::Array)) {
+            if (value.is(basic::Variant::Kind::VariantArray)) {
                 basic::Array wrapped;
                 for (const basic::Variant& element : value.array()) wrapped.push_back(wrap(element));
                 return basic::Variant(std::move(wrapped));

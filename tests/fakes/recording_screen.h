@@ -1,5 +1,6 @@
 #pragma once
 
+#include "basic/border.h"
 #include "forms/acts.h"
 #include "forms/file_dialog.h"
 #include "forms/form.h"
@@ -8,7 +9,6 @@
 #include <deque>
 #include <functional>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -16,15 +16,14 @@ namespace fakes {
 
 /// A screen without a face: it runs the queued acts on whatever form is up, gives the queued answers and logs
 /// everything that a face would show. Running out of acts or answers is a test's mistake and raises
-/// std::logic_error, which no handler swallows.
+/// basic::Interruption, which no handler swallows.
 class RecordingScreen : public forms::Screen {
   public:
     std::deque<std::function<void(forms::Form&)>> acts;
     std::deque<forms::Answer> answers;  ///< for boxes with a choice; a box with OK alone needs none
     std::deque<std::optional<std::string>> paths;
     std::vector<std::string> log;
-    std::vector<forms::MessageBox> boxes;
-    std::vector<int> helpContexts;
+    std::vector<forms::MessageDialog> boxes;
     int changes = 0;
 
     // The common acts by control name, in the order in which they are to run.
@@ -48,20 +47,20 @@ class RecordingScreen : public forms::Screen {
     void runModal(forms::Form& form) override {
         log.push_back("show " + form.name());
         while (form.visible()) {
-            if (acts.empty()) throw std::logic_error("no act left for " + form.name());
+            if (acts.empty()) throw basic::Interruption("no act left for " + form.name());
             const auto act = std::move(acts.front());
             acts.pop_front();
             act(form);
         }
     }
     void hidden(forms::Form& form) override { log.push_back("hide " + form.name()); }
-    void changed(forms::Form&) override { ++changes; }
-    void changed(forms::Control&) override { ++changes; }
+    void changed(forms::Form&, forms::Change) override { ++changes; }
+    void changed(forms::Control&, forms::Change) override { ++changes; }
 
-    forms::Answer messageBox(const forms::MessageBox& box) override {
+    forms::Answer messageBox(const forms::MessageDialog& box) override {
         boxes.push_back(box);
         log.push_back("box \"" + box.title + "\": " + box.text);
-        if (box.buttons == forms::MessageBox::Buttons::Ok) return forms::Answer::Ok;
+        if (box.buttons == forms::MessageDialog::Buttons::Ok) return forms::Answer::Ok;
         return next(answers, "answer for " + box.text);
     }
     std::optional<std::string> fileDialog(const forms::FileDialog& dialog,
@@ -72,7 +71,6 @@ class RecordingScreen : public forms::Screen {
     void reportFailure(std::int32_t number, const std::string& description) override {
         log.push_back("failure " + std::to_string(number) + ": " + description);
     }
-    void showHelp(int context) override { helpContexts.push_back(context); }
 
   private:
     void on(const std::string& name, std::function<void(forms::Control&)> act) {
@@ -80,7 +78,7 @@ class RecordingScreen : public forms::Screen {
     }
     template <typename Value>
     static Value next(std::deque<Value>& queue, const std::string& what) {
-        if (queue.empty()) throw std::logic_error("no " + what);
+        if (queue.empty()) throw basic::Interruption("no " + what);
         Value value = std::move(queue.front());
         queue.pop_front();
         return value;

@@ -12,17 +12,17 @@ namespace fakes {
 class SampleForm : public forms::Form {
   public:
     SampleForm() : Form("fmSample", "099", "Sample", 109900) {
-        resizeTo(6000, 4000);
+        resizeTo(6000, 5200);
         setResizable(true);
         Frame1.place(100, 100, 5000, 2000);
         Frame1.setCaption("Values");
-        Picture1.place(Frame1, 50, 300, 4000, 1500);
+        Picture1.place(Frame1, 50, 300, 4000, 1300);
         Option1.place(Picture1, 0, 0, 1000, 300);
         Option1.setCaption("All");
         Option1.setValue(true);
         Option2.place(Picture1, 0, 400, 1000, 300);
         Option2.setCaption("Some");
-        Check1.place(Frame1, 0, 1900, 1000, 300);
+        Check1.place(Frame1, 0, 1650, 1000, 300);
         Check1.setCaption("Rotate");
         Text1.place(100, 2200, 1000, 300);
         Text1.setText("design");
@@ -90,6 +90,7 @@ class SampleForm : public forms::Form {
         if (onActivate) onActivate();
     }
     void Form_Resize() override { events.push_back("Resize"); }
+    void Form_Help(int context) override { events.push_back("Help " + std::to_string(context)); }
 
   private:
     void wire() {

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "basic/border.h"
 #include "desk/model/prompter.h"
 
 #include <deque>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,7 +12,7 @@
 namespace fakes {
 
 /// A prompter that gives the queued answers and logs what was asked and told. Running out of answers is
-/// a test's mistake and raises std::logic_error, which no handler swallows.
+/// a test's mistake and raises basic::Interruption, which no handler swallows.
 class ScriptedPrompter : public model::Prompter {
   public:
     std::deque<model::EntityPick> entities;
@@ -21,17 +21,17 @@ class ScriptedPrompter : public model::Prompter {
     std::deque<model::SelectionPick> selections;
     std::vector<std::string> prompts;
     std::vector<std::string> messages;
-    std::vector<std::optional<drawing::Point3>> bases;  ///< of the points and angles asked for
+    std::vector<std::optional<geometry::Point3>> bases;  ///< of the points and angles asked for
 
     model::EntityPick getEntity(const drawing::Drawing&, const std::string& prompt) override {
         return next(entities, prompt);
     }
-    model::PointPick getPoint(const std::optional<drawing::Point3>& base,
+    model::PointPick getPoint(const std::optional<geometry::Point3>& base,
                               const std::string& prompt) override {
         bases.push_back(base);
         return next(points, prompt);
     }
-    model::AnglePick getAngle(const drawing::Point3& base, const std::string& prompt) override {
+    model::AnglePick getAngle(const geometry::Point3& base, const std::string& prompt) override {
         bases.emplace_back(base);
         return next(angles, prompt);
     }
@@ -44,7 +44,7 @@ class ScriptedPrompter : public model::Prompter {
     template <typename Pick>
     Pick next(std::deque<Pick>& queue, const std::string& prompt) {
         prompts.push_back(prompt);
-        if (queue.empty()) throw std::logic_error("no answer for: " + prompt);
+        if (queue.empty()) throw basic::Interruption("no answer for: " + prompt);
         Pick pick = std::move(queue.front());
         queue.pop_front();
         return pick;

@@ -111,20 +111,18 @@ TEST_F(ActsTest, KeysInOtherControls) {
 }
 
 TEST_F(ActsTest, F1AsksForTheHelpOfTheControlOrElseOfTheForm) {
-    whileUp([&] {
-        form.Check1.setHelpContextId(7);
-        acts::key(form.Check1, Key::F1);
-        acts::key(form.List1, Key::F1);
-        form.setHelpContextId(0);
-        acts::key(form, Key::F1);
-    });
-    EXPECT_EQ(screen.helpContexts, (std::vector<int>{7, 109900, 0}));
+    form.Check1.setHelpContextId(7);
+    expectEvents({{[&] { acts::key(form.Check1, Key::F1); }, {"Help 7"}},
+                  {[&] { acts::key(form.List1, Key::F1); }, {"Help 109900"}},
+                  {[&] { form.setHelpContextId(0), acts::key(form, Key::F1); }, {"Help 0"}}});
 }
 
 TEST_F(ActsTest, ARowsTextIsEditedOnlyIfTheDialogLetsIt) {
     whileUp([&] {
-        EXPECT_FALSE(acts::editLabel(form.ListView1, 1, "new"));
-        EXPECT_TRUE(acts::editLabel(form.ListView1, 2, "new"));
+        EXPECT_FALSE(acts::beginEdit(form.ListView1, 1));
+        EXPECT_EQ(refusal([&] { acts::endEdit(form.ListView1, "new"); }), "ListView1 has no row in edit");
+        EXPECT_TRUE(acts::beginEdit(form.ListView1, 2));
+        acts::endEdit(form.ListView1, "new");
     });
     EXPECT_EQ(form.ListView1.listItems().item(1).text(), "door");
     EXPECT_EQ(form.ListView1.listItems().item(2).text(), "new");
@@ -132,10 +130,12 @@ TEST_F(ActsTest, ARowsTextIsEditedOnlyIfTheDialogLetsIt) {
 }
 
 TEST_F(ActsTest, AFailureThatLeavesAHandlerIsReportedOnceAndTheDialogStays) {
-    struct EndOfScript {};
+    struct EndOfScript : basic::Interruption {
+        EndOfScript() : Interruption("the end") {}
+    };
     whileUp([&] {
         form.onGo = [] { throw EndOfScript(); };
-        EXPECT_THROW(acts::click(form.Button1), EndOfScript) << "other exceptions pass the guard";
+        EXPECT_THROW(acts::click(form.Button1), EndOfScript) << "interruptions pass the guard";
         // The failure passes the inner assignment and stops the outer handler too.
         form.Combo1.onChange = [] { throw basic::Error(1000, "erased"); };
         form.onGo = [&] {

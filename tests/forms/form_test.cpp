@@ -46,6 +46,17 @@ TEST_F(FormTest, ShowsNestInsideAHandler) {
     EXPECT_EQ(form.timesDrawn(), 2);
 }
 
+TEST_F(FormTest, ShowsNestOnlySoDeep) {
+    form.onGo = [&] {
+        form.hide();
+        form.show(screen);
+    };
+    for (int click = 0; click < 20000; ++click) screen.click("Button1");
+    form.show(screen);
+    EXPECT_EQ(form.timesDrawn(), forms::Form::kDeepestShow);
+    EXPECT_EQ(screen.log.back(), "failure 28: Out of stack space");
+}
+
 TEST_F(FormTest, ASecondShowOfAVisibleFormFailsAndIsReported) {
     form.onGo = [&] { form.show(screen); };
     screen.click("Button1");
@@ -86,7 +97,7 @@ TEST_F(FormTest, AnExceptionOfTheFaceUnwindsAllShows) {
         form.show(screen);
     };
     screen.click("Button1");
-    EXPECT_THROW(form.show(screen), std::logic_error);
+    EXPECT_THROW(form.show(screen), basic::Interruption);
     EXPECT_FALSE(form.visible());
     EXPECT_EQ(form.screen(), nullptr);
 }
@@ -150,6 +161,37 @@ TEST_F(FormTest, FocusNeedsAReachableControl) {
     screen.closeBox();
     form.show(screen);
     EXPECT_EQ(form.activeControl(), nullptr);
+}
+
+TEST_F(FormTest, TabGoesRoundInReadingOrderWithAGroupOfOptionsAsOneStop) {
+    screen.acts.push_back([&](forms::Form&) {
+        std::string round;
+        for (int i = 0; i < 7; ++i) {
+            round += form.activeControl()->name() + ' ';
+            forms::acts::key(form, forms::Key::Tab);
+        }
+        EXPECT_EQ(round, "Option1 Check1 List1 Combo1 Combo2 ListView1 Button1 ");
+        forms::acts::key(form, forms::Key::ShiftTab);
+        EXPECT_EQ(form.activeControl(), &form.Button1);
+        form.onGo = [&] { form.Button1.setEnabled(false); };
+        forms::acts::click(form.Button1);
+        EXPECT_EQ(form.activeControl(), &form.Option1)
+            << "the focus goes on from a control that can't have it";
+    });
+    screen.closeBox();
+    form.show(screen);
+}
+
+TEST_F(FormTest, WhatAShortFrameCutsOffCannotBeActedOn) {
+    screen.acts.push_back([&](forms::Form&) {
+        form.Frame1.setHeight(1650);  // Check1 begins there
+        EXPECT_THROW(forms::acts::click(form.Check1), forms::ActError);
+        EXPECT_THROW(form.Check1.setFocus(), basic::Error);
+        form.Frame1.setHeight(1651);
+        forms::acts::click(form.Check1);
+    });
+    screen.closeBox();
+    form.show(screen);
 }
 
 TEST_F(FormTest, TheScreenHearsOfChangesOnlyWhileTheFormIsUp) {

@@ -1,5 +1,5 @@
 #include "host/document.h"
-#include "host/point.h"
+#include "host/object.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -108,12 +108,13 @@ TEST_F(Views, HandValuesOnAsTheKindTheyAre) {
     const Space space(object);
     EXPECT_EQ(space.InsertBlock(toVariant({0, 0, 0}), "DOOR", one, one, one, std::int16_t{0}).object(),
               other);
-    EXPECT_EQ(kinds(),
-              (std::vector{Kind::Doubles, Kind::Text, Kind::Int16, Kind::Int16, Kind::Int16, Kind::Int16}));
+    EXPECT_EQ(kinds(), (std::vector{Kind::DoubleArray, Kind::Text, Kind::Int16, Kind::Int16, Kind::Int16,
+                                    Kind::Int16}));
     SelectionSet(object).Select(kSelectAll, {{100, 2}, {"AcDbEntity", "DOOR"}});
-    EXPECT_EQ(kinds(), (std::vector{Kind::Int16, Kind::Missing, Kind::Missing, Kind::Shorts, Kind::Array}));
+    EXPECT_EQ(kinds(),
+              (std::vector{Kind::Int16, Kind::Missing, Kind::Missing, Kind::ShortArray, Kind::VariantArray}));
     SelectionSet(object).SelectOnScreen({{100, 2}, {"AcDbBlockreference", "DOOR"}});
-    EXPECT_EQ(kinds(), (std::vector{Kind::Shorts, Kind::Array}));
+    EXPECT_EQ(kinds(), (std::vector{Kind::ShortArray, Kind::VariantArray}));
 }
 
 TEST_F(Views, GiveAPickedEntityOnlyWhenThePickSucceeds) {
@@ -137,7 +138,7 @@ TEST_F(Views, GiveAPickedEntityOnlyWhenThePickSucceeds) {
     };
     EXPECT_EQ(errorOf([&] { utility.GetEntity(entity, point, "Select: "); }), -2147352567);
     EXPECT_EQ(entity, other);
-    EXPECT_TRUE(point.is(Kind::Doubles));
+    EXPECT_TRUE(point.is(Kind::DoubleArray));
 
     object->onCall = nullptr;
     EXPECT_EQ(toPoint(utility.GetPoint(Missing{}, "Point: ")), (Point{1, 2, 3}));

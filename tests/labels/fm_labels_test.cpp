@@ -3,8 +3,6 @@
 #include "tests/fakes/layout_check.h"
 #include "tests/labels/labels_world.h"
 
-#include <gtest/gtest.h>
-
 namespace labels {
 namespace {
 
@@ -19,7 +17,7 @@ TEST_F(FmLabelsTest, ABlockFillsTheRowsFromATrialReference) {
         EXPECT_EQ(subItems(2), (Texts{"a", "b", "c"}));
         EXPECT_EQ(parameters().Text1.text() + parameters().Text3.text() + parameters().Text4.text(), "110");
         EXPECT_EQ(session.LabelTable[0].size(), 3U);
-        EXPECT_TRUE(host.references("TAG").empty()) << "the trial is gone";
+        EXPECT_TRUE(references("TAG").empty()) << "the trial is gone";
         parameters().Text4.setText("45");
     });
     block("PLAIN");
@@ -68,27 +66,6 @@ TEST_F(FmLabelsTest, AModeTakesItsRememberedFormat) {
     look([this] { EXPECT_EQ(subItems(3).at(1), "Couleur"); });
     mode(kManual);
     look([this] { EXPECT_EQ(dialog().activeControl(), &dialog().Text1); });
-    run();
-    EXPECT_TRUE(failures().empty());
-}
-
-TEST_F(FmLabelsTest, BringsABlockInFromAFile) {
-    host.drawing().files["/blocks/mark.v2.dwg"] =
-        std::make_shared<fakes::FakeBlock>("mark.v2", fakes::FakeBlock::Attributes{{"NO", "1"}});
-    screen.paths = {"/blocks/mark.v2.dwg", std::nullopt};
-    screen.click("BtnImport");
-    look([this] {
-        EXPECT_EQ(dialog().Combo2.text(), "mark.v2");
-        EXPECT_EQ(dialog().Combo2.indexOf("mark.v2"), -1) << "the list isn't refreshed";
-        EXPECT_EQ(faulty.count("InsertBlock"), 2) << "once to bring it in, once for its attributes";
-        EXPECT_TRUE(host.references("mark.v2").empty());
-    });
-    screen.click("BtnImport");
-    look([this] {
-        EXPECT_EQ(dialog().Combo2.text() + dialog().blockName(), "");
-        EXPECT_EQ(subItems(1), Texts{"NO"}) << "cancelled: the rows stay";
-        EXPECT_TRUE(dialog().BtnInserer.enabled());
-    });
     run();
     EXPECT_TRUE(failures().empty());
 }

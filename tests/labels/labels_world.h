@@ -8,21 +8,16 @@
 #include "labels/value_modes.h"
 #include "tests/fakes/dialog_world.h"
 
-#include <map>
-#include <optional>
 #include <string>
 
-using fakes::Point;
 using fakes::Texts;
 
-/// The dialogs of the labelling. The block TAG has three attributes, ROOM two, PLAIN none.
+/// The dialogs of the labelling. The block TAG has three attributes, PLAIN none.
 struct LabelsWorld : fakes::DialogWorld {
-    LabelsWorld() {
+    LabelsWorld() : DialogWorld({{"TAG", {{"A", "a"}, {"B", "b"}, {"C", "c"}}}, {"PLAIN", {}}}) {
         labels::registerForms(session);
-        host.addBlock("TAG", {{"A", "a"}, {"B", "b"}, {"C", "c"}});
-        host.addBlock("ROOM", {{"NAME", "room"}, {"AREA", "0"}});
-        host.addBlock("PLAIN");
     }
+    explicit LabelsWorld(const drawing::PlainDrawing& plain) : DialogWorld(plain) {}
 
     labels::fmLabels& dialog() { return session.form<labels::fmLabels>("fmLabels"); }
     labels::fmParamIns& parameters() { return session.form<labels::fmParamIns>("fmParamIns"); }
@@ -34,8 +29,7 @@ struct LabelsWorld : fakes::DialogWorld {
         labels::StartLabels(session);
         EXPECT_FALSE(dialog().visible());
         EXPECT_TRUE(screen.acts.empty()) << "acts that nobody did";
-        const fakes::FakeDrawing& drawing = host.drawing();
-        EXPECT_TRUE(drawing.points.empty() && drawing.picks.empty() && drawing.angles.empty())
+        EXPECT_TRUE(prompter.points.empty() && prompter.entities.empty() && prompter.angles.empty())
             << "answers that nobody asked for";
     }
     void block(const std::string& name) { screen.choose("Combo2", name); }
@@ -47,22 +41,11 @@ struct LabelsWorld : fakes::DialogWorld {
         look([this] { parameters().CheckBox2.setValue(0); });
     }
 
-    void point(Point point) { host.drawing().points.emplace_back(point); }
-    void escape() { host.drawing().points.emplace_back(std::nullopt); }
-    void pick(const fakes::FakeEntityPtr& entity, Point place = {}) {
-        host.pick(entity);
-        host.drawing().pickPlaces.push_back(place);
-    }
-    fakes::FakeEntityPtr entity(std::map<std::string, double> measures) {
-        const auto added = host.addEntity("AcDbEntity");
-        added->measures = std::move(measures);
-        return added;
-    }
-
     /// The texts of a reference's attributes.
-    static Texts values(const fakes::FakeReferencePtr& reference) {
+    static Texts values(const host::ObjectPtr& reference) {
         Texts found;
-        for (const auto& attribute : reference->attributes) found.push_back(attribute->text);
+        for (const std::string& text : model::attributeTexts(reference))
+            found.push_back(text.substr(text.find('=') + 1));
         return found;
     }
     Texts subItems(int item) {
@@ -80,7 +63,6 @@ struct LabelsWorld : fakes::DialogWorld {
                               platform.numbers));
         return found;
     }
-    Texts prompts() { return std::exchange(host.drawing().prompts, {}); }
 };
 
 // The prompts, told short in the tests by these.

@@ -2,8 +2,6 @@
 #include "labels/fm_param_ins.h"
 #include "tests/labels/labels_world.h"
 
-#include <gtest/gtest.h>
-
 namespace labels {
 namespace {
 

@@ -9,7 +9,7 @@ namespace labels {
 namespace {
 
 struct CaptureTest : testing::Test, LabelsWorld, LabelRows {
-    CaptureTest() {
+    CaptureTest() : LabelsWorld(fakes::drawingOf({}).entity("LINE 8 WALLS 62 5 10 0 20 0 11 7 21 0")) {
         resetLabelTable(session);
         growLabelTable(session, 2);
         faulty.reset();
@@ -38,39 +38,12 @@ TEST_F(CaptureTest, WithoutAnyPickTheValueIsEmptyAndOnlyThePrefixesStand) {
     slot(kSuffixSlot, ">");
     slot(kDecimalsSlot, "2");
     escape();
-    host.breakOffPick();
+    breakOffPick();
     for (const int mode : {1, 2, 3, 4, 6, 8, 11, 12, 13, -1}) EXPECT_EQ(value(mode), "<>") << mode;
     EXPECT_EQ(value(kManual), "<typed>");
     EXPECT_EQ(value(kManual, 2), "") << "a row that isn't there";
     EXPECT_EQ(value(kManual, 9), "") << "a position outside the table";
     EXPECT_EQ(prompts(), (Texts{kPoint, kObject}));
-}
-
-TEST_F(CaptureTest, OneObjectServesAllValues) {
-    pick(entity({{"Length", 12.346}, {"Area", 80}}), {3, 4, 0});
-    slot(kDecimalsSlot, "2");
-    EXPECT_EQ(value(kObjectLength), "12.35");
-    EXPECT_EQ(value(kObjectPerimeter, 2) + " " + value(kObjectArea, 2), "12 80");
-    EXPECT_EQ(value(kObjectColor), "256") << "by layer is a number too, and goes through no mask";
-    EXPECT_EQ(prompts(), Texts{kObject});
-    EXPECT_EQ(session.PickPoint.doubles(), (basic::Doubles{3, 4, 0}));
-    platform.numbers = basic::Regional::french();
-    EXPECT_EQ(value(kObjectLength), "12,35");
-}
-
-TEST_F(CaptureTest, TheMeasureIsTheSumOfWhatAnObjectHas) {
-    const auto reading = [&](std::map<std::string, double> measures) {
-        capture.ObjectPicked = false;
-        pick(entity(std::move(measures)));
-        return value(kObjectLength);
-    };
-    EXPECT_EQ(reading({{"Perimeter", 7}, {"Area", 3}}), "7");
-    EXPECT_EQ(reading({{"Circumference", 9}}), "9");
-    EXPECT_EQ(reading({{"Length", 5}, {"Perimeter", 7}, {"Circumference", 9}}), "21");
-    EXPECT_EQ(reading({{"ArcLength", 5}}), "") << "an arc has none of the three";
-    capture.ObjectPicked = false;
-    host.breakOffPick();
-    EXPECT_EQ(value(kObjectArea), "") << "broken off: the object of before, which has no area";
 }
 
 TEST_F(CaptureTest, TheMaskFollowsTheSlotWhateverStandsInIt) {
@@ -115,13 +88,11 @@ TEST_F(CaptureTest, CountersStartAsTypedAndGoOnPlain) {
 }
 
 TEST_F(CaptureTest, SinglePurposeOperationsPickForThemselves) {
-    const auto contour = entity({{"Perimeter", 7}, {"Area", 3}});
-    contour->layer = "ROOMS";
-    contour->color = 5;
-    for (int i = 0; i < 5; ++i) pick(contour, {1. * i, 0, 0});
+    for (int i = 0; i < 5; ++i) pick(item(0), {1. * i, 0, 0});
     EXPECT_EQ((Texts{text(capture.ClicLong()), text(capture.ClicPerim(1)), text(capture.ClicAire()),
                      text(capture.ClicCalque()), text(capture.ClicColor())}),
-              (Texts{"7", "7", "3", "ROOMS", "5"}));
+              (Texts{"7", "7", "", "WALLS", "5"}))
+        << "a line has no area";
     EXPECT_EQ(prompts(),
               (Texts{"Selectionner le contour pour la longueur. ",
                      "Selectionner le contour pour le périmètre. ", "Selectionner le contour pour l'aire. ",
@@ -130,7 +101,8 @@ TEST_F(CaptureTest, SinglePurposeOperationsPickForThemselves) {
     EXPECT_EQ(capture.PickedObject, nullptr) << "the label's own pick is another";
 
     for (int i = 0; i < 3; ++i) {
-        for (const Point& corner : {Point{0, 0, 5}, Point{10, 0, 0}, Point{10, 10, 9}, Point{0, 10, 0}})
+        for (const geometry::Point3& corner :
+             {geometry::Point3{0, 0, 5}, {10, 0, 0}, {10, 10, 9}, {0, 10, 0}})
             point(corner);
         escape();
     }
@@ -138,7 +110,7 @@ TEST_F(CaptureTest, SinglePurposeOperationsPickForThemselves) {
               (Texts{"30", "40", "100"}));
     EXPECT_FALSE(capture.PolygonPicked || capture.ObjectPicked);
     EXPECT_EQ(measurePolygon({{0, 0, 0}, {10, 10, 0}, {10, 0, 0}, {0, 10, 0}}).area, 0) << "crosses itself";
-    host.breakOffPick();
+    breakOffPick();
     EXPECT_EQ(text(capture.ClicAire()) + text(capture.ClicAire(3)), "");
 }
 

@@ -8,12 +8,9 @@ TEST(ListFunctions, TakeApartAndBuild) {
         {"(car 5)", "error: bad argument type: consp: 5"},
         {"(mapcar '(lambda (f) (apply f '(((1 (2)) 3 (4 5))))) '(caar cadr cdar cddr caddr cadar))",
          "(1 3 ((2)) ((4 5)) (4 5) (2))"},
-        {"(cddddr '(1 2 3 4 5))", "(5)"},
-        {"(vl-list* 1 2 '(3))", "(1 2 3)"},
         {"(append '(1) 2)", "(1 . 2)"},
         {"(append 1 '(2))", "error: bad argument type: listp: 1"},
         {"(length '(1 . 2))", "error: bad argument type: listp: (1 . 2)"},
-        {"(vl-list-length '(1 . 2))", "nil"},
         {"(list (nth 0 '(a b)) (nth 2 '(a b)))", "(A nil)"},
         {"(nth -1 '(a b))", "error: bad argument value: positive: -1"},
         {"(mapcar 'vl-consp '(1 nil (1)))", "(nil nil T)"},
@@ -62,8 +59,7 @@ TEST(NumberFunctions, Calculate) {
         {"(+ 1 \"2\")", "error: bad argument type: numberp: \"2\""},
         {"(list (+ 2147483647 1) (* 65536 65536) (1- -2147483648) (/ -2147483648 -1) (abs -2147483648))",
          "(-2147483648 0 2147483647 -2147483648 -2147483648)"},  // integers wrap around
-        {"(list (1+ 1) (1- 1.5) (abs -2) (abs -2.5) (min 1 2.0) (max 1 2 3) (gcd 12 -18))",
-         "(2 0.5 2 2.5 1.0 3 6)"},
+        {"(list (1+ 1) (1- 1.5) (abs -2) (abs -2.5) (min 1 2.0) (max 1 2 3))", "(2 0.5 2 2.5 1.0 3)"},
         {"(list (sqrt 4) (exp 0) (log 1) (sin 0) (cos 0) (atan 1) (atan -1 -1))",
          "(2.0 1.0 0.0 0.0 1.0 0.785398 -2.35619)"},
         {"(sqrt -1)", "error: bad argument value: function undefined: -1"},
@@ -71,8 +67,6 @@ TEST(NumberFunctions, Calculate) {
         {"(list (expt 2 10) (expt 2 40) (expt 2 -1) (expt 2.0 3))", "(1024 1.09951e+12 0.5 8.0)"},
         {"(list (fix 2.9) (fix -2.9) (fix 1e10) (float 2))", "(2 -2 1.0e+10 2.0)"},
         {"(list (zerop 0.0) (minusp -1) (numberp nil) (numberp 1.5))", "(T T nil T)"},
-        {"(list (logand 12 10) (logior 12 10) (~ 0) (lsh 1 31) (lsh -1 -31) (lsh 1 40))",
-         "(8 14 -1 -2147483648 1 0)"},
         {"(list (distance '(0 0) '(3 4)) (distance '(1 2 2) '(0 0 0)))", "(5.0 3.0)"},
         {"(distance '(0) '(1 1))", "error: bad argument type: point: (0)"},
         {"(list (angle '(0 0) '(0 -1)) (polar '(1 1 5) 0 2) (polar '(1 1) 0.0 1))",
@@ -125,9 +119,7 @@ TEST(StringFunctions, CountCharacters) {
         {"(list (strcase \"Été\") (strcase \"ÉTÉ\" t))", "(\"ÉTÉ\" \"été\")"},
         {"(list (ascii \"A\") (ascii \"é\") (ascii \"\") (chr 233))", "(65 233 0 \"é\")"},
         {"(chr -1)", "error: bad argument value: character code: -1"},
-        {"(list (vl-string->list \"aé\") (vl-list->string '(97 233)))", "((97 233) \"aé\")"},
-        {"(list (vl-princ-to-string '(\"a\" b)) (vl-prin1-to-string \"a\") (vl-symbol-name 'abc))",
-         "(\"(a B)\" \"\\\"a\\\"\" \"ABC\")"},
+        {"(list (vl-princ-to-string '(\"a\" b)) (vl-prin1-to-string \"a\"))", "(\"(a B)\" \"\\\"a\\\"\")"},
     });
 }
 
@@ -137,12 +129,8 @@ TEST(StringFunctions, SearchAndTrim) {
          "\"z\" \"a\"))",
          "(1 1 nil)"},
         {"(vl-string-search \"a\" \"a\" 5)", "error: bad argument value: position: 5"},
-        {"(list (vl-string-position 97 \"bab\") (vl-string-position 98 \"bab\" 0 t) (vl-string-position "
-         "99 \"b\"))",
-         "(1 2 nil)"},
         {"(list (vl-string-subst \"X\" \"a\" \"banana\") (vl-string-subst \"X\" \"a\" \"banana\" 2))",
          "(\"bXnana\" \"banXna\")"},
-        {"(vl-string-translate \"ab\" \"é-\" \"aabb\")", "\"éé--\""},
         {"(list (vl-string-trim \" .\" \" .a. \") (vl-string-left-trim \"x\" \"xax\") "
          "(vl-string-right-trim \"x\" "
          "\"xax\") (vl-string-trim \"x\" \"xx\") (vl-string-right-trim \"x\" \"\"))",

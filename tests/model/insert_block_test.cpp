@@ -62,10 +62,19 @@ TEST_F(InsertBlockTest, AFileComesInUnderItsBaseName) {
     EXPECT_EQ(attributeTexts(table), (Texts{"WOOD=oak"}));
     EXPECT_NE(drawing().blocks().find("LEG"), drawing::kNoBlock) << "nested blocks come along";
     const Variant attributes = table->invoke("GetAttributes");
-    EXPECT_EQ(drawing().attribute(toEntity(attributes.array().at(0))).position, (drawing::Point3{10, 11, 0}))
+    EXPECT_EQ(drawing().attribute(toEntity(attributes.array().at(0))).position, (geometry::Point3{10, 11, 0}))
         << "counted from the base point";
     EXPECT_EQ(textOf(insert("TABLE.V2"), "Name"), "table.v2");
     EXPECT_EQ(prompter.messages, Texts{});
+}
+
+TEST_F(InsertBlockTest, TheDrawingsOwnBlocksComeBeforeFiles) {
+    const std::string path = folder.write("plan.dxf", blockFile());
+    ModelWorld house(drawing::Drawing::parse(
+        drawing::PlainDrawing().block("plan.dwg").block("M~1/2").block(path).text(), path));
+    for (const std::string& name : {std::string("plan.dwg"), std::string("m 1/2"), path})
+        EXPECT_TRUE(basic::equalIgnoringCase(textOf(house.insert(name.c_str()), "Name"), name)) << name;
+    EXPECT_EQ(textOf(house.insert("plan"), "Name"), "plan") << "a name that the drawing lacks is a file";
 }
 
 TEST_F(InsertBlockTest, ABlockOfThatNameIsRedefinedAndTheCommandLineSaysSo) {

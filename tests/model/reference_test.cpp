@@ -16,7 +16,7 @@ class ReferenceTest : public FurnishedTest {
 };
 
 TEST_F(ReferenceTest, TellsWhatTheFileSays) {
-    EXPECT_DOUBLE_EQ(numberOf(item(Furnished::Door), "Rotation"), drawing::kPi / 2) << "radians";
+    EXPECT_DOUBLE_EQ(numberOf(item(Furnished::Door), "Rotation"), geometry::kPi / 2) << "radians";
     EXPECT_EQ(numberOf(item(Furnished::Door), "Color"), 3);
     const host::ObjectPtr array = item(Furnished::Plain);
     EXPECT_EQ(textOf(array, "ObjectName"), "AcDbMInsertBlock");
@@ -35,7 +35,7 @@ TEST_F(ReferenceTest, PointsAreWorldCoordinatesWhateverTheExtrusion) {
     const host::ObjectPtr mirrored = free.item(0);
     mirrored->set("InsertionPoint", basic::Doubles{5, 6, 7});
     expectPoint(mirrored, "InsertionPoint", {5, 6, 7});
-    EXPECT_EQ(free.drawing().placement(toEntity(mirrored)).insertion, (drawing::Point3{-5, 6, -7}));
+    EXPECT_EQ(free.drawing().placement(toEntity(mirrored)).insertion, (geometry::Point3{-5, 6, -7}));
     // The attribute stays where it was as seen from the reference: 1 along, 2 up.
     drawing::expectNear(free.drawing().attribute(toEntity(attribute(mirrored, 0))).position, {-4, 8, -7});
 }

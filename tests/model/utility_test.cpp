@@ -40,7 +40,7 @@ TEST_F(UtilityTest, PointsAndAnglesWithAndWithoutABasePoint) {
     utility->invoke("GetPoint", {basic::Missing{}, "Where: "});
     utility->invoke("GetPoint", {basic::Doubles{1, 1, 0}, "To: "});
     EXPECT_EQ(utility->invoke("GetAngle", {basic::Array{2.0, 2.0, 0.0}, "Angle: "}).number(), 1.25);
-    const auto none = std::optional<drawing::Point3>();
+    const auto none = std::optional<geometry::Point3>();
     EXPECT_EQ(prompter.bases, (std::vector{none, none, {{1, 1, 0}}, {{2, 2, 0}}}));
     EXPECT_EQ(prompter.prompts, (Texts{"", "Where: ", "To: ", "Angle: "}));
     EXPECT_EQ(errorOf([&] { utility->invoke("GetPoint", {"1,1", "To: "}); }), basic::kTypeMismatch);

@@ -12,14 +12,12 @@ using fakes::Texts;
 /// The dialogs of the replacement on a drawing with two doors, whose block has the attributes MARK and ROOM,
 /// a chair without any, and a lamp that isn't inserted, with the attributes ROOM and CODE.
 struct ReplaceWorld : fakes::DialogWorld {
-    ReplaceWorld() {
+    ReplaceWorld()
+        : DialogWorld({{"DOOR", {{"MARK", "D"}, {"ROOM", "?"}}},
+                       {"chair", {}},
+                       {"LAMP", {{"ROOM", "nowhere"}, {"CODE", "L"}}},
+                       {"TWIN", {{"ROOM", "1"}, {"room", "2"}, {"ROOM", "3"}, {"CODE", "4"}}}}) {
         replace::registerForms(session);
-        host.addBlock("DOOR", {{"MARK", "D"}, {"ROOM", "?"}});
-        host.addBlock("chair");
-        host.addBlock("LAMP", {{"ROOM", "nowhere"}, {"CODE", "L"}});
-        firstDoor = host.addReference("DOOR", {1, 2, 3}, {"D1", "hall"});
-        secondDoor = host.addReference("DOOR", {4, 5, 6}, {"D2", "cellar"});
-        host.addReference("chair");
     }
 
     replace::fmReplace& dialog() { return session.form<replace::fmReplace>("fmReplace"); }
@@ -33,7 +31,7 @@ struct ReplaceWorld : fakes::DialogWorld {
     }
     void close() { screen.click("BtnClose"); }
 
-    fakes::FakeReferencePtr firstDoor, secondDoor;
+    host::ObjectPtr firstDoor = place("DOOR", {1, 2, 3}, {"D1", "hall"});
+    host::ObjectPtr secondDoor = place("DOOR", {4, 5, 6}, {"D2", "cellar"});
+    host::ObjectPtr chair = place("chair");
 };
-
-inline const char* const kSuccess = "Blocks references replaced succesfully.";

@@ -3,72 +3,31 @@
 #include "tests/fakes/replacement_fields.h"
 #include "tests/replace/replace_world.h"
 
-#include <gtest/gtest.h>
-
 namespace replace {
 namespace {
 
-class EngineTest : public testing::Test, public ReplaceWorld {
-  protected:
+struct EngineTest : testing::Test, ReplaceWorld {
     EngineTest() {
         fields.name = "LAMP";
-        host.drawing().sets.push_back(std::make_shared<fakes::FakeSelectionSet>(host.drawing(), "SS1"));
-        set({firstDoor, secondDoor});
+        object("SelectionSets")->invoke("Add", {"SS1"});
     }
-    void set(std::vector<fakes::FakeEntityPtr> members) {
-        host.drawing().sets.front()->members = std::move(members);
+    void choose(const std::vector<host::ObjectPtr>& members) {
+        set(0)->invoke("Clear");
+        select(members);
+        set(0)->invoke("SelectOnScreen");
         const auto sets = host::asObject(faulty.root()->get("SelectionSets"));
         session.ReplaceSelectionSet = host::asObject(sets->invoke("Item", {std::int16_t{0}}));
         faulty.reset();
     }
-    void replaceAll() { ReplaceBlocks(session, fields); }
     int failure() {
-        return fakes::errorOf([&] { replaceAll(); });
+        return fakes::errorOf([&] { ReplaceBlocks(session, fields); });
     }
-    fakes::FakeReferencePtr lamp(std::size_t index = 0) { return host.references("LAMP").at(index); }
+    static bool isErased(const host::ObjectPtr& entity) {
+        return fakes::errorOf([&] { entity->get("Layer"); }) != 0;
+    }
 
     fakes::ReplacementFields fields;
 };
-
-TEST_F(EngineTest, TakesOverPlaceScalesAndRotationAndNothingElse) {
-    firstDoor->scale = {2, -3, 0.5};
-    firstDoor->rotation = 1.25;
-    firstDoor->visible = false;
-    firstDoor->layer = "DOORS";
-    firstDoor->color = 3;
-    replaceAll();
-    EXPECT_EQ(lamp()->point, (fakes::Point{1, 2, 3}));
-    EXPECT_EQ(lamp()->scale, (fakes::Point{2, -3, 0.5}));
-    EXPECT_EQ(lamp()->rotation, 1.25);
-    EXPECT_TRUE(lamp()->visible) << "an invisible one becomes visible";
-    EXPECT_EQ(lamp()->layer, "0");
-    EXPECT_EQ(lamp()->color, 256);
-    EXPECT_EQ(boxTexts(), Texts{kSuccess});
-}
-
-TEST_F(EngineTest, HandsTheTextsOfTheFieldsToTheHost) {
-    firstDoor->scale = {2, 2, 2};
-    fields.scales = {"1.5", "-4", ""};
-    fields.angle = "90";  // radians: no quarter turn
-    fields.visibility = 1;
-    replaceAll();
-    EXPECT_EQ(lamp()->scale, (fakes::Point{1.5, -4, 2}));
-    EXPECT_EQ(lamp()->rotation, 90);
-    EXPECT_FALSE(lamp()->visible);
-
-    fields.visibility = 2;                                // "Unchanged" with the box on
-    host.drawing().regional = basic::Regional::french();  // the host's settings decide, nobody else's
-    fields.scales[0] = "0,25";
-    set({lamp(0)});
-    replaceAll();
-    EXPECT_TRUE(lamp(1)->visible);
-    EXPECT_EQ(lamp(1)->scale[0], 0.25);
-
-    fields.scales[2] = "0";
-    set({lamp(1)});
-    EXPECT_EQ(failure(), fakes::kRefusedValue);
-    EXPECT_EQ(host.references("LAMP").size(), 3U) << "the new one is there, the old one still";
-}
 
 TEST_F(EngineTest, EndsAtTheFirstFailureWithoutUndoingAnything) {
     const Texts calls{"call Item",        "get InsertionPoint", "get XScaleFactor", "get YScaleFactor",
@@ -84,46 +43,50 @@ TEST_F(EngineTest, EndsAtTheFirstFailureWithoutUndoingAnything) {
     fields.angle = "1";
     fields.visibility = 0;
     fields.destinations = {"", "ROOM"};
-    set({firstDoor});
-    replaceAll();
+    choose({firstDoor});
+    EXPECT_EQ(failure(), 0);
     EXPECT_EQ(faulty.log().front(), "get Count");
     EXPECT_EQ(Texts(faulty.log().begin() + 1, faulty.log().end()), calls) << "these calls and no other";
-    EXPECT_EQ(lamp()->text("ROOM"), "hall");
+    EXPECT_EQ(model::attributeTexts(references("LAMP").at(0)), (Texts{"ROOM=hall", "CODE=L"}));
     screen.boxes.clear();
 
     for (int n = 0; n < size; ++n) {
-        host.drawing().entities.clear();
-        std::vector<fakes::FakeEntityPtr> doors;
-        for (int i = 0; i < 3; ++i) doors.push_back(host.addReference("DOOR"));
-        set(doors);
+        eraseAll();
+        std::vector<host::ObjectPtr> doors;
+        for (int i = 0; i < 3; ++i) doors.push_back(place("DOOR"));
+        choose(doors);
         faulty.failAtCall(1 + size + n + 1);  // of the second reference
-        EXPECT_EQ(failure(), fakes::FaultyHost::standardFailure().number()) << calls[n];
-        EXPECT_EQ(faulty.log().back(), calls[n]);
-        EXPECT_TRUE(doors[0]->erased) << calls[n] << ": what was done stays";
-        EXPECT_EQ(doors[1]->erased, n > deleted) << calls[n];
-        EXPECT_FALSE(doors[2]->erased) << calls[n] << ": the others are untouched";
-        EXPECT_EQ(host.references("LAMP").size(), n > inserted ? 2U : 1U) << calls[n];
-        EXPECT_TRUE(screen.boxes.empty()) << calls[n];
+        const std::string& call = calls[static_cast<std::size_t>(n)];
+        EXPECT_EQ(failure(), fakes::FaultyHost::standardFailure().number()) << call;
+        EXPECT_EQ(faulty.log().back(), call);
+        EXPECT_TRUE(isErased(doors[0])) << call << ": what was done stays";
+        EXPECT_EQ(isErased(doors[1]), n > deleted) << call;
+        EXPECT_FALSE(isErased(doors[2])) << call << ": the others are untouched";
+        EXPECT_EQ(references("LAMP").size(), n > inserted ? 2U : 1U) << call;
+        EXPECT_TRUE(screen.boxes.empty()) << call;
     }
 }
 
 TEST_F(EngineTest, FailsAtWhatIsNoReference) {
-    set({host.addEntity("AcDbLine")});  // the zone's filter admits any entity of the block's name
+    space()->invoke("AddLine", {basic::Doubles{0, 0, 0}, basic::Doubles{1, 0, 0}});
+    choose({item(3)});
     EXPECT_EQ(failure(), basic::kNoSuchMember);
-    EXPECT_TRUE(host.references("LAMP").empty());
+    EXPECT_TRUE(references("LAMP").empty());
 }
 
 TEST_F(EngineTest, TranscribesByPosition) {
-    host.addBlock("TWIN", {{"ROOM", "1"}, {"room", "2"}, {"ROOM", "3"}, {"CODE", "4"}});
     fields.name = "TWIN";
     fields.destinations = {"", "ROOM", "ROOM"};  // the first of two rows counts, the third is never asked for
-    std::swap(secondDoor->attributes[0], secondDoor->attributes[1]);
-    replaceAll();
-    const auto twins = host.references("TWIN");
-    Texts values;
-    for (const auto& attribute : twins.at(0)->attributes) values.push_back(attribute->text);
-    EXPECT_EQ(values, (Texts{"hall", "2", "hall", "4"}));
-    EXPECT_EQ(twins.at(1)->text("ROOM"), "D2") << "in another order another attribute's value is taken";
+    fields.visibility = 2;                       // "Unchanged" with the box on
+    fields.scales[0] = "-4";
+    choose({firstDoor});
+    EXPECT_EQ(failure(), 0);
+    const auto twin = references("TWIN").at(0);
+    EXPECT_EQ(model::attributeTexts(twin), (Texts{"ROOM=hall", "room=2", "ROOM=hall", "CODE=4"}));
+    EXPECT_TRUE(twin->get("Visible").boolean());
+    EXPECT_EQ(model::numberOf(twin, "XScaleFactor"), -4);
+    model::expectPoint(twin, "InsertionPoint", {1, 2, 3});
+    EXPECT_EQ(boxTexts(), Texts{"Blocks references replaced succesfully."});
 }
 
 }  // namespace

@@ -8,21 +8,7 @@ using Outcome = Desk::Outcome;
 constexpr const char* kErase =
     "(vla-Delete (vla-Item (vla-get-ModelSpace (vla-get-ActiveDocument (vlax-get-acad-object))) 0))";
 
-class DeskTest : public testing::Test, protected ShellWorld {
-  protected:
-    /// The choices for a replacement of all LAMPs.
-    void queueReplacement(const std::string& block) {
-        screen.choose("lstDestination", "LAMP");
-        screen.type("CboBlocReplacer", block);
-    }
-    /// Replaces, and lists the references without the heading.
-    std::string replace() {
-        screen.click("BtnReplace");
-        screen.click("BtnClose");
-        tell("VNREPLACE");
-        return tell("LIST").substr(18);
-    }
-};
+struct DeskTest : testing::Test, ShellWorld {};
 
 TEST_F(DeskTest, AFailedOpenLeavesTheCurrentDrawing) {
     const struct {
@@ -74,41 +60,11 @@ TEST_F(DeskTest, LinesThatAreNoCommand) {
     EXPECT_EQ(tell("frob"), "frobbed");
 }
 
-TEST_F(DeskTest, ACommandIsOneStepOfUndo) {
-    queueReplacement("SPOT");
-    replace();
-    tell("(repeat 2 " + std::string(kErase) + ")");
-    EXPECT_EQ(tell("LIST"), "References  Block\n         0  LAMP\n         2  SPOT\n");
-    EXPECT_EQ(tell("U"), "Undone.\n");
-    EXPECT_EQ(tell("  list "), "References  Block\n         0  LAMP\n         4  SPOT\n");
-    EXPECT_EQ(tell("u"), "Undone.\n");
-    EXPECT_EQ(desk.document().drawing().savedBytes(), bytes);
-    EXPECT_FALSE(desk.hasUnsavedChanges());
-    EXPECT_EQ(tell("U"), "Nothing to undo.\n");
-}
-
-TEST_F(DeskTest, AReplacementEndsAtItsFirstFailure) {
-    queueReplacement("NONE");
-    EXPECT_EQ(replace(), "         3  LAMP\n         1  SPOT\n");
-    queueReplacement("SPOT");
-    screen.click("chkRotation");
-    screen.type("txtRotation", "Unchanged");
-    EXPECT_EQ(replace(), "         3  LAMP\n         2  SPOT\n");
-    Texts failures;
-    for (const std::string& entry : screen.log)
-        if (entry.starts_with("failure")) failures.push_back(entry);
-    EXPECT_EQ(
-        failures,
-        (Texts{
-            "failure -2145386445: File error: NONE: no block of the drawing and no file that could be found",
-            "failure 13: Type mismatch"}));
-}
-
 TEST_F(DeskTest, ObjectsOfTheDrawingBeforeStillBelongToIt) {
     tell("(setq old (vla-Item (vla-get-ModelSpace (vla-get-ActiveDocument (vlax-get-acad-object))) 1))");
     const std::string empty = folder.write("empty.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
     EXPECT_EQ(tell("OPEN " + empty),
-              "Opened " + empty + "\n1 finding on reading:\n  1: there is no section HEADER\n");
+              "Opened " + empty + "\n1 finding on reading:\n  K5 1: there is no section HEADER\n");
     EXPECT_EQ(tell("LIST"), "References  Block\n");
     EXPECT_EQ(tell("(vla-get-Name old)"), "\"LAMP\"\n");
 }

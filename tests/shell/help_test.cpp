@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
+#include <sys/stat.h>
 #include <utility>
 
 namespace shell {
@@ -65,6 +66,23 @@ TEST_F(HelpPages, WhatTheChosenLanguageLacksComesInEnglish) {
     EXPECT_EQ(told(), "[help: de/start.html]\nHilfe\n=====\n[end of help]\n");
     show(100100);
     EXPECT_TRUE(told().starts_with("[help: en/about.html]\nAbout Vorlane\n"));
+
+    // The table as a Windows editor saves it.
+    folder.write("Vorlane.ini", "Lng=Espa\xF1ol\r\n");
+    folder.write("help/languages.txt",
+                 "fr Fran\xE7"
+                 "ais\r\nde Espa\xF1ol\r\n");
+    show(std::nullopt);
+    EXPECT_TRUE(told().starts_with("[help: de/start.html]\n"));
+}
+
+TEST_F(HelpPages, OnlyFilesAreListed) {
+    folder.write("English.LNG", "");
+    fs::create_directory(folder.file("folder.LNG"));
+    fs::create_symlink("itself.LNG", folder.file("itself.LNG"));
+    fs::create_symlink("nowhere", folder.file("broken.LNG"));
+    ASSERT_EQ(mkfifo(folder.file("pipe.LNG").c_str(), 0600), 0);
+    EXPECT_EQ(platform.folderFiles(folder.path()), std::vector<std::string>{folder.file("English.LNG")});
 }
 
 TEST_F(HelpPages, WithoutSettingsOrPagesItSaysSo) {

@@ -1,6 +1,7 @@
 #include "desk/shell/install_folder.h"
 
 #include "basic/error.h"
+#include "tests/fakes/error_of.h"
 #include "tests/fakes/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -54,6 +55,20 @@ TEST_F(InstallFolderTest, AChosenLanguageAndTheUsersSettingsStay) {
         prepare();
         EXPECT_EQ(read("Vorlane.ini"), std::string(before) + "\r\nLng=English\r\n");
     }
+}
+
+TEST_F(InstallFolderTest, ANameThatLeadsToItselfIsSaid) {
+    fs::create_directories(path(""));
+    fs::create_symlink("English.LNG", path("English.LNG"));
+    EXPECT_EQ(fakes::errorOf([&] { prepare(); }), basic::kPermissionDenied);
+    fs::remove(path("English.LNG"));
+    fs::create_symlink("Vorlane.ini", path("Vorlane.ini"));
+    EXPECT_EQ(fakes::errorOf([&] { prepare(); }), basic::kPermissionDenied);
+    fs::remove(path("Vorlane.ini"));
+    fs::create_symlink("x", resources.file("languages/x"));
+    fs::create_symlink("x", resources.file("help/x"));
+    prepare();
+    EXPECT_EQ(read("English.LNG"), "english 1");
 }
 
 TEST_F(InstallFolderTest, OnlyFilesThatTheUserLeftAloneAreUpdated) {

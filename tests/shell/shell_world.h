@@ -1,7 +1,7 @@
 #pragma once
 
+#include "bench/big_drawing.h"
 #include "desk/shell/desk.h"
-#include "tests/fakes/big_drawing.h"
 #include "tests/fakes/recording_screen.h"
 #include "tests/fakes/scripted_prompter.h"
 #include "tests/fakes/temp_folder.h"
@@ -22,7 +22,11 @@ struct ShellWorld {
     ShellWorld() { desk.open(house); }
 
     static DeskOptions optionsIn(const fakes::TempFolder& folder) {
-        return {folder.file("install"), VORLANE_ROOT "/resources", basic::Regional::english(), false};
+        DeskOptions options;
+        options.installFolder = folder.file("install");
+        options.resources = VORLANE_ROOT "/resources";
+        options.regional = basic::Regional::english();
+        return options;
     }
     /// What was printed since the last look.
     std::string told() { return std::exchange(output, {}).str(); }
@@ -37,7 +41,7 @@ struct ShellWorld {
     fakes::RecordingScreen screen;
     fakes::ScriptedPrompter prompter;
     std::ostringstream output;
-    std::string bytes = fakes::BigDrawing::make(3);
+    std::string bytes = bench::BigDrawing::make(3);
     std::string house = folder.write("house.dxf", bytes);
     Desk desk{optionsIn(folder), screen, prompter, output};
 };

@@ -73,8 +73,8 @@ TEST(LinuxPlatformTest, RegistryFilesAndNames) {
 class ProgramsTest : public testing::Test {
   protected:
     void addProgram(const char* name, const std::string& script) {
-        const std::string path = folder.write(name, "#!/bin/sh\n" + script + "\n");
-        fs::permissions(path, fs::perms::owner_all);
+        const std::string file = folder.write(name, "#!/bin/sh\n" + script + "\n");
+        fs::permissions(file, fs::perms::owner_all);
     }
     /// The number and the description of the error that a conversion ends in.
     static std::pair<int, std::string> refusal(const std::string& dwg) {

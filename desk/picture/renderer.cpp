@@ -1,0 +1,439 @@
+#include "desk/picture/renderer.h"
+
+#include "desk/drawing/drawing.h"
+#include "desk/picture/dashes.h"
+#include "desk/shapes/shape_walk.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace picture {
+
+namespace {
+
+constexpr int kDeepest = 100;
+/// Blocks nested in blocks may multiply beyond all bounds; a picture stops after so many things.
+constexpr std::size_t kMostSteps = 20'000'000;
+/// A linetype whose pattern is shorter on the picture is drawn continuous, a hatch pattern whose lines are
+/// nearer to each other as a tone.
+constexpr double kFinestPattern = 3;
+constexpr double kFinestHatch = 2.5;
+/// How dark that tone is.
+constexpr double kToneOpacity = 0.35;
+/// Coordinates beyond this many device units from the frame are cut off before a canvas sees them.
+constexpr double kFarOutside = 2000;
+
+/// Cuts a loop to a frame (Sutherland and Hodgman), so that no canvas has to fill areas of any size.
+void clipLoop(std::vector<Point2>& loop, const Frame& frame) {
+    std::vector<Point2> result;
+    const auto cut = [&](auto&& inside, auto&& at) {
+        result.clear();
+        for (std::size_t i = 0; i < loop.size(); ++i) {
+            const Point2& from = loop[i];
+            const Point2& to = loop[(i + 1) % loop.size()];
+            if (inside(from)) result.push_back(from);
+            if (inside(from) != inside(to)) result.push_back(at(from, to));
+        }
+        loop.swap(result);
+    };
+    const auto atX = [](double x) {
+        return [x](const Point2& a, const Point2& b) {
+            return Point2{x, a.y + (b.y - a.y) * (x - a.x) / (b.x - a.x)};
+        };
+    };
+    const auto atY = [](double y) {
+        return [y](const Point2& a, const Point2& b) {
+            return Point2{a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y), y};
+        };
+    };
+    cut([&](const Point2& p) { return p.x >= frame.left; }, atX(frame.left));
+    cut([&](const Point2& p) { return p.x <= frame.right; }, atX(frame.right));
+    cut([&](const Point2& p) { return p.y >= frame.top; }, atY(frame.top));
+    cut([&](const Point2& p) { return p.y <= frame.bottom; }, atY(frame.bottom));
+}
+
+}  // namespace
+
+Renderer::Renderer(Picture& picture, Canvas& canvas, const RenderOptions& options)
+    : picture_(picture), canvas_(canvas), options_(options), clip_(options.frame) {}
+
+void Renderer::startSpace(const Projection& projection) {
+    rootScale_ = projection.scale();
+    clip_ = options_.frame;
+}
+
+void Renderer::drawTop(const DisplayList& list, const Item& item, const Projection& projection) {
+    drawItem({list, projection, {}, true, 0}, item);
+}
+
+void Renderer::drawItem(BlockId space, std::size_t item, const Projection& projection) {
+    const DisplayList& list = picture_.list(space);
+    startSpace(projection);
+    drawTop(list, list.items[item], projection);
+}
+
+void Renderer::drawList(const DisplayList& list, const Projection& projection) {
+    startSpace(projection);
+    for (const Item& item : list.items) drawTop(list, item, projection);
+}
+
+void Renderer::drawTexts(const DisplayList& list, const Projection& projection) {
+    startSpace(projection);
+    for (const Text& text : list.texts) drawText({list, projection, {}, true, 0}, text);
+}
+
+void Renderer::drawBlock(BlockId block, const Projection& projection, const Context& context) {
+    startSpace(projection);
+    drawList({picture_.list(block), projection, context, true, 0});
+}
+
+void Renderer::drawList(const State& state) {
+    for (const Item& item : state.list.items) {
+        if (++steps_ > kMostSteps) return;
+        drawItem(state, item);
+    }
+}
+
+bool Renderer::isFrozen(const Item& item) const {
+    return frozen_ != nullptr && item.layer < frozen_->size() && (*frozen_)[item.layer] && !item.onLayerZero;
+}
+
+void Renderer::drawItem(const State& state, const Item& item) {
+    const Frame where = item.bounds.empty() ? Frame{} : state.projection.apply(item.bounds);
+    if (!item.isEndless) {
+        if (where.empty() || !where.meets(clip_)) return;
+        if (isFrozen(item)) return;
+        if (where.width() < options_.smallest && where.height() < options_.smallest) {
+            drawDot(state, item, where);
+            return;
+        }
+    }
+    const bool shown = state.showsZero || !item.onLayerZero;
+    const DisplayList& list = state.list;
+    if (shown) {
+        if (item.viewport != Item::kNone && !inViewport_) drawViewport(state, list.viewports[item.viewport]);
+        for (std::uint32_t i = item.firstFill; i < item.fillEnd; ++i) drawFill(state, list.fills[i]);
+        for (std::uint32_t i = item.firstStroke; i < item.strokeEnd; ++i) drawStroke(state, list.strokes[i]);
+        for (std::uint32_t i = item.firstText; i < item.textEnd; ++i) drawText(state, list.texts[i]);
+        for (std::uint32_t i = item.firstMark; i < item.markEnd; ++i) drawMark(state, list.marks[i]);
+    }
+    if (item.placement != Item::kNone) drawPlacement(state, item, list.placements[item.placement]);
+}
+
+void Renderer::drawDot(const State& state, const Item& item, const Frame& where) {
+    if (item.onLayerZero && !state.showsZero) return;
+    const DisplayList& list = state.list;
+    PenId pen = 0;
+    if (item.firstStroke < item.strokeEnd) {
+        pen = list.strokes[item.firstStroke].pen;
+    } else if (item.firstFill < item.fillEnd) {
+        pen = list.fills[item.firstFill].pen;
+    } else if (item.firstText < item.textEnd) {
+        pen = list.texts[item.firstText].pen;
+    } else if (item.firstMark < item.markEnd) {
+        pen = list.marks[item.firstMark].pen;
+    } else if (item.placement != Item::kNone) {
+        setInk({state.context.resolve(list.placements[item.placement].pen).color, 0});
+        canvas_.dot({where.left, where.top});
+        return;
+    } else {
+        return;
+    }
+    setInk({state.context.resolve(picture_.pens()[pen]).color, 0});
+    canvas_.dot({where.left, where.top});
+}
+
+void Renderer::drawPlacement(const State& state, const Item& item, const Placement& placement) {
+    if (state.depth >= kDeepest) return;
+    const shapes::Placed& placed = placement.placed;
+    const DisplayList& list = picture_.list(placed.block);
+    if (list.items.empty()) return;
+    Context context;
+    context.reference = state.context.resolve(placement.pen);
+    context.referenceLayer = item.onLayerZero ? state.context.referenceLayer : placement.layer;
+    const bool showsZero = item.onLayerZero ? state.showsZero : !item.hidesZero;
+    const Point3& base = picture_.drawing().blocks()[placed.block].basePoint;
+    const auto drawCopy = [&](int column, int row) {
+        const Transform place = placedTransform(picture_.drawing(), placed, column, row);
+        canvas_.insertion(state.projection.apply(place.apply(base)));
+        drawList({list, state.projection * place, context, showsZero, state.depth + 1});
+    };
+    const drawing::Placement& array = placed.placement;
+    if (array.columns <= 1 && array.rows <= 1) return drawCopy(0, 0);
+    // Of a large array only the copies on the picture are gone through.
+    const auto at = [&](int column, int row) {
+        const Transform place = placedTransform(picture_.drawing(), placed, column, row);
+        return state.projection * place;
+    };
+    const Projection origin = at(0, 0);
+    const auto step = [&](const Projection& to) {
+        return Vector3{to.origin.x - origin.origin.x, to.origin.y - origin.origin.y, 0};
+    };
+    const Frame frame = list.bounds.empty() ? Frame{} : origin.apply(list.bounds);
+    const Box first{{frame.left, frame.top, 0}, {frame.right, frame.bottom, 0}};
+    const geometry::Rectangle area({clip_.left, clip_.top, 0}, {clip_.right, clip_.bottom, 0});
+    const shapes::CellRange cells = shapes::cellsNear(array, first, step(at(1, 0)), step(at(0, 1)), area);
+    for (int column = cells.columnBegin; column < cells.columnEnd; ++column) {
+        for (int row = cells.rowBegin; row < cells.rowEnd; ++row) {
+            if (++steps_ > kMostSteps) return;
+            drawCopy(column, row);
+        }
+    }
+}
+
+void Renderer::drawViewport(const State& state, const Viewport& viewport) {
+    std::vector<Point2> polygon;
+    Frame frame;
+    const double x = viewport.width / 2;
+    const double y = viewport.height / 2;
+    for (const auto& [dx, dy] : {std::pair(-x, -y), std::pair(x, -y), std::pair(x, y), std::pair(-x, y)}) {
+        polygon.push_back(state.projection.apply(viewport.center + Vector3{dx, dy, 0}));
+        frame.add(polygon.back());
+    }
+    if (!frame.meets(clip_)) return;
+    const std::vector<drawing::Layer>& layers = picture_.drawing().layers().all();
+    std::vector<bool> frozen(layers.size());
+    for (const drawing::Handle handle : viewport.frozen) {
+        const EntityId record = picture_.drawing().byHandle(handle);
+        for (std::size_t i = 0; i < layers.size(); ++i) {
+            if (record != kNoEntity && layers[i].record == record) frozen[i] = true;
+        }
+    }
+    const Frame outerClip = clip_;
+    const double outerScale = rootScale_;
+    clip_ = {std::max(clip_.left, frame.left), std::max(clip_.top, frame.top),
+             std::min(clip_.right, frame.right), std::min(clip_.bottom, frame.bottom)};
+    frozen_ = &frozen;
+    inViewport_ = true;
+    canvas_.beginClip(polygon);
+    const Projection inner = state.projection * viewport.modelToPaper;
+    rootScale_ = inner.scale();
+    const BlockId model = picture_.drawing().modelSpace();
+    drawList({picture_.list(model), inner, {}, true, 0});
+    canvas_.endClip();
+    ink_.reset();
+    inViewport_ = false;
+    frozen_ = nullptr;
+    rootScale_ = outerScale;
+    clip_ = outerClip;
+}
+
+void Renderer::setInk(const Ink& ink) {
+    if (ink_ && *ink_ == ink) return;
+    ink_ = ink;
+    canvas_.setInk(ink);
+}
+
+/// Of a band `width` device units wide, or of a line by its weight. Returns whether it is a band that shows.
+bool Renderer::setStrokeInk(const Look& look, double width) {
+    if (width >= 1.2) {
+        setInk({look.color, width, 1, true});
+        return true;
+    }
+    const double weight =
+        options_.pixelsPerMillimetre ? look.weight / 100.0 * *options_.pixelsPerMillimetre : 0;
+    setInk({look.color, weight < 1 ? 0 : weight, 1, false});
+    return false;
+}
+
+void Renderer::emitPolyline(std::span<const Point2> points) {
+    const Frame safe = clip_.widened(kFarOutside);
+    if (std::all_of(points.begin(), points.end(), [&](const Point2& p) { return safe.contains(p); })) {
+        canvas_.polyline(points);
+    } else {
+        clipPolyline(points, clip_.widened(ink_->width + 4),
+                     [&](std::span<const Point2> part) { canvas_.polyline(part); });
+    }
+}
+
+void Renderer::strokePoints(const Look& look, double lineTypeScale) {
+    if (points_.size() < 2) return;
+    const LineType& type = picture_.lineTypes()[look.lineType];
+    const double scale = picture_.lineTypes().scale() * lineTypeScale * rootScale_;
+    if (options_.solidLines || type.elements.empty() || type.length * scale < kFinestPattern) {
+        emitPolyline(points_);
+        return;
+    }
+    dashPolyline(points_, type, scale, clip_.widened(ink_->width + 4),
+                 [&](std::span<const Point2> part) { canvas_.polyline(part); });
+}
+
+void Renderer::arcPoints(const Projection& projection, std::span<const Point3> arc) {
+    constexpr double kSagitta = 0.12;
+    constexpr int kMostChords = 4096;
+    const Point2 center = projection.apply(arc[0]);
+    const Point2 cosine = projection.applyDirection(arc[1]);
+    const Point2 sine = projection.applyDirection(arc[2]);
+    const double start = arc[3].x;
+    const double sweep = arc[3].y - start;
+    const double radius = std::max(std::hypot(cosine.x, cosine.y), std::hypot(sine.x, sine.y));
+    const double step = radius > kSagitta ? 2 * std::acos(1 - kSagitta / radius) : geometry::kPi / 2;
+    const double wanted = std::ceil(std::abs(sweep) / std::max(step, 1e-6));
+    const int count = static_cast<int>(std::clamp(wanted, 1.0, static_cast<double>(kMostChords)));
+    points_.clear();
+    points_.reserve(static_cast<std::size_t>(count) + 1);
+    for (int i = 0; i <= count; ++i) {
+        const double t = start + sweep * i / count;
+        const double c = std::cos(t);
+        const double s = std::sin(t);
+        points_.push_back({center.x + cosine.x * c + sine.x * s, center.y + cosine.y * c + sine.y * s});
+    }
+}
+
+void Renderer::drawStroke(const State& state, const Stroke& stroke) {
+    const std::span<const Point3> own = state.list.pointsOf(stroke);
+    const Pen& pen = picture_.pens()[stroke.pen];
+    const Look look = state.context.resolve(pen);
+    canvas_.curve(stroke, own, state.projection);
+    points_.clear();
+    switch (stroke.kind) {
+        case Stroke::Kind::Arc:
+            arcPoints(state.projection, own);
+            break;
+        case Stroke::Kind::Polyline:
+            for (const Point3& point : own) points_.push_back(state.projection.apply(point));
+            break;
+        case Stroke::Kind::Ray:
+        case Stroke::Kind::XLine: {
+            const Point2 base = state.projection.apply(own[0]);
+            const Point2 direction = state.projection.applyDirection(own[1]);
+            const double size = std::hypot(direction.x, direction.y);
+            if (!(size > 0)) return;
+            const double reach = (std::abs(base.x) + std::abs(base.y) + clip_.width() + clip_.height() +
+                                  std::abs(clip_.left) + std::abs(clip_.top)) /
+                                 size;
+            const double back = stroke.kind == Stroke::Kind::Ray ? 0 : reach;
+            points_.push_back({base.x - direction.x * back, base.y - direction.y * back});
+            points_.push_back({base.x + direction.x * reach, base.y + direction.y * reach});
+            if (!clipLine(clip_.widened(4), points_[0], points_[1])) return;
+            break;
+        }
+    }
+    const double scale = state.projection.scale();
+    if (stroke.startWidth != stroke.endWidth && std::max(stroke.startWidth, stroke.endWidth) * scale > 1.2) {
+        setStrokeInk(look, 0);
+        strokeTapered(stroke, scale);
+        return;
+    }
+    setStrokeInk(look, std::max(stroke.startWidth, stroke.endWidth) * scale);
+    strokePoints(look, pen.lineTypeScale);
+}
+
+/// A band that grows or shrinks: one area about its points.
+void Renderer::strokeTapered(const Stroke& stroke, double scale) {
+    double length = 0;
+    for (std::size_t i = 1; i < points_.size(); ++i) {
+        length += std::hypot(points_[i].x - points_[i - 1].x, points_[i].y - points_[i - 1].y);
+    }
+    if (!(length > 0)) return;
+    scratch_.assign(points_.size() * 2, {});
+    double along = 0;
+    for (std::size_t i = 0; i < points_.size(); ++i) {
+        const Point2& from = points_[i == 0 ? 0 : i - 1];
+        const Point2& to = points_[std::min(i + 1, points_.size() - 1)];
+        if (i > 0) along += std::hypot(points_[i].x - points_[i - 1].x, points_[i].y - points_[i - 1].y);
+        const double size = std::max(std::hypot(to.x - from.x, to.y - from.y), 1e-12);
+        const double width = stroke.startWidth + (stroke.endWidth - stroke.startWidth) * along / length;
+        const double x = -(to.y - from.y) / size * width * scale / 2;
+        const double y = (to.x - from.x) / size * width * scale / 2;
+        scratch_[i] = {points_[i].x + x, points_[i].y + y};
+        scratch_[scratch_.size() - 1 - i] = {points_[i].x - x, points_[i].y - y};
+    }
+    const std::uint32_t end = static_cast<std::uint32_t>(scratch_.size());
+    canvas_.fill(scratch_, std::span(&end, 1));
+}
+
+void Renderer::drawFill(const State& state, const Fill& fill) {
+    const Look look = state.context.resolve(picture_.pens()[fill.pen]);
+    const bool isPattern = fill.spacing > 0;
+    if (isPattern && fill.spacing * state.projection.scale() >= kFinestHatch &&
+        fill.lineEnd > fill.firstLine) {
+        for (std::uint32_t i = fill.firstLine; i < fill.lineEnd; ++i)
+            drawStroke(state, state.list.strokes[i]);
+        return;
+    }
+    const Frame safe = clip_.widened(kFarOutside);
+    points_.clear();
+    ends_.clear();
+    std::uint32_t begin = 0;
+    for (const std::uint32_t end : state.list.endsOf(fill)) {
+        scratch_.clear();
+        bool outside = false;
+        for (std::uint32_t i = begin; i < end; ++i) {
+            scratch_.push_back(state.projection.apply(state.list.points[fill.first + i]));
+            outside = outside || !safe.contains(scratch_.back());
+        }
+        if (outside) clipLoop(scratch_, clip_.widened(8));
+        points_.insert(points_.end(), scratch_.begin(), scratch_.end());
+        ends_.push_back(static_cast<std::uint32_t>(points_.size()));
+        begin = end;
+    }
+    setInk({look.color, 0, isPattern ? kToneOpacity : 1, false});
+    if (fill.covers) {
+        canvas_.cover(points_, ends_);
+    } else {
+        canvas_.fill(points_, ends_);
+    }
+}
+
+void Renderer::drawText(const State& state, const Text& text) {
+    const Transform& frame = text.piece.frame;
+    const PlacedText placed{text.piece, state.projection.apply(frame.origin),
+                            state.projection.applyDirection(frame.xAxis),
+                            state.projection.applyDirection(frame.yAxis)};
+    setInk({state.context.resolve(picture_.pens()[text.pen]).color, 0});
+    const double height = std::hypot(placed.up.x, placed.up.y);
+    if (height >= options_.legible) {
+        canvas_.text(placed);
+        return;
+    }
+    // Too small to be read: a line at half its height.
+    const Point2 from{placed.origin.x + placed.up.x / 2, placed.origin.y + placed.up.y / 2};
+    const Point2 to{from.x + placed.along.x * text.piece.width, from.y + placed.along.y * text.piece.width};
+    setInk({ink_->color, 0, 0.5});
+    canvas_.polyline(std::vector<Point2>{from, to});
+}
+
+void Renderer::drawMark(const State& state, const Mark& mark) {
+    enum : int { kDot = 0, kNothing = 1, kPlus = 2, kCross = 3, kTick = 4, kCircle = 32, kSquare = 64 };
+    const PointStyle& style = picture_.pointStyle();
+    const Point2 at = state.projection.apply(mark.at);
+    setInk({state.context.resolve(picture_.pens()[mark.pen]).color, 0});
+    const int figure = style.mode & 31;
+    const double percent = style.size < 0 ? -style.size : 5;
+    const double size =
+        style.size > 0 ? style.size * state.projection.scale() : percent / 100 * options_.frame.height();
+    const double half = size / 2;
+    const auto line = [&](double x1, double y1, double x2, double y2) {
+        const Point2 ends[] = {{at.x + x1, at.y + y1}, {at.x + x2, at.y + y2}};
+        emitPolyline(ends);
+    };
+    if (figure == kDot || half < 1) canvas_.dot(at);
+    if (half < 1) return;
+    if (figure == kPlus) {
+        line(-size, 0, size, 0);
+        line(0, -size, 0, size);
+    } else if (figure == kCross) {
+        line(-size, -size, size, size);
+        line(-size, size, size, -size);
+    } else if (figure == kTick) {
+        line(0, 0, 0, -half);
+    }
+    if ((style.mode & kCircle) != 0) {
+        Projection round;
+        round.toX = {half, 0, 0};
+        round.toY = {0, half, 0};
+        round.origin = at;
+        const Point3 unit[] = {{}, {1, 0, 0}, {0, 1, 0}, {0, 2 * geometry::kPi, 0}};
+        arcPoints(round, unit);
+        emitPolyline(points_);
+    }
+    if ((style.mode & kSquare) != 0) {
+        line(-half, -half, half, -half);
+        line(half, -half, half, half);
+        line(half, half, -half, half);
+        line(-half, half, -half, -half);
+    }
+}
+
+}  // namespace picture

@@ -1,0 +1,121 @@
+#include "desk/shapes/block_shapes.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace shapes {
+
+namespace {
+
+/// Beyond this no drafter nests blocks; it keeps a damaged drawing from exhausting the stack.
+constexpr int kDeepestNesting = 100;
+
+}  // namespace
+
+BlockShapes::BlockShapes(const Drawing& drawing) : drawing_(drawing) { clear(); }
+
+void BlockShapes::clear() {
+    shapes_.clear();
+    shapes_.resize(drawing_.blocks().size());
+    open_.assign(shapes_.size(), false);
+    lackedBlock_ = false;
+}
+
+std::optional<Placed> BlockShapes::placed(EntityId id) {
+    std::optional<Placed> placed = readPlaced(drawing_, id);
+    if (!placed && drawing_.type(id) == "INSERT") lackedBlock_ = true;
+    return placed;
+}
+
+std::vector<bool> BlockShapes::forget(const std::vector<BlockId>& changed) {
+    if (changed.empty()) return {};
+    shapes_.resize(drawing_.blocks().size());
+    open_.resize(shapes_.size());
+    std::vector<std::vector<BlockId>> holders(shapes_.size());
+    for (BlockId block = 0; block < shapes_.size(); ++block) {
+        if (!shapes_[block]) continue;
+        for (const ShapeItem& item : shapes_[block]->items) {
+            if (item.placed) holders[item.placed->block].push_back(block);
+        }
+    }
+    std::vector<bool> outdated(shapes_.size());
+    std::vector<BlockId> open = changed;
+    while (!open.empty()) {
+        const BlockId block = open.back();
+        open.pop_back();
+        if (outdated[block]) continue;
+        outdated[block] = true;
+        shapes_[block].reset();
+        open.insert(open.end(), holders[block].begin(), holders[block].end());
+    }
+    return outdated;
+}
+
+const BlockShape& BlockShapes::of(BlockId block) {
+    static const BlockShape kEmpty;
+    if (block >= shapes_.size() || open_[block] || depth_ >= kDeepestNesting) return kEmpty;
+    if (!shapes_[block]) {
+        open_[block] = true;
+        ++depth_;
+        auto shape = std::make_unique<BlockShape>(read(block));
+        --depth_;
+        open_[block] = false;
+        shapes_[block] = std::move(shape);
+    }
+    return *shapes_[block];
+}
+
+BlockShape BlockShapes::read(BlockId block) {
+    BlockShape shape;
+    drawing_.forEachEntity(block, [&](EntityId id) {
+        addEntity(shape, id);
+        return true;
+    });
+    return shape;
+}
+
+void BlockShapes::addEntity(BlockShape& shape, EntityId id) {
+    const Layer& layer = drawing_.layer(id);
+    ShapeItem item;
+    item.onLayerZero = drawing_.layerName(id) == "0";
+    item.placed = placed(id);
+    // What is on layer 0 follows the layer of the reference instead.
+    if (!item.onLayerZero && (layer.frozen || (layer.off && !item.placed))) return;
+    if (drawing_.isInvisible(id)) return;
+    item.hidesZero = !item.onLayerZero && layer.off;
+    if (drawing_.type(id) == "ATTDEF") {
+        if (!drawing_.attribute(id).isConstant()) return;
+        item.geometry = readConstantText(drawing_, id);
+    } else {
+        item.geometry = readGeometry(drawing_, id);
+    }
+    for (const EntityId attribute : drawing_.attributes(id)) {
+        if (!drawing_.isDisplayed(attribute)) continue;
+        Geometry text = readGeometry(drawing_, attribute);
+        std::move(text.fills.begin(), text.fills.end(), std::back_inserter(item.geometry.fills));
+    }
+    item.bounds = item.geometry.bounds();
+    if (item.placed) item.bounds.add(placedBounds(*this, *item.placed));
+    // A placed block that draws nothing yet may come to draw something.
+    if (item.bounds.empty() && !item.placed) return;
+    shape.bounds.add(item.bounds);
+    shape.items.push_back(std::move(item));
+}
+
+Box placedBounds(BlockShapes& shapes, const Placed& placed) {
+    const Box& own = shapes.of(placed.block).bounds;
+    Box result;
+    for (int column : {0, std::max(placed.placement.columns, 1) - 1}) {
+        for (int row : {0, std::max(placed.placement.rows, 1) - 1}) {
+            result.add(own.transformed(placedTransform(shapes, placed, column, row)));
+        }
+    }
+    return result;
+}
+
+Transform placedTransform(const BlockShapes& shapes, const Placed& placed, int column, int row) {
+    const Point3& base = shapes.drawing().blocks()[placed.block].basePoint;
+    return referenceTransform(placed.placement, base, column, row);
+}
+
+}  // namespace shapes

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "desk/shapes/geometry.h"
+#include "desk/shapes/names.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace shapes {
+
+/// One thing that a block draws: a geometry of its own or another block.
+struct ShapeItem {
+    Geometry geometry;
+    std::optional<Placed> placed;
+    Box bounds;  ///< in the block's coordinates
+    /// On layer 0, so it is shown where the reference's layer is on. A nested reference on another layer
+    /// that is off hides only what its block has on layer 0, see `hidesZero`.
+    bool onLayerZero = false;
+    bool hidesZero = false;
+};
+
+/// What a block draws, in its own coordinates.
+struct BlockShape {
+    std::vector<ShapeItem> items;
+    Box bounds;
+};
+
+/// The shapes of a drawing's blocks, each read when it is first asked for. They stand for the drawing as it
+/// is then: after a change, `forget` what is out of date (shapes::sceneOf does).
+class BlockShapes {
+  public:
+    explicit BlockShapes(const Drawing& drawing);
+    /// A block that stands in itself, or nests too deeply, is empty there.
+    const BlockShape& of(BlockId block);
+    const Drawing& drawing() const { return drawing_; }
+
+    /// The block that an entity shows, see `readPlaced`.
+    std::optional<Placed> placed(EntityId id);
+    /// Whether a reference was met whose block the drawing lacks.
+    bool lackedBlock() const { return lackedBlock_; }
+    /// Gives up the shapes of these blocks and of all in which they stand, at any depth. Tells by number of
+    /// the block which ones; empty where none.
+    std::vector<bool> forget(const std::vector<BlockId>& changed);
+    void clear();
+
+  private:
+    BlockShape read(BlockId block);
+    void addEntity(BlockShape& shape, EntityId id);
+
+    const Drawing& drawing_;
+    std::vector<std::unique_ptr<BlockShape>> shapes_;
+    std::vector<bool> open_;  ///< being read
+    int depth_ = 0;
+    bool lackedBlock_ = false;
+};
+
+/// The box about all copies of a placed block, in the coordinates of where it is placed.
+Box placedBounds(BlockShapes& shapes, const Placed& placed);
+/// The transform of one copy.
+Transform placedTransform(const BlockShapes& shapes, const Placed& placed, int column, int row);
+
+}  // namespace shapes

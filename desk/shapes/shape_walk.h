@@ -1,0 +1,55 @@
+#pragma once
+
+#include "desk/shapes/block_shapes.h"
+#include "desk/shapes/names.h"
+
+#include <cstddef>
+#include <functional>
+#include <utility>
+
+namespace shapes {
+
+/// Copies of an array: columns and rows from 0, the ends behind the last ones.
+struct CellRange {
+    int columnBegin = 0;
+    int columnEnd = 1;
+    int rowBegin = 0;
+    int rowEnd = 1;
+};
+/// The copies of a placed block whose box, `first` at column and row 0, may meet `area`; `columnStep` and
+/// `rowStep` lead from a copy to the next.
+CellRange cellsNear(const Placement& placement, const Box& first, const Vector3& columnStep,
+                    const Vector3& rowStep, const Rectangle& area);
+
+/// Goes through what a placed block draws, nested blocks included, where it may meet a rectangle.
+class ShapeWalk {
+  public:
+    /// What is visited: a geometry and its place in the world. Returning false ends the walk.
+    using Visit = std::function<bool(const Geometry&, const Transform&)>;
+
+    /// Which copies of arrays are gone through: those near the rectangle, or those at the corners of the
+    /// array, which suffice to tell how far it reaches.
+    enum class Copies { Near, Corners };
+
+    ShapeWalk(BlockShapes& shapes, const Rectangle& area, Copies copies, Visit visit)
+        : shapes_(shapes), area_(area), copies_(copies), visit_(std::move(visit)) {}
+
+    /// Walks one reference of the space. `showsZero` is false where its layer is off, so that the content on
+    /// layer 0 isn't drawn. Returns false where the visitor ended the walk.
+    bool walk(const Placed& placed, bool showsZero);
+
+  private:
+    bool walk(const Placed& placed, const Transform& outer, bool showsZero, int depth);
+    bool walkArray(const Placed& placed, const Transform& outer, bool showsZero, int depth);
+    bool walkCopy(const Placed& placed, const Transform& toWorld, bool showsZero, int depth);
+    bool walkItems(const BlockShape& shape, const Transform& toWorld, bool showsZero, int depth);
+    bool mayMeet(const Box& box) const;
+
+    BlockShapes& shapes_;
+    Rectangle area_;
+    Copies copies_;
+    Visit visit_;
+    std::size_t steps_ = 0;
+};
+
+}  // namespace shapes

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "desk/drawing/drawing.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace shell {
+
+/// A block definition that is no space, with the number of its references in model space and all layouts;
+/// those inside other blocks aren't counted.
+struct BlockLine {
+    std::string name;
+    std::size_t references = 0;
+    bool isXRef = false;
+};
+std::vector<BlockLine> listBlocks(const drawing::Drawing& drawing);
+
+/// A reference as a list tells it; numbers with a decimal point.
+struct ReferenceLine {
+    std::string handle;
+    std::string layout;  ///< "Model", or the layout's name
+    std::string layer;
+    std::string x, y, z;
+    std::string attributes;  ///< "TAG=value", parted by blanks
+};
+/// The references of a block in model space and all layouts.
+std::vector<ReferenceLine> listReferences(const drawing::Drawing& drawing, std::string_view block);
+
+}  // namespace shell

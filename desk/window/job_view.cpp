@@ -1,0 +1,276 @@
+#include "desk/window/job_view.h"
+
+#include "basic/error.h"
+#include "desk/window/canvas_prompter.h"
+#include "desk/window/drawing_lists.h"
+#include "forms/controls.h"
+#include "forms/form.h"
+
+#include <QTimer>
+#include <algorithm>
+#include <unordered_set>
+
+namespace window {
+
+namespace {
+
+using drawing::EntityId;
+
+template <typename T>
+T* find(forms::Form* form, const char* name) {
+    return form == nullptr ? nullptr : dynamic_cast<T*>(form->findControl(name));
+}
+
+QString textOf(const std::string& text) { return QString::fromStdString(text); }
+
+/// The text of a combo or a list; empty for what is none.
+QString chosenText(forms::Form* form, const char* name) {
+    if (auto* list = find<forms::ListBox>(form, name)) return textOf(list->text());
+    if (auto* combo = find<forms::ComboBox>(form, name)) return textOf(combo->text());
+    return {};
+}
+
+bool isOn(forms::Form* form, const char* name) {
+    if (auto* check = find<forms::CheckBox>(form, name)) return check->value() == 1;
+    if (auto* option = find<forms::OptionButton>(form, name)) return option->value();
+    return false;
+}
+
+/// Above this number only base points are drawn of what is to come; the canvas knows, the legend stays.
+constexpr const char* kInsertionPrompt = "point d'insertion du bloc";
+
+}  // namespace
+
+JobView::JobView(Session& session, DialogWatch& watch, Canvas& canvas, CanvasPrompter& prompter,
+                 QObject* parent)
+    : QObject(parent), session_(session), watch_(watch), canvas_(canvas), prompter_(prompter) {
+    connect(&watch_, &DialogWatch::formChanged, this, &JobView::update);
+    connect(&watch_, &DialogWatch::shownChanged, this, [this] {
+        choosePrefilled();
+        update();
+    });
+    connect(&watch_, &DialogWatch::boxShown, this, [this] {
+        // The box tells the end of a run: by then it is known what the step did.
+        if (watch_.shown().empty()) return;
+        forms::Form* form = watch_.shown().back();
+        if (form->name() == "fmReplace")
+            nameStep(tr("Replacement of %1"), chosenText(form, "lstDestination"));
+        if (form->name() == "fmReInsert") nameStep(tr("Insertion of %1"), chosenText(form, "Combo1"));
+    });
+    prompter_.setPreparation([this](CanvasPrompt& prompt) { prepare(prompt); });
+}
+
+void JobView::prefill(const QString& command, const QString& block) {
+    prefillBlock_ = block;
+    if (command == "VNREPLACE") prefillForm_ = "fmReplace", prefillControl_ = "lstDestination";
+    if (command == "VNLABEL") prefillForm_ = "fmLabels", prefillControl_ = "Combo2";
+    if (command == "VNINSERT") prefillForm_ = "fmReInsert", prefillControl_ = "Combo1";
+    if (command == "VNEXTRACT") prefillForm_.clear();
+}
+
+void JobView::choosePrefilled() {
+    if (prefillForm_.isEmpty() || watch_.shown().empty()) return;
+    forms::Form* form = watch_.shown().back();
+    if (textOf(form->name()) != prefillForm_) return;
+    prefillForm_.clear();
+    auto* list = dynamic_cast<forms::ListControl*>(form->findControl(prefillControl_.toStdString()));
+    for (int i = 0; list != nullptr && i < list->listCount(); ++i) {
+        if (textOf(list->list(i)).compare(prefillBlock_, Qt::CaseInsensitive) != 0) continue;
+        try {
+            list->setListIndex(i);
+        } catch (const basic::Error& error) {
+            session_.tell(textOf(error.description()));
+        }
+        return;
+    }
+}
+
+void JobView::update() {
+    if (scheduled_ || held_) return;
+    scheduled_ = true;
+    QTimer::singleShot(0, this, [this] {
+        scheduled_ = false;
+        if (!held_) showNow();
+    });
+}
+
+void JobView::hold(bool on) {
+    held_ = on;
+    if (!on) update();
+}
+
+void JobView::end() {
+    prefillForm_.clear();
+    marks_ = {};
+    canvas_.setMarks(marks_);
+    if (pageShown_) emit replacementGone();
+    pageShown_ = false;
+}
+
+void JobView::showNow() {
+    if (!session_.isRunning() || !session_.hasDrawing()) return;
+    forms::Form* form = watch_.shown().empty() ? nullptr : watch_.shown().back();
+    const QString name = form == nullptr ? QString() : textOf(form->name());
+    canvas_.drawingChanged();
+    if (name == "fmReplace") return showReplacement(*form);
+    if (name == "fmAttSet" && watch_.find("fmReplace") != nullptr)
+        return showReplacement(*watch_.find("fmReplace"));
+    if (name == "fmExtract") return showExtraction(*form);
+    if (form == nullptr) {
+        marks_ = {};
+        canvas_.setMarks(marks_);
+        emit marksChanged({});
+    }
+}
+
+std::vector<EntityId> JobView::replaced(const QString& block, bool wholeDrawing) const {
+    std::vector<EntityId> all = entitiesNamed(session_.drawing(), block.toStdString());
+    if (wholeDrawing) return all;
+    const std::vector<EntityId>& zone = prompter_.lastSelection();
+    const std::unordered_set<EntityId> inZone(zone.begin(), zone.end());
+    std::erase_if(all, [&inZone](EntityId id) { return !inZone.contains(id); });
+    return all;
+}
+
+void JobView::showReplacement(forms::Form& form) {
+    const drawing::Drawing& drawing = session_.drawing();
+    const QString from = chosenText(&form, "lstDestination");
+    const QString chosen = chosenText(&form, "CboBlocReplacer");
+    const drawing::BlockId to = drawing.blocks().find(chosen.toStdString());
+    marks_ = {};
+    if (!from.isEmpty()) marks_.lit = replaced(from, isOn(&form, "optZoneAll"));
+    marks_.stepsBack = true;
+    marks_.toCome = to;
+    if (!marks_.lit.empty()) marks_.legend = tr("%1, %2 lit").arg(from).arg(marks_.lit.size());
+    if (to != drawing::kNoBlock && !marks_.lit.empty()) marks_.legendToCome = tr("%1 to come").arg(chosen);
+    canvas_.setMarks(marks_);
+    emit replacementShown(replacementView(form, from, to == drawing::kNoBlock ? QString() : chosen));
+    pageShown_ = true;
+    const auto hidden = std::count_if(marks_.lit.begin(), marks_.lit.end(),
+                                      [&drawing](EntityId id) { return !drawing.common(id).visible; });
+    emit marksChanged(tr("%1 lit").arg(marks_.lit.size()) + "   " +
+                      tr("%1 in view, %2 invisible").arg(canvas_.inView(marks_.lit)).arg(hidden));
+}
+
+std::size_t JobView::countOf(const QString& block) {
+    const drawing::Drawing& drawing = session_.drawing();
+    if (countedRevision_ != drawing.revision()) counts_.clear();
+    countedRevision_ = drawing.revision();
+    const auto known = counts_.find(block);
+    if (known != counts_.end()) return known->second;
+    return counts_[block] = referencesOf(drawing, block.toStdString()).size();
+}
+
+ReplacementView JobView::replacementView(forms::Form& form, const QString& from, const QString& to) {
+    const drawing::Drawing& drawing = session_.drawing();
+    const drawing::BlockTable& blocks = drawing.blocks();
+    const drawing::BlockId fromBlock = blocks.find(from.toStdString());
+    const drawing::BlockId toBlock = to.isEmpty() ? drawing::kNoBlock : blocks.find(to.toStdString());
+    ReplacementView view;
+    view.from = from;
+    view.to = to;
+    const QSize box = ReplacementPage::pictureBox();
+    double scale = 0;  // both at one scale, so that they can be compared
+    for (const drawing::BlockId block : {fromBlock, toBlock}) {
+        if (block != drawing::kNoBlock) scale = std::max(scale, canvas_.fittingScale(block, box));
+    }
+    const Scheme scheme = schemeOf(canvas_.palette());
+    if (fromBlock != drawing::kNoBlock) {
+        view.fromPicture = canvas_.blockPicture(fromBlock, box, color(Token::Select, scheme), true, scale);
+        view.fromReferences = countOf(from);
+    }
+    if (toBlock != drawing::kNoBlock) {
+        view.toPicture = canvas_.blockPicture(toBlock, box, color(Token::Preview, scheme), true, scale);
+        view.toReferences = countOf(to);
+    }
+    if (fromBlock != drawing::kNoBlock && toBlock != drawing::kNoBlock) {
+        // The table counts for the two blocks that it was built for, and when it is to be used at all.
+        forms::Form* table = isOn(&form, "ChkAttSet") ? watch_.find("fmAttSet") : nullptr;
+        auto* built = find<forms::Label>(table, "Label1");
+        auto* builtTo = find<forms::Label>(table, "Label2");
+        const bool fits = built != nullptr && builtTo != nullptr && textOf(built->caption()) == from &&
+                          textOf(builtTo->caption()) == to;
+        auto* rows = fits ? find<forms::ListView>(table, "ListView1") : nullptr;
+        int row = 0;
+        for (const EntityId definition : blocks[fromBlock].attributeDefinitions) {
+            ++row;
+            const bool known = rows != nullptr && row <= rows->listItems().count();
+            view.values.emplace_back(textOf(drawing.attributeTag(definition)),
+                                     known ? textOf(rows->listItems().item(row).subItem(1)) : QString());
+        }
+    }
+    std::size_t invisible = 0;
+    std::map<drawing::BlockId, std::size_t> bySpace;
+    for (const EntityId id : marks_.lit) {
+        ++bySpace[drawing.owner(id)];
+        if (!drawing.common(id).visible) ++invisible;
+    }
+    for (drawing::BlockId space = 0; space < blocks.size(); ++space) {
+        if (blocks[space].isErased || !blocks[space].isLayout()) continue;
+        view.counts.emplace_back(textOf(std::string(blocks[space].shownLayoutName())),
+                                 QString::number(bySpace[space]));
+    }
+    view.counts.emplace_back(tr("Invisible"), QString::number(invisible));
+    const QString layer = textOf(drawing.header().text("$CLAYER").value_or("0"));
+    view.counts.emplace_back(tr("Come in on"), tr("layer %1").arg(layer));
+    view.note = tr("New references come in visible, on the current layer.");
+    if (invisible > 0) view.note += " " + tr("Invisible ones are lit dotted.");
+    return view;
+}
+
+/// The rows stand in the order of the zone that was selected last, so a row's number leads to its reference.
+void JobView::showExtraction(forms::Form& form) {
+    auto* table = find<forms::ListView>(&form, "ListView2");
+    auto* label = find<forms::Label>(&form, "Label1");
+    if (table == nullptr || label == nullptr) return;
+    const drawing::Drawing& drawing = session_.drawing();
+    marks_ = {};
+    marks_.stepsBack = true;
+    for (const EntityId id : prompter_.lastSelection()) {
+        if (!drawing.isErased(id) && drawing.type(id) == "INSERT" && drawing.name(id) == label->caption()) {
+            marks_.lit.push_back(id);
+        }
+    }
+    const int rows = table->listItems().count();
+    const bool fits = rows > 0 && static_cast<std::size_t>(rows) == marks_.lit.size();
+    if (!fits) marks_.lit.clear();
+    QString shown = tr("%1 rows").arg(rows);
+    if (fits && table->hasSelectedItem()) {
+        const int row = table->selectedItem().index();
+        marks_.shownRow = marks_.lit[static_cast<std::size_t>(row - 1)];
+        marks_.shownRowText = tr("Row %1 of %2").arg(row).arg(rows);
+        const std::vector<EntityId> attributes = drawing.attributes(marks_.shownRow);
+        if (!attributes.empty())
+            marks_.shownRowText += ", " + textOf(drawing.attributeText(attributes.front()));
+        shown += "   " + tr("row %1 shown").arg(row);
+    }
+    canvas_.setMarks(marks_);
+    if (marks_.shownRow != drawing::kNoEntity) canvas_.reveal(marks_.shownRow);
+    emit rowShown(marks_.shownRow);
+    emit marksChanged(rows == 0 ? QString() : shown);
+}
+
+void JobView::nameStep(const QString& name, const QString& block) {
+    if (!block.isEmpty() && session_.hasDrawing()) session_.drawing().nameStep(name.arg(block).toStdString());
+}
+
+void JobView::prepare(CanvasPrompt& prompt) {
+    if (!session_.hasDrawing()) return;
+    const drawing::BlockTable& blocks = session_.drawing().blocks();
+    if (forms::Form* form = watch_.find("fmReplace"); form != nullptr && prompt.asking == Asking::Selection) {
+        prompt.job = blocks.find(chosenText(form, "lstDestination").toStdString());
+    }
+    forms::Form* labels = watch_.find("fmLabels");
+    if (labels == nullptr || !prompt.text.contains(kInsertionPrompt)) return;
+    nameStep(tr("Labels of %1"), chosenText(labels, "Combo2"));
+    prompt.hanging = blocks.find(chosenText(labels, "Combo2").toStdString());
+    auto* rows = find<forms::ListView>(labels, "ListView1");
+    for (int row = 1; rows != nullptr && row <= rows->listItems().count(); ++row) {
+        const forms::ListItem& item = rows->listItems().item(row);
+        const QString value = textOf(item.subItem(2));
+        prompt.hangingValues.emplace_back(textOf(item.subItem(1)),
+                                          value.isEmpty() ? QString::fromUtf8("…") : value);
+    }
+}
+
+}  // namespace window

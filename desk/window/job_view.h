@@ -1,0 +1,73 @@
+#pragma once
+
+#include "desk/window/canvas.h"
+#include "desk/window/dialog_watch.h"
+#include "desk/window/job_page.h"
+#include "desk/window/session.h"
+
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <map>
+
+namespace window {
+
+class CanvasPrompter;
+
+/// Follows the dialogs of a command and shows beside them what they are about: the references that a
+/// replacement would take and both blocks, the reference of an extraction's row, the label that hangs at the
+/// cursor. The dialogs know nothing of it.
+class JobView : public QObject {
+    Q_OBJECT
+
+  public:
+    JobView(Session& session, DialogWatch& watch, Canvas& canvas, CanvasPrompter& prompter, QObject* parent);
+
+    /// The next dialog of the command is to open with this block chosen.
+    void prefill(const QString& command, const QString& block);
+    /// Brings marks and pages in line with the dialogs; gathered, once for many changes.
+    void update();
+    /// While the drawing is worked on nothing is shown; what changed is when the hold ends.
+    void hold(bool on);
+    /// All references that are lit now.
+    const std::vector<drawing::EntityId>& lit() const { return marks_.lit; }
+    /// Adds what the command in hand wants shown with a prompt.
+    void prepare(CanvasPrompt& prompt);
+    /// A command ends: the marks go.
+    void end();
+
+  signals:
+    /// The page of a replacement is to be shown; with nothing, the properties again.
+    void replacementShown(const window::ReplacementView& view);
+    void replacementGone();
+    /// The extraction's chosen row stands for this entity.
+    void rowShown(drawing::EntityId entity);
+    void marksChanged(const QString& text);
+
+  private:
+    void showNow();
+    void showReplacement(forms::Form& form);
+    void showExtraction(forms::Form& form);
+    void showInsertion(forms::Form& form);
+    void choosePrefilled();
+    void nameStep(const QString& name, const QString& block);
+    std::vector<drawing::EntityId> replaced(const QString& block, bool wholeDrawing) const;
+    ReplacementView replacementView(forms::Form& form, const QString& from, const QString& to);
+    std::size_t countOf(const QString& block);
+
+    Session& session_;
+    DialogWatch& watch_;
+    Canvas& canvas_;
+    CanvasPrompter& prompter_;
+    CanvasMarks marks_;
+    bool scheduled_ = false;
+    bool held_ = false;
+    bool pageShown_ = false;
+    QString prefillForm_;
+    QString prefillControl_;
+    QString prefillBlock_;
+    std::map<QString, std::size_t> counts_;  ///< references by block, of `countedRevision_`
+    std::uint64_t countedRevision_ = 0;
+};
+
+}  // namespace window

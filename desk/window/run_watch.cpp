@@ -1,0 +1,98 @@
+#include "desk/window/run_watch.h"
+
+#include "desk/shell/user_break.h"
+#include "desk/window/parts.h"
+#include "desk/window/status_line.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace window {
+
+namespace {
+
+constexpr qint64 kShowBusyAfter = 200;  // ms
+constexpr qint64 kOfferCancelAfter = 1000;
+constexpr qint64 kBetweenLooks = 40;
+
+bool isInput(QEvent::Type type) {
+    switch (type) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::ShortcutOverride:
+        case QEvent::ContextMenu:
+        case QEvent::Close:
+        case QEvent::Drop:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+RunWatch::RunWatch(BusyBar& bar, StatusLine& status, QObject* parent)
+    : QObject(parent), bar_(bar), status_(status) {
+    sinceTurn_.start();
+    sinceSeen_.start();
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this, &RunWatch::turned);
+    connect(&status_, &StatusLine::cancelAsked, this, [this] {
+        if (inside_) givenUp_ = true;
+    });
+}
+
+void RunWatch::reset() {
+    givenUp_ = false;
+    turned();
+}
+
+void RunWatch::turned() {
+    if (inside_) return;
+    sinceTurn_.restart();
+    if (!busy_) return;
+    busy_ = false;
+    QApplication::restoreOverrideCursor();
+    bar_.setBusy(false);
+    status_.endWork();
+    emit heldUp(false);
+}
+
+void RunWatch::breathe() {
+    if (givenUp_) throw shell::UserBreak();
+    if (inside_ || sinceSeen_.elapsed() < kBetweenLooks) return;
+    sinceSeen_.restart();
+    const qint64 elapsed = sinceTurn_.elapsed();
+    if (elapsed > kShowBusyAfter) letSee(elapsed);
+}
+
+void RunWatch::letSee(qint64 elapsed) {
+    inside_ = true;
+    if (!busy_) {
+        busy_ = true;
+        emit heldUp(true);
+        QApplication::setOverrideCursor(Qt::BusyCursor);
+        bar_.setBusy(true);
+    }
+    if (elapsed > kOfferCancelAfter) status_.showWork(tr("Working on the drawing"), -1, true);
+    qApp->installEventFilter(this);
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    qApp->removeEventFilter(this);
+    inside_ = false;
+}
+
+bool RunWatch::eventFilter(QObject* watched, QEvent* event) {
+    if (!isInput(event->type())) return false;
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        givenUp_ = true;
+        return true;
+    }
+    return watched != status_.cancelButton() && !(watched->isWindowType() && event->type() != QEvent::Close);
+}
+
+}  // namespace window

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "desk/model/document.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace fuzz {
+
+/// Answers every prompt with the same entity and point.
+class Answers : public model::Prompter {
+  public:
+    model::EntityPick getEntity(const drawing::Drawing&, const std::string&) override { return {}; }
+    model::PointPick getPoint(const std::optional<drawing::Point3>&, const std::string&) override {
+        return {model::Answer::Given, {1, 2, 0}};
+    }
+    model::AnglePick getAngle(const drawing::Point3&, const std::string&) override {
+        return {model::Answer::Given, 1};
+    }
+    model::SelectionPick selectEntities(const drawing::Drawing&, const std::string&) override {
+        return {model::Answer::Given, {}};
+    }
+    void message(const std::string&) override {}
+};
+
+/// A drawing behind its automation objects.
+class Document {
+  public:
+    explicit Document(std::unique_ptr<drawing::Drawing> drawing) {
+        model::Environment environment;
+        environment.prompter = &answers_;
+        environment.regional = basic::Regional::english();
+        application_ = std::make_shared<model::Application>(std::move(environment));
+        document_ = application_->open(std::move(drawing));
+    }
+    model::Document& operator*() const { return *document_; }
+    model::Document* operator->() const { return document_.get(); }
+
+  private:
+    Answers answers_;
+    std::shared_ptr<model::Application> application_;
+    std::shared_ptr<model::Document> document_;
+};
+
+/// Runs what may fail, as a command does that ignores errors.
+template <typename Act>
+void attempt(Act&& act) {
+    try {
+        act();
+    } catch (const basic::Error&) {
+    }
+}
+
+/// Asks each entity of model space, up to `most`, for everything that the add-in asks.
+inline void readEverything(const Document& document, std::size_t most = 300) {
+    std::size_t count = 0;
+    attempt([&] {
+        host::asObject(document->modelSpace())->enumerate([&](const basic::Variant& element) {
+            const host::ObjectPtr entity = host::asObject(element);
+            for (const char* member :
+                 {"ObjectName", "Layer", "Color", "length", "Perimeter", "Circumference", "Area", "Name",
+                  "InsertionPoint", "Rotation", "hasAttributes", "Handle"})
+                attempt([&] { entity->get(member); });
+            attempt([&] {
+                const basic::Variant attributes = entity->invoke("GetAttributes");
+                for (const basic::Variant& attribute : attributes.array())
+                    host::asObject(attribute)->get("TextString");
+            });
+            return ++count < most;
+        });
+    });
+}
+
+}  // namespace fuzz

@@ -1,0 +1,38 @@
+#include "host/object.h"
+
+namespace host {
+
+ObjectPtr asObject(const Variant& value) {
+    if (value.isNothing()) throw basic::Error(basic::kObjectNotSet);
+    ObjectPtr object = std::dynamic_pointer_cast<Object>(value.object());
+    if (object == nullptr) throw basic::Error(basic::kObjectRequired);
+    return object;
+}
+
+ObjectView::ObjectView(const Variant& value) : object_(value.isNothing() ? nullptr : asObject(value)) {}
+
+Object& ObjectView::target() const {
+    if (object_ == nullptr) throw basic::Error(basic::kObjectNotSet);
+    return *object_;
+}
+
+void ObjectView::enumerate(const std::function<bool(const ObjectPtr&)>& visit) const {
+    target().enumerate([&visit](const Variant& element) { return visit(asObject(element)); });
+}
+
+bool toBoolean(const Variant& value) { return value.number() != 0; }
+
+basic::Variant toVariant(const Point& point) { return basic::Doubles(point.begin(), point.end()); }
+
+Point toPoint(const basic::Variant& value) {
+    const auto three = [](const auto& elements, auto numberOf) {
+        if (elements.size() < 3) throw basic::Error(basic::kSubscript);
+        return Point{numberOf(elements[0]), numberOf(elements[1]), numberOf(elements[2])};
+    };
+    if (value.is(basic::Variant::Kind::VariantArray)) {
+        return three(value.array(), [](const basic::Variant& element) { return element.number(); });
+    }
+    return three(value.doubles(), [](double element) { return element; });
+}
+
+}  // namespace host

@@ -1,0 +1,162 @@
+#include "desk/window/blocks_panel.h"
+#include "desk/window/drawing_lists.h"
+#include "desk/window/layers_panel.h"
+#include "desk/window/parts.h"
+#include "desk/window/properties_panel.h"
+#include "desk/window/property_field.h"
+#include "tests/window/window_bench.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QSignalSpy>
+
+namespace window {
+namespace {
+
+using MainWindowTest = WindowTest;
+
+PropertyField* field(MainWindow& window, const QString& label) {
+    QTest::qWait(0);  // new rows are shown by the event loop
+    for (auto* each : window.propertiesPanel().findChildren<PropertyField*>()) {
+        if (each->isVisible() && each->accessibleName() == label) return each;
+    }
+    return nullptr;
+}
+
+TEST_F(MainWindowTest, AnEditedPropertyIsOneUndoStepForAllSelected) {
+    const std::string before = drawing().savedBytes();
+    const auto doors = referencesOf(drawing(), "PORTE_80");
+    window_->canvas().setSelection(doors);
+    emit window_->canvas().selectionChanged();
+    ASSERT_NE(field(*window_, "REPERE"), nullptr);
+    EXPECT_EQ(field(*window_, "REPERE")->placeholderText(), "varies");
+    PropertyField* width = field(*window_, "LARGEUR");
+    width->setFocus();
+    width->selectAll();
+    QTest::keyClicks(width, "83");
+    QTest::keyClick(width, Qt::Key_Return);
+    QTest::qWait(0);
+    for (const drawing::EntityId id : doors)
+        EXPECT_EQ(drawing().attributeText(drawing().attributes(id)[1]), "83");
+    EXPECT_TRUE(window_->windowTitle().startsWith(QString::fromUtf8("● apartment.dxf")));
+    EXPECT_TRUE(window_->action("undo")->text().endsWith("LARGEUR"));
+    window_->action("undo")->trigger();
+    EXPECT_EQ(drawing().savedBytes(), before);
+    EXPECT_FALSE(window_->windowTitle().startsWith(QString::fromUtf8("●")));
+    window_->action("redo")->trigger();
+    EXPECT_EQ(drawing().attributeText(drawing().attributes(doors[3])[1]), "83");
+    window_->action("undo")->trigger();
+}
+
+TEST_F(MainWindowTest, ARefusedValueChangesNothing) {
+    const std::string before = drawing().savedBytes();
+    window_->canvas().setSelection(referencesOf(drawing(), "PORTE_80"));
+    emit window_->canvas().selectionChanged();
+    for (const char* text : {"0", "abc"}) {
+        PropertyField* scale = field(*window_, "X scale");
+        ASSERT_NE(scale, nullptr);
+        scale->setFocus();
+        scale->setText(text);
+        QTest::keyClick(scale, Qt::Key_Return);
+        QTest::qWait(0);
+        EXPECT_EQ(drawing().savedBytes(), before) << text;
+    }
+    EXPECT_TRUE(window_->commandLine().historyText().contains("\"abc\" is no number"));
+}
+
+TEST_F(MainWindowTest, LayersSwitchOneStepEach) {
+    auto* layers = window_->findChild<LayersPanel*>();
+    const auto state = [&](const char* name) {
+        for (const LayerRow& row : layerRows(drawing()))
+            if (row.name == name) return row;
+        return LayerRow{};
+    };
+    const bool wasFrozen = state("ELECTRICITE").frozen;
+    emit layers->actAsked(LayerAct::Freeze, "ELECTRICITE");
+    emit layers->actAsked(LayerAct::MakeCurrent, "MURS");
+    EXPECT_NE(state("ELECTRICITE").frozen, wasFrozen);
+    EXPECT_TRUE(state("MURS").current);
+    emit layers->actAsked(LayerAct::Freeze, "MURS");
+    EXPECT_FALSE(state("MURS").frozen) << "the current layer can't be frozen";
+    window_->action("undo")->trigger();
+    window_->action("undo")->trigger();
+    EXPECT_EQ(state("ELECTRICITE").frozen, wasFrozen);
+    EXPECT_TRUE(state("0").current);
+    EXPECT_FALSE(window_->action("undo")->isEnabled());
+}
+
+TEST_F(MainWindowTest, AReplacementBlocksTheWindowTellsItsResultAndGoesBack) {
+    const std::string before = drawing().savedBytes();
+    const std::size_t doors = referencesOf(drawing(), "PORTE_80").size();
+    face_->acts = {
+        [this](forms::Form& form) {
+            forms::acts::chooseText(forms::acts::controlNamed(form, "lstDestination"), "PORTE_80");
+            EXPECT_FALSE(window_->action("save")->isEnabled());
+            EXPECT_TRUE(window_->action("zoomAll")->isEnabled());
+            window_->enterLine("LIST");
+            EXPECT_TRUE(window_->commandLine().historyText().contains("is still running"));
+        },
+        [](forms::Form& form) {
+            forms::acts::chooseText(forms::acts::controlNamed(form, "CboBlocReplacer"), "PORTE_90");
+        },
+        [](forms::Form& form) { forms::acts::click(forms::acts::controlNamed(form, "BtnReplace")); },
+        [](forms::Form& form) { forms::acts::click(forms::acts::controlNamed(form, "BtnClose")); }};
+    type("vnreplace");
+    EXPECT_TRUE(face_->acts.empty());
+    EXPECT_EQ(referencesOf(drawing(), "PORTE_80").size(), 0u);
+    EXPECT_EQ(window_->status().resultText(), QString("%1 replaced").arg(doors));
+    EXPECT_TRUE(window_->action("save")->isEnabled());
+    EXPECT_TRUE(window_->action("undo")->text().endsWith("Replacement of PORTE_80"));
+    emit window_->status().linkClicked(1);
+    EXPECT_EQ(drawing().savedBytes(), before);
+}
+
+TEST_F(MainWindowTest, AnotherProgramsChangeIsOfferedAndNeverTakenSilently) {
+    QSignalSpy opened(&window_->session(), &Session::opened);
+    QFile file(QString::fromStdString(folder_.file("apartment.dxf")));
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    file.write("999\nmore\n");
+    file.close();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window_->notice().isVisible(); }, 5000));
+    EXPECT_TRUE(window_->notice().text().contains("changed by another program"));
+    EXPECT_EQ(opened.count(), 0);
+    emit window_->notice().answered(0);
+    EXPECT_EQ(opened.count(), 1);
+    EXPECT_TRUE(QString::fromStdString(drawing().savedBytes()).endsWith("more\n"));
+}
+
+TEST_F(MainWindowTest, NarrowItFoldsTheRightDockFirst) {
+    auto* right = window_->findChild<QWidget*>("rightDock");
+    auto* left = window_->findChild<QWidget*>("leftDock");
+    EXPECT_TRUE(right->isVisible() && left->isVisible());
+    window_->resize(1000, 800);
+    EXPECT_TRUE(!right->isVisible() && left->isVisible());
+    window_->resize(800, 800);
+    EXPECT_TRUE(!right->isVisible() && !left->isVisible());
+    window_->resize(1400, 900);
+    EXPECT_TRUE(right->isVisible() && left->isVisible());
+    window_->action("canvasAlone")->trigger();
+    EXPECT_TRUE(!right->isVisible() && !left->isVisible() && !window_->commandLine().isVisible());
+}
+
+TEST_F(MainWindowTest, EachCommandHasATextATipAndNoKeyTwice) {
+    QSet<QString> keys;
+    for (const Command* command = commandsBegin(); command != commandsEnd(); ++command) {
+        const QAction* action = window_->action(command->id);
+        EXPECT_FALSE(action->text().isEmpty()) << command->id;
+        EXPECT_FALSE(action->toolTip().isEmpty()) << command->id;
+        const QString key = action->shortcut().toString();
+        EXPECT_FALSE(!key.isEmpty() && keys.contains(key)) << command->id << " " << key.toStdString();
+        keys.insert(key);
+    }
+    for (const QWidget* each : window_->findChildren<QWidget*>()) {
+        const bool takesKeys = each->isVisible() && (each->focusPolicy() & Qt::TabFocus) != 0;
+        const bool isNamed = !each->accessibleName().isEmpty() || each->inherits("QAbstractButton") ||
+                             each->inherits("QScrollArea");
+        EXPECT_TRUE(!takesKeys || isNamed)
+            << each->metaObject()->className() << " " << each->objectName().toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace window

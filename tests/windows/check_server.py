@@ -1,0 +1,138 @@
+#!/usr/bin/env python3
+"""Registration, failures and the installer of the add-in under Wine: check_server.py BUILD"""
+
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+import wine
+
+ROOT = Path(__file__).resolve().parent.parent.parent
+CLASS = "{5B7C8E0A-6D1F-4B7B-9C56-3A1D6C0F7E21}"
+KEYS = [r"Software\Classes\Vorlane.VnObj0100", rf"Software\Classes\CLSID\{CLASS}", r"Software\Merovane"]
+ABOUT = "VNABOUT\nOKButton\n"
+REPLACE = "VNREPLACE\nlstDestination = PORTE_80\nCboBlocReplacer = PORTE_90\nBtnReplace\n"
+
+failed = []
+
+
+def expect(what, holds):
+    print(f"{'ok    ' if holds else 'WRONG '} {what}", flush=True)
+    if not holds:
+        failed.append(what)
+
+
+def has_key(prefix, root, key):
+    return prefix.run(["reg", "query", f"{root}\\{key}"], timeout=60).returncode == 0
+
+
+def registered(prefix, root):
+    return [has_key(prefix, root, key) for key in KEYS]
+
+
+class Run:
+    """A script in the stand-in, with an install folder that the case has spoilt."""
+
+    def __init__(self, prefix, script, spoil=None, options=()):
+        with tempfile.TemporaryDirectory(prefix="vorlane-server-") as name:
+            self.folder = Path(name).resolve()
+            self.install = self.folder / "install"
+            self.install.mkdir()
+            for file in (ROOT / "resources/languages").iterdir():
+                shutil.copy(file, self.install)
+            self.settings = self.install / "Vorlane.ini"
+            self.settings.write_bytes(b"Lng=English\r\n")
+            shutil.copy(ROOT / "samples/apartment.dxf", self.folder)
+            (self.folder / "script.vns").write_text(script, encoding="utf-8")
+            if spoil:
+                spoil(self)
+            done = prefix.run([prefix.build / "stand-in.exe", "apartment.dxf", "--script", "script.vns", "--lisp",
+                               wine.windows_path(ROOT / "resources/vorlane.lsp"), "--install", "install", "--counts",
+                               *options], cwd=self.folder, timeout=120)
+            self.code = done.returncode
+            self.text = done.stdout.decode("utf-8", "replace") + done.stderr.decode("utf-8", "replace")
+            self.saved = self.settings.read_bytes().decode("cp1252") if self.settings.exists() else ""
+            self.install.chmod(0o755)
+
+
+def check_registration(prefix):
+    dll = wine.windows_path(prefix.build / "Vorlane.dll")
+    expect("regsvr32 registers the class and the install folder", all(registered(prefix, "HKLM")))
+    prefix.must("regsvr32", "/s", "/u", dll)
+    expect("unregistering leaves nothing", not any(registered(prefix, "HKLM")))
+    gone = Run(prefix, ABOUT)
+    expect("without it the command tells so and the host lives on", "Vorlane: " in gone.text and gone.code == 1)
+    prefix.must("regsvr32", "/s", dll)
+
+
+def check_commands(prefix):
+    for command, dialog in (("VNLABEL", "fmLabels"), ("VNREPLACE", "fmReplace"), ("VNEXTRACT", "fmExtract"),
+                            ("VNABOUT", "fmAbout")):
+        run = Run(prefix, f"{command}\nclose\nLIST\n")
+        expect(f"{command} shows {dialog} and ends", f"[{dialog}]" in run.text and run.code == 0)
+    run = Run(prefix, "VNINSERT\nBtnClose\nVNHELP\n")
+    expect("VNINSERT shows fmReInsert, VNHELP opens the help", "[fmReInsert]" in run.text and "[help: Vorlane.chm" in run.text)
+    expect("the released object has written its 155 settings", run.saved.count("V_") == 155)
+    expect("nothing of the host is held at the end", "given 0, " in Run(prefix, ABOUT).text)
+
+
+def check_failures(prefix):
+    run = Run(prefix, "VNABOUT\nok\nLIST\n", spoil=lambda r: r.settings.unlink())
+    expect("a missing settings file gives one box", "Erreur 53" in run.text and run.code == 0)
+    run = Run(prefix, "VNABOUT\nok\nLIST\n", spoil=lambda r: r.install.rename(r.folder / "elsewhere"))
+    expect("a missing install folder gives one box", "Erreur 76" in run.text and run.code == 0)
+    run = Run(prefix, ABOUT + "LIST\n", spoil=lambda r: r.settings.chmod(0o444))
+    expect("a settings file that can't be written is passed over", run.code == 0 and "[fmAbout] hidden" in run.text)
+    prefix.run(["reg", "delete", r"HKLM\Software\Merovane", "/f"], timeout=60)
+    run = Run(prefix, "VNABOUT\nok\nLIST\n", options=("--keep-registry",))
+    expect("no registry value gives one box", "Erreur " in run.text and run.code == 0)
+    prefix.must("regsvr32", "/s", wine.windows_path(prefix.build / "Vorlane.dll"))
+
+
+def check_refusals(prefix):
+    """A host that refuses each member in turn: whatever the add-in shows, the host goes on."""
+    for member in ("ModelSpace", "Blocks", "SelectionSets", "Count", "Add", "Select", "Name", "IsLayout", "IsXRef",
+                   "InsertBlock", "InsertionPoint", "XScaleFactor", "Rotation", "hasAttributes", "GetAttributes",
+                   "TextString", "TagString", "Visible", "Update", "Delete", "ObjectName", "GetInterfaceObject"):
+        run = Run(prefix, REPLACE, options=("--refuse", member, "--lenient"))
+        expect(f"the host lives on when it refuses {member}", run.code == 0 and "calls " in run.text)
+
+
+def check_installer(prefix):
+    setup = prefix.build / "Vorlane-1.0-setup.exe"
+    if not setup.exists():
+        print("left out: no installer (packaging/windows/build.sh makes it)")
+        return
+    prefix.must("regsvr32", "/s", "/u", wine.windows_path(prefix.build / "Vorlane.dll"))
+    prefix.must(setup, "/S", "/CurrentUser")
+    bundle = next(prefix.folder.glob("drive_c/users/*/AppData/Roaming/Autodesk/ApplicationPlugins/Vorlane.bundle"))
+    contents = bundle / "Contents"
+    files = {path.name for path in contents.iterdir()}
+    expect("a silent install fills the bundle",
+           {"Vorlane.dll", "vorlane.lsp", "English.LNG", "Francais.LNG", "Vorlane.ini"} <= files)
+    expect("and registers for the user", all(registered(prefix, "HKCU")) and not any(registered(prefix, "HKLM")))
+    (contents / "Vorlane.ini").write_bytes(b"Lng=Deutsch\r\n")
+    (contents / "Deutsch.LNG").write_bytes(b":Language=Deutsch\r\n")
+    prefix.must(setup, "/S", "/CurrentUser")
+    expect("an update keeps the settings", (contents / "Vorlane.ini").read_bytes() == b"Lng=Deutsch\r\n")
+    # Without "_?=" the uninstaller goes on in a copy of itself.
+    prefix.must(bundle / "uninstall.exe", "/S", "/CurrentUser", "_?=" + prefix.windows_name(bundle))
+    left = {path.name for path in contents.iterdir()}
+    expect("removing leaves the user's files alone", left == {"Vorlane.ini", "Deutsch.LNG"})
+    expect("and no key", not any(registered(prefix, "HKCU")))
+    shutil.rmtree(bundle)
+
+
+def main():
+    build = Path(sys.argv[1]).resolve()
+    with wine.Prefix(build / "prefix", build) as prefix:
+        for check in (check_registration, check_commands, check_failures, check_refusals, check_installer):
+            check(prefix)
+    print(f"{len(failed)} wrong")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

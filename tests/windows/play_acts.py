@@ -1,0 +1,156 @@
+#!/usr/bin/env python3
+"""Plays the transcripts of tests/acts on the add-in's DLL under Wine and compares with the console.
+
+    play_acts.py BUILD CONSOLE [NAME...]      (all without a name)
+
+BUILD is the folder of the Windows build, CONSOLE the program vorlane-console. Each transcript runs in the stand-in of
+windows/stand_in, where the registered Vorlane.dll shows its native dialogs; the stand-in clicks, pastes and presses keys, and
+prints what the controls hold. Its story must equal the console's, and the files that the two leave must be equal to the byte.
+
+Before stories are compared, `plain` takes out what the two can't have in common; each of its rules says why."""
+
+import difflib
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent.parent
+sys.path.insert(0, str(ROOT / "tests/acts"))
+import run_act  # noqa: E402
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+import wine  # noqa: E402
+
+# What the add-in under Wine can't do as the console does, with the reason.
+EXCEPTIONS = {
+    "bad_folder": "the install folder is the desk's own affair: the installer makes the add-in's",
+    "bad_full_disk": "the limit on a file's size would end Wine's server",
+    "language_choice": "languages come in the order of the folder, where Windows doesn't put capitals first",
+}
+KEPT = (".dxf", ".txt")  # the files that are compared
+
+
+def help_number(page):
+    """The number that opens a page, as in the compiled help file."""
+    language, name = page.removesuffix(".html").split("/")
+    for line in (ROOT / "resources/help/contexts.txt").read_text(encoding="utf-8").splitlines():
+        words = line.split()
+        if len(words) > 1 and words[1] == name:
+            number = int(words[0])
+            break
+    if number == 0:
+        return f"[help: Vorlane.chm::/{language}/start.html]"
+    return f"[help: Vorlane.chm {number + (0 if language == 'fr' else 1000000)}]"
+
+
+def plain(story):
+    # The console prints the page, the viewer of the tests the number that was asked for.
+    story = re.sub(r"\[help: (\w+/\w+\.html)\]\n.*?\[end of help\]", lambda m: help_number(m.group(1)), story, flags=re.S)
+    lines, told = [], ""
+    for line in story.replace("vorlane-console: ", "stand-in: ").splitlines():
+        line = re.sub(r" \(tip: .*\)$", "", line)  # a tool tip shows under the mouse only
+        if line.startswith("+-- "):
+            line = re.sub(r" \([!i]\)$", "", line)  # a box's icon is a picture
+            # The system's own title of a file dialog; the console's of a box without one.
+            line = {"+-- Save As": "+-- Save as", "+-- ": "+-- Message"}.get(line, line)
+        # The start folder of a file dialog isn't written on it; unsaved changes are the host's affair; the shell opens an
+        # address in a program of its own, which notes it in its own time.
+        if told.startswith("! Error ") and line.startswith("  "):
+            continue  # the console's advice on what to do
+        told = line
+        if line.startswith(("|  in ", "The changes to ", "https://", "wine: ")):  # and Wine tells of its own affairs
+            continue
+        lines.append(line)
+    return lines
+
+
+class Windows:
+    """Runs a transcript's program under Wine in run_act's way."""
+
+    def __init__(self, prefix, build):
+        self.prefix, self.build = prefix, build
+
+    def prepare(self, folder, language):
+        """The install folder, as the installer leaves it."""
+        install = folder / "data/vorlane"
+        install.mkdir(parents=True, exist_ok=True)
+        for file in (ROOT / "resources/languages").iterdir():
+            if not (install / file.name).exists():
+                shutil.copy(file, install)
+        settings = install / "Vorlane.ini"
+        if not settings.exists():
+            name = "Fran\xe7ais" if language == ["fr"] else "English"
+            settings.write_bytes(f"Lng={name}\r\n".encode("cp1252"))
+
+    def __call__(self, drawing, script, folder, settings):
+        of = lambda key: [value for k, value in settings if k == key]
+        self.prepare(folder, of("language"))
+        command = [self.build / "stand-in.exe", drawing, "--script", wine.windows_path(script), "--lisp",
+                   wine.windows_path(ROOT / "resources/vorlane.lsp"), "--install", r"data\vorlane"]
+        return self.prefix.run(command + " ".join(of("options")).split(), cwd=folder, timeout=180)
+
+
+def play(text, name, folder, console, program):
+    folder.mkdir()
+    script = folder.parent / (folder.name + "-" + name)
+    script.write_text(text, encoding="utf-8")
+    story = run_act.tell(console, script, folder, program)
+    # A native file dialog gives a file's whole path.
+    return story.replace(wine.windows_path(folder) + "\\", "")
+
+
+def files(folder, text):
+    """What a run left, without what its tools had prepared: those write a mark of their own into each file."""
+    prepared = re.findall(r"^; prepare: .*", text, flags=re.M)
+    made = {word for line in prepared for word in line.split()} | {"opened.txt"}
+    return {p.name: p.read_bytes() for p in folder.iterdir() if p.suffix in KEPT and p.name not in made}
+
+
+def compare(script, console, windows, keep):
+    """The differences of a transcript's runs, as lines."""
+    wrong = []
+    for number, text in enumerate(run_act.runs(script)):
+        with tempfile.TemporaryDirectory(prefix="vorlane-windows-") as name:
+            top = Path(name).resolve()
+            there = play(text, script.name, top / "linux", console, None)
+            here = play(text, script.name, top / "windows", console, windows)
+            wrong += difflib.unified_diff(plain(there), plain(here), "console", f"windows {number}", lineterm="", n=2)
+            left, right = files(top / "linux", text), files(top / "windows", text)
+            wrong += [f"file {file} differs" for file in sorted(left.keys() | right.keys()) if left.get(file) != right.get(file)]
+            if keep and wrong:
+                shutil.copytree(top, keep / f"{script.stem}-{number}", dirs_exist_ok=True)
+    return wrong
+
+
+def main():
+    build, console, names = Path(sys.argv[1]).resolve(), Path(sys.argv[2]).resolve(), sys.argv[3:]
+    scripts = [s for s in sorted((ROOT / "tests/acts").glob("*.vns")) if not names or s.stem in names]
+    keep = Path(os.environ["KEEP"]) if "KEEP" in os.environ else None
+    failed = played = 0
+    with wine.Prefix(build / "prefix", build) as prefix:
+        windows = Windows(prefix, build)
+        for script in scripts:
+            if script.stem in EXCEPTIONS:
+                print(f"left out  {script.stem}: {EXCEPTIONS[script.stem]}", flush=True)
+                continue
+            start = time.monotonic()
+            try:
+                wrong = compare(script, console, windows, keep)
+            except SystemExit:
+                continue  # the drawing's corpus isn't here
+            except subprocess.TimeoutExpired:
+                wrong = ["no end after the time allowed"]
+            played, failed = played + 1, failed + bool(wrong)
+            print(f"{'DIFFERENT' if wrong else 'same     '} {script.stem} ({time.monotonic() - start:.1f} s)", flush=True)
+            print("".join(f"    {line}\n" for line in wrong[:40]), end="", flush=True)
+    print(f"{played - failed} of {played} transcripts play the same under Windows")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,281 @@
+#!/usr/bin/env python3
+"""Seeds one-line faults in rooms and tells which of them the tests don't notice.
+
+    seed_faults.py ROOM... [--count N] [--seed N] [--file TEXT] [--tests NAME,NAME] [--headers] [--list]
+
+A room is a name of cmake/RoomList.cmake. The tool works on a copy of the tree under build/seed (which stays, so that a second
+call builds little), builds there with one job and never touches the tree itself. First it runs the rooms' test programs and all
+transcripts and notes which lines each of them reaches. Then it seeds one fault at a time: an operator turned, a constant
+changed, a condition negated, a statement dropped. Each fault is given to the tests that reach its line, the room's own first,
+then the quickest, until one fails. A fault that doesn't compile is replaced by another.
+
+    --count N      so many faults in each room (30)
+    --seed N       another choice of faults (1); the same seed on the same sources makes the same choice
+    --file TEXT    only in files whose name holds the text
+    --tests A,B    these folders of tests/ besides the rooms' own
+    --headers      faults in headers too: each rebuilds much
+    --list         prints the faults that would be seeded, and ends
+
+The exit code is 0 however many survive. A survivor may change nothing that can be seen: that is for you to judge."""
+
+import argparse
+import json
+import os
+import random
+import re
+import shutil
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+from check_includes import ROOT, rooms
+
+OPERATORS = {" == ": " != ", " != ": " == ", " < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > ", " && ": " || ",
+             " || ": " && ", " + ": " - ", " - ": " + ", " * ": " / ", " / ": " * ", " += ": " -= ", " -= ": " += "}
+NUMBER = re.compile(r"(?<![\w.])(\d+(?:\.\d*)?)(?![\w.'])")
+NO_STATEMENT = re.compile(r"(return|if|else|for|while|do|case|default|using|static|const|constexpr|auto|namespace|typedef|"
+                          r"struct|class|enum|template|friend|public|private|protected)\b|.*\breserve\(")
+STATEMENT = re.compile(r"[*\w:.\->\[\]()]+(\s*([-+|&*/]?=)\s.*|\(.*\)|\+\+|--)?;|(\+\+|--)[\w.]+;")
+LITERAL = re.compile(r'//[^\n]*|/\*.*?\*/|R"\((?:.|\n)*?\)"|"(?:\\.|[^"\\\n])*"|(?<![0-9a-fA-F])\'(?:\\.|[^\'\\\n])+\'', re.S)
+
+
+def masked(text):
+    """The text with comments and literals blotted out, each character in its place."""
+    return LITERAL.sub(lambda found: re.sub(r"[^\n]", "~", found.group()), text)
+
+
+def closing(text, start):
+    """The place of the bracket that closes the one at `start`, or -1."""
+    depth = 0
+    for i in range(start, len(text)):
+        depth += {"(": 1, ")": -1}.get(text[i], 0)
+        if depth == 0:
+            return i
+    return -1
+
+
+def line_faults(line, code, before):
+    """The faults of a line: what was done, and the line with it. `code` is the masked line, `before` the code line above."""
+    swap = lambda start, end, text: line[:start] + text + line[end:]
+    for old, new in OPERATORS.items():
+        if old == " + " and "~" in code:
+            continue  # joins texts
+        for found in re.finditer(re.escape(old), code):
+            yield f"operator{old}becomes{new.rstrip()}", swap(*found.span(), new)
+    for old, new in (("true", "false"), ("false", "true")):
+        for found in re.finditer(rf"\b{old}\b", code):
+            yield f"constant {old} becomes {new}", swap(*found.span(), new)
+    for found in NUMBER.finditer(code):
+        old = found.group(1)
+        # A large number is doubled: a control that is one unit wider is no fault.
+        new = str(float(old) + 1) if "." in old else str(int(old) + 1 if int(old) < 100 else int(old) * 2)
+        yield f"constant {old} becomes {new}", swap(*found.span(1), new)
+    for found in re.finditer(r"!(?=[\w(])", code):
+        yield "negation dropped", swap(*found.span(), "")
+    for found in re.finditer(r"\b(if|while) \(", code):
+        start, end = found.end(), closing(code, found.end() - 1)
+        if end < 0:
+            continue
+        start = code.rfind("; ", start, end) + 2 if "; " in code[start:end] else start
+        if not re.search(r"[\w\]] = ", code[start:end]):
+            yield "condition negated", line[:start] + "!(" + line[start:end] + ")" + line[end:]
+        rest = code[end + 1:].strip()
+        if rest.endswith(";"):
+            yield "statement dropped", line[:end + 1] + " {}\n"
+    bare = code.strip()
+    whole = bare.count("(") == bare.count(")") and STATEMENT.fullmatch(bare) and not NO_STATEMENT.match(bare)
+    if whole and before.endswith((";", "{", "}", ":", ")", "else")):
+        yield "statement dropped", line[:len(line) - len(line.lstrip())] + ";\n"
+
+
+def faults(file):
+    """Every fault of a file as (file, line from 1, what was done, the new line)."""
+    text = file.read_text(encoding="utf-8")
+    lines, codes, before, depth = text.splitlines(True), masked(text).splitlines(), ";", 0
+    for number, (line, code) in enumerate(zip(lines, codes), 1):
+        bare = code.strip().replace("~", "")
+        is_code = bare and not bare.startswith(("#", "using ", "template", "static_assert"))
+        if is_code and code.startswith("  "):
+            for what, new in line_faults(line, code, before):
+                yield file, number, what, new
+        before = code.strip().rstrip("~ ") or before
+
+
+def choose(files, seed):
+    """Faults in random order, no more than one a line."""
+    by_line = {}
+    for fault in (fault for file in files for fault in faults(file)):
+        by_line.setdefault(fault[:2], []).append(fault)
+    rng = random.Random(seed)
+    chosen = [rng.choice(by_line[key]) for key in sorted(by_line)]
+    rng.shuffle(chosen)
+    return chosen
+
+
+class Copy:
+    """The private copy of the tree with its build, and the tests in it."""
+
+    def __init__(self, rooms, more_tests):
+        self.top = ROOT / "build" / "seed"
+        self.build = self.top / "build" / "test"
+        self.own = [name for name in dict.fromkeys([*rooms, *more_tests]) if any((ROOT / "tests" / name).glob("*.cpp"))]
+        self.refresh()
+        subprocess.run(["cmake", "--preset", "test", f"-DVORLANE_COVERAGE={';'.join(rooms)}"], cwd=self.top, check=True,
+                       stdout=subprocess.DEVNULL)
+
+    def refresh(self):
+        """Makes the copy's sources equal to the tree's, its own new files included."""
+        listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT, check=True,
+                                capture_output=True).stdout.decode().split("\0")
+        wanted = {name for name in listed if name and (ROOT / name).is_file()}
+        for path in [path for path in self.top.rglob("*") if path.is_file()]:
+            name = str(path.relative_to(self.top))
+            if not name.startswith("build/") and name not in wanted:
+                path.unlink()
+        for name in wanted:
+            old, new = self.top / name, ROOT / name
+            if not old.exists() or old.read_bytes() != new.read_bytes():
+                old.parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy(new, old)
+
+    def make(self):
+        """Builds what the tests need; whether that went well."""
+        targets = ["vorlane-console", "make-big-drawing", *(f"test_{name}" for name in self.own)]
+        return subprocess.run(["ninja", "-C", self.build, "-j1", *targets], capture_output=True).returncode == 0
+
+    def tests(self):
+        """The commands by name."""
+        found = {f"tests/{name}": [self.build / "tests" / f"test_{name}", "--gtest_fail_fast", "--gtest_brief=1"]
+                 for name in self.own}
+        for script in sorted((self.top / "tests/acts").glob("*.vns")):
+            found[f"acts/{script.stem}"] = ["/usr/bin/python3", self.top / "tests/acts/run_act.py",
+                                            self.build / "vorlane-console", script]
+        return found
+
+    def passes(self, command, limit):
+        for data in self.build.rglob("*.gcda"):
+            data.unlink()
+        try:
+            done = subprocess.run(command, cwd=self.top, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL, timeout=limit)
+            return done.returncode in (0, 77)
+        except subprocess.TimeoutExpired:
+            return False
+
+    def reached(self):
+        """The lines that the last test reached, by file: the sets of all lines that hold code and of those that ran."""
+        data = sorted(self.build.rglob("*.gcda"))
+        found = {}
+        if data:
+            told = subprocess.run(["gcov", "--json-format", "--stdout", *data], cwd=self.build, capture_output=True).stdout
+            for report in told.decode().splitlines():
+                report = json.loads(report)
+                for file in report["files"]:
+                    path = (Path(report["current_working_directory"]) / file["file"]).resolve()
+                    if path.is_relative_to(self.top):
+                        known, ran = found.setdefault(path, (set(), set()))
+                        known.update(line["line_number"] for line in file["lines"])
+                        ran.update(line["line_number"] for line in file["lines"] if line["count"])
+        return found
+
+
+def reaches(lines, file, number):
+    """Whether a test that reached these lines runs that one. A line without code of its own belongs to the statement that began
+    above it; a table, which has no code at all, is reached by whatever reaches its file."""
+    if file not in lines:
+        return False
+    known, ran = lines[file]
+    for candidate in range(number, number - 8, -1):
+        if candidate in known:
+            return candidate in ran
+    return bool(ran)
+
+
+class Reach:
+    """What each test reaches, and how long it takes."""
+
+    def __init__(self, copy):
+        if not copy.make():
+            sys.exit("The tree doesn't build.")
+        self.copy, self.tests, self.lines, self.seconds = copy, copy.tests(), {}, {}
+        print(f"Noting what {len(self.tests)} tests reach", flush=True)
+        for name, command in self.tests.items():
+            start = time.monotonic()
+            if not copy.passes(command, 900):
+                sys.exit(f"{name} fails without a fault.")
+            self.seconds[name], self.lines[name] = time.monotonic() - start, copy.reached()
+
+    def of(self, room, file, number):
+        """The tests that reach a line, in the order in which they are to look."""
+        able = [name for name in self.tests if reaches(self.lines[name], file, number)]
+        return sorted(able, key=lambda name: (name != f"tests/{room}", self.seconds[name]))
+
+    def catcher(self, names):
+        """The first of these tests that fails."""
+        return next((name for name in names if not self.copy.passes(self.tests[name], 20 + 10 * self.seconds[name])), None)
+
+
+def seed_room(room, reach, chosen, count):
+    """Seeds faults until `count` of them compiled; how many were caught, and the report's entries for the others."""
+    copy, caught, survivors = reach.copy, 0, []
+    for file, number, what, new in chosen:
+        if caught + len(survivors) >= count:
+            break
+        original = file.read_text(encoding="utf-8")
+        able, catcher = reach.of(room, file, number), None
+        if able:
+            text = original.splitlines(True)
+            text[number - 1] = new
+            file.write_text("".join(text), encoding="utf-8")
+            built = copy.make()
+            catcher = built and reach.catcher(able)
+            file.write_text(original, encoding="utf-8")
+            if not built:
+                continue
+        where = f"{file.relative_to(copy.top)}:{number}: {what}"
+        if catcher:
+            caught += 1
+            print(f"caught    {where}  ({catcher})", flush=True)
+        else:
+            reason = f"{len(able)} tests run it" if able else "no test runs it"
+            survivors.append(f"{where}  ({reason})\n    - {original.splitlines()[number - 1].strip()}\n    + {new.strip()}")
+            print(f"SURVIVED  {where}  ({reason})", flush=True)
+    return caught, survivors
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("rooms", nargs="+", metavar="ROOM")
+    parser.add_argument("--count", type=int, default=30)
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--file", default="")
+    parser.add_argument("--tests", default="")
+    parser.add_argument("--headers", action="store_true")
+    parser.add_argument("--list", action="store_true")
+    given = parser.parse_args()
+    table = rooms()
+    for room in given.rooms:
+        if room not in table:
+            sys.exit(f"No room {room}; there are {', '.join(table)}.")
+    os.nice(10)
+    copy = Copy(given.rooms, [name for name in given.tests.split(",") if name])
+    reach = None if given.list else Reach(copy)
+    report = []
+    for room in given.rooms:
+        files = [file for file in sorted((copy.top / table[room][0]).glob("*.[ch]*"))
+                 if given.file in file.name and (given.headers or file.suffix == ".cpp")]
+        chosen = choose(files, given.seed)
+        if given.list:
+            for file, number, what, new in chosen[: given.count]:
+                print(f"{file.relative_to(copy.top)}:{number}: {what}\n    {new.strip()}")
+            continue
+        caught, survivors = seed_room(room, reach, chosen, given.count)
+        total = caught + len(survivors)
+        report += [f"{room}: caught {caught} of {total} faults ({100 * caught // max(total, 1)} %)", *survivors]
+        print(report[-1 - len(survivors)], flush=True)
+    print("\n" + "\n".join(report))
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "windows/com/border.h"
+
+#include <string>
+
+namespace stand_in {
+
+/// The border of AutoCAD's place: parameters have the types that AutoCAD declares, so a call that AutoCAD
+/// would refuse fails here too; and a chosen member can be made to fail.
+class AcadBorder : public com::Border {
+  public:
+    HRESULT admit(const host::Object& object, const std::string& member, WORD kind,
+                  const DISPPARAMS& parameters) override;
+
+    /// Makes each call of a member fail, as on an object that has been erased; empty for none.
+    void refuse(const std::string& member) { refused_ = member; }
+    /// How many calls came in so far.
+    long calls() const { return calls_; }
+
+  private:
+    std::string refused_;
+    long calls_ = 0;
+};
+
+}  // namespace stand_in

@@ -1,0 +1,112 @@
+#include "windows/stand_in/box_acts.h"
+
+#include "basic/path.h"
+#include "basic/text.h"
+#include "basic/wide.h"
+#include "forms/acts.h"
+
+#include <dlgs.h>
+#include <filesystem>
+#include <ostream>
+
+namespace stand_in {
+
+namespace {
+
+constexpr int kMessageText = 0xFFFF;
+constexpr const char* kFailurePrefix = "Error ";
+
+struct NamedButton {
+    int id;
+    const char* word;
+};
+constexpr NamedButton kButtons[] = {{IDOK, "ok"}, {IDCANCEL, "cancel"}, {IDYES, "yes"}, {IDNO, "no"}};
+
+/// The field of a file dialog for the file's name: the combo box of newer styles, or the plain field.
+HWND nameField(HWND box) {
+    HWND field = GetDlgItem(box, cmb13);
+    return field != nullptr ? field : GetDlgItem(box, edt1);
+}
+
+void printLines(std::ostream& output, const std::string& text) {
+    std::string_view rest = text;
+    while (true) {
+        const std::size_t end = rest.find_first_of("\r\n");
+        output << "|  " << rest.substr(0, end) << '\n';
+        if (end == std::string_view::npos) return;
+        rest.remove_prefix(rest.substr(end).starts_with("\r\n") ? end + 2 : end + 1);
+    }
+}
+
+void printFilters(std::ostream& output, HWND box) {
+    HWND filters = GetDlgItem(box, cmb1);
+    if (filters == nullptr) return;
+    for (const std::string& label : entriesOf(filters)) output << "|  " << label << '\n';
+}
+
+/// A box with OK alone gives its button the id of cancel, so that Escape works.
+bool isLoneOk(HWND box) { return GetDlgItem(box, IDOK) == nullptr && GetDlgItem(box, IDYES) == nullptr; }
+
+bool offers(HWND box, int id) {
+    if (isLoneOk(box)) return id == IDOK;
+    return GetDlgItem(box, id) != nullptr;
+}
+
+void choose(HWND box, std::string_view path) {
+    const std::filesystem::path full = std::filesystem::current_path() / basic::toPath(path);
+    SendMessageW(nameField(box), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(full.c_str()));
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+}
+
+}  // namespace
+
+bool isFileDialog(HWND box) { return nameField(box) != nullptr; }
+
+bool isFailureReport(HWND box) {
+    return !isFileDialog(box) && textOf(box) == "Vorlane" &&
+           textOf(GetDlgItem(box, kMessageText)).starts_with(kFailurePrefix);
+}
+
+void printBox(std::ostream& output, HWND box) {
+    output << "+-- " << textOf(box) << '\n';
+    if (isFileDialog(box)) {
+        printFilters(output, box);
+        output << "+-- [file PATH] [cancel]\n";
+        return;
+    }
+    printLines(output, textOf(GetDlgItem(box, kMessageText)));
+    output << "+--";
+    for (const NamedButton& button : kButtons)
+        if (offers(box, button.id)) output << " [" << button.word << ']';
+    output << '\n';
+}
+
+std::string passFailure(std::ostream& output, HWND box) {
+    std::string text = textOf(GetDlgItem(box, kMessageText));
+    std::erase(text, '\r');
+    output << "! " << text << '\n';
+    PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+    return text;
+}
+
+void answerBox(HWND box, std::string_view answer) {
+    if (isFileDialog(box)) {
+        if (basic::trim(answer) == "cancel") {
+            PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+        } else if (answer.starts_with("file ")) {
+            choose(box, basic::trim(answer.substr(5)));
+        } else {
+            throw forms::ActError("is neither \"file PATH\" nor \"cancel\"");
+        }
+        return;
+    }
+    for (const NamedButton& button : kButtons) {
+        if (!basic::equalIgnoringCase(basic::trim(answer), button.word) || !offers(box, button.id)) continue;
+        const int id = isLoneOk(box) ? IDCANCEL : button.id;
+        PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(id), 0);
+        return;
+    }
+    throw forms::ActError("is no button of the message box");
+}
+
+}  // namespace stand_in
