@@ -172,7 +172,8 @@ class BigDrawing {
         insert("", "SPOT", -10, -10);
         for (int i = 0; i < references; ++i) {
             const double x = (i % 200) * 20.0, y = (i / 200) * 20.0;
-            const std::string owner = insert("66|1", "LAMP", x, y, turned_ ? i * 0.37 - 360 * (i * 37 / 36000) : 0);
+            const std::string owner =
+                insert("66|1", "LAMP", x, y, turned_ ? i * 0.37 - 360 * (i * 37 / 36000) : 0);
             attribute("ATTRIB", owner, "TAG", "L-" + std::to_string(i + 1), x + 2, y + 2);
             attribute("ATTRIB", owner, "ROOM", "Room " + std::to_string(i / 12 + 1), x + 2, y - 1);
             attribute("ATTRIB", owner, "POWER", std::to_string(40 + 20 * (i % 5)), x + 2, y - 4);

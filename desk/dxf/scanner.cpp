@@ -43,12 +43,12 @@ Scanner::Scanner(const TagSource& source, Mode mode, Findings& findings)
     const Format& format = *source.format;
     if (!format.versionName.empty() && !isKnownVersion(format.versionName))
         report(format.start, 0, finding::kVersion,
-               "version " + quoted(format.versionName) + " is read as " +
+               "version " + dxf::quoted(format.versionName) + " is read as " +
                    std::string(versionName(format.version)));
     if (format.version < Version::R2007 && !format.codePageName.empty() &&
         !Encoding::isKnown(format.codePageName))
         report(format.start, 0, finding::kCodePage,
-               "code page " + quoted(format.codePageName) + " is read as ANSI_1252");
+               "code page " + dxf::quoted(format.codePageName) + " is read as ANSI_1252");
 }
 
 void Scanner::report(std::size_t offset, Handle handle, FindingKind kind, std::string reason) {

@@ -14,9 +14,9 @@ class SystemVariables {
   public:
     /// Empty for a variable that the host doesn't know.
     basic::Variant get(const Context& context, std::string_view name) const;
-    /// A change in the drawing is an edit of it. Raises kInvalidInput for a variable that can't be set, or not
-    /// to this value, kKeyNotFound for a layer that the drawing lacks, kTypeMismatch for a value of another
-    /// kind.
+    /// A change in the drawing is an edit of it. Raises kInvalidInput for a variable that can't be set, or
+    /// not to this value, kKeyNotFound for a layer that the drawing lacks, kTypeMismatch for a value of
+    /// another kind.
     void set(Context& context, std::string_view name, const basic::Variant& value);
 
   private:

@@ -24,8 +24,8 @@ class ActError : public basic::Interruption {
 /// Each act tests that form, control and its containers are visible and enabled (ActError), moves the focus,
 /// and runs the handlers under a guard: a basic::Error that leaves a handler is reported once through
 /// Screen::reportFailure, and dialog and drawing stay as they are, as does any other exception but a
-/// basic::Interruption, which passes. A control that had the focus and was disabled or hidden by the act passes
-/// it on in the order of the Tab key.
+/// basic::Interruption, which passes. A control that had the focus and was disabled or hidden by the act
+/// passes it on in the order of the Tab key.
 namespace acts {
 
 /// Raises the ActError of an act on the control that a user couldn't do now: it must be drawn and not greyed.

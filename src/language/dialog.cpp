@@ -12,7 +12,8 @@ void showOwned(session::Session& session, forms::Form& dialog) {
 }
 
 void Dialog::Form_Help(int context) {
-    session_.platform().showHelp(session_.HelpFile, context == 0 ? std::nullopt : std::optional<std::int32_t>(context));
+    session_.platform().showHelp(session_.HelpFile,
+                                 context == 0 ? std::nullopt : std::optional<std::int32_t>(context));
 }
 
 std::string Dialog::message(std::int32_t id) const { return GetMsg(session_, id); }

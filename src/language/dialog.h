@@ -14,7 +14,8 @@ void showOwned(session::Session& session, forms::Form& dialog);
 /// Base of the add-in's dialogs.
 class Dialog : public forms::Form {
   public:
-    Dialog(session::Session& session, std::string name, std::string tag, std::string caption, int helpContextId = 0)
+    Dialog(session::Session& session, std::string name, std::string tag, std::string caption,
+           int helpContextId = 0)
         : Form(std::move(name), std::move(tag), std::move(caption), helpContextId), session_(session) {}
 
   protected:

@@ -79,9 +79,9 @@ TEST(PictureTest, ALayoutShowsTheModelThroughItsViewports) {
     const auto drawing = plain.make();
     Picture picture(*drawing);
     // At half size about 105,102; the layer WALLS (handle 11) is frozen in it.
-    EXPECT_EQ(
-        drawn(picture, drawing->blocks().paperSpace()),
-        (Lines{"clip 000000 0,0 10,0 10,10 0,10", "fore 2.5,4 7.5,4", "end", "fore 0,0 10,0 10,10 0,10 0,0"}));
+    EXPECT_EQ(drawn(picture, drawing->blocks().paperSpace()),
+              (Lines{"clip 000000 0,0 10,0 10,10 0,10", "fore 2.5,4 7.5,4", "end",
+                     "fore 0,0 10,0 10,10 0,10 0,0"}));
     EXPECT_EQ(drawn(picture, drawing->modelSpace()).size(), 2u);
 }
 

@@ -1,9 +1,9 @@
-// Preloaded into a program, fails the call number FAIL_AT of a kind, FAIL_KIND: "file" (open, read, write, fsync,
-// rename, close, unlink) or "memory" (malloc and its like). At the end, with FAIL_COUNT set, it writes how many
-// calls there were into that file. tools/failing_calls.py uses it.
+// Preloaded into a program, fails the call number FAIL_AT of a kind, FAIL_KIND: "file" (open, read, write,
+// fsync, rename, close, unlink) or "memory" (malloc and its like). At the end, with FAIL_COUNT set, it writes
+// how many calls there were into that file. tools/failing_calls.py uses it.
 #include <cerrno>
-#include <cstdlib>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
