@@ -85,8 +85,8 @@ void extractBlocks(Job& job) {
         return;
     }
     const bool handles = job.arguments.has("--handles");
-    const bool byDialog = !job.tableFile.empty() && !handles && !isCsv(job.tableFile) &&
-                          job.arguments.value("--encoding") != "utf8";
+    const bool byDialog =
+        !job.output.empty() && !handles && !isCsv(job.output) && job.arguments.value("--encoding") != "utf8";
     // The dialog takes an array of references for no reference.
     const auto single = std::find_if(wanted.begin(), wanted.end(),
                                      [&](EntityId id) { return !job.drawing().insert(id).isArray; });
@@ -97,7 +97,7 @@ void extractBlocks(Job& job) {
     Table table;
     job.dialogs.on(kDialog, [&table](forms::Form& form) { readTable(form, table); });
     if (byDialog) {
-        job.dialogs.answerFile(job.tableFile);
+        job.dialogs.answerFile(job.output);
         job.dialogs.click(kDialog, "BtnSave");
     }
     job.dialogs.click(kDialog, "BtnClose");
@@ -107,10 +107,10 @@ void extractBlocks(Job& job) {
     if (byDialog) return;
     table.block = block;
     if (handles) regroup(job, wanted, table);
-    if (job.tableFile.empty()) {
+    if (job.output.empty()) {
         job.result.table = std::move(table);
     } else {
-        writeTable(job.tableFile, table, job.arguments, job.regional);
+        writeTable(job.output, table, job.arguments, job.regional);
     }
 }
 

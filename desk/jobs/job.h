@@ -16,8 +16,9 @@ struct Job {
     DialogRun& dialogs;
     PlannedPrompter& prompter;
     Result& result;
-    /// Where an extraction of this drawing goes; empty where its table goes into a file with others.
-    std::string tableFile;
+    /// Where an extraction or a picture of this drawing goes; empty where its table goes into a file with
+    /// others.
+    std::string output;
 
     drawing::Drawing& drawing() const { return desk.document().drawing(); }
     /// Runs a command of the add-in by the planned acts. Raises JobError.
@@ -32,8 +33,10 @@ void insertRows(Job& job);
 void updateAttributes(Job& job);
 void listBlocks(Job& job);
 void checkDrawing(Job& job);
+void drawPicture(Job& job);
 
 /// Tests what the options of a verb say before any drawing is opened. Raises UsageError.
 void checkOptions(const Arguments& arguments);
+void checkPictureOptions(const Arguments& arguments);
 
 }  // namespace jobs

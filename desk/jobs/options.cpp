@@ -7,7 +7,7 @@ namespace jobs {
 namespace {
 
 constexpr unsigned kChanging = kReplace | kInsert | kUpdate;
-constexpr unsigned kJobs = kChanging | kExtract | kList | kCheck;
+constexpr unsigned kJobs = kChanging | kExtract | kList | kCheck | kPicture;
 constexpr unsigned kAll = kJobs | kConsole;
 
 }  // namespace
@@ -54,12 +54,28 @@ const std::vector<Option>& allOptions() {
          "cp1252 utf8"},
         {"--exact", "", kUpdate,
          "Writes a cell also where it differs from the attribute only as a number is written (007 and 7)."},
+        {"--block", "NAME", kPicture, "The block to draw in place of model space."},
+        {"--layout", "NAME", kPicture, "The layout to draw in place of model space."},
+        {"--window", "X,Y,X,Y", kPicture,
+         "The part to draw, in drawing units; without it all that is shown."},
+        {"--size", "WIDTHxHEIGHT", kPicture, "Pixels; of .svg and .pdf the proportions."},
+        {"--dark", "", kPicture, "Draws on a near-black ground."},
+        {"--screen-colors", "", kPicture, "Lightens or darkens the colours that hardly show on the ground."},
+        {"--weights", "", kPicture, "Draws lines as wide as their weights."},
+        {"--no-margin", "", kPicture, "Leaves no free edge."},
+        {"--format", "png|svg|pdf", kPicture,
+         "The kind of the pictures, where no file's name tells it; png without it.", false, "png svg pdf"},
+        {"--out", "FILE|FOLDER", kPicture,
+         "Where the pictures go: a folder, or for one drawing a file whose name tells the kind. Without it "
+         "they "
+         "go beside their drawings.",
+         false, "file"},
         {"--out", "FILE|FOLDER", kChanging | kExtract,
          "Where the results go: a folder for several drawings, a file for one. With extract a file (.txt or "
          ".csv) takes all drawings, a folder one table a drawing.",
          false, "file"},
         {"--in-place", "", kChanging, "Changes the drawings themselves; each keeps a copy with .bak behind."},
-        {"--force", "", kChanging | kExtract, "Overwrites results that are there already."},
+        {"--force", "", kChanging | kExtract | kPicture, "Overwrites results that are there already."},
         {"--dry-run", "", kChanging, "Does everything but save, and tells what would be done."},
         {"--keep-going", "", kInsert | kConsole,
          "In a script: goes on after a line that failed. With insert: keeps the rows that went in where "
@@ -114,6 +130,9 @@ const std::vector<VerbText>& allVerbs() {
         {kList, "list", "[OPTION...] DRAWING...", "lists the blocks with the number of their references", ""},
         {kCheck, "check", "[OPTION...] DRAWING...", "tells what is wrong with drawings",
          "Lists what the reader had to repair. Such a drawing counts as failed."},
+        {kPicture, "picture", "[OPTION...] DRAWING...", "draws pictures of drawings: PNG, SVG or PDF",
+         "Needs no display. The program vorlane-picture, which comes with the window, draws them; what it "
+         "can't draw is told. Without --layout or --block model space is shown."},
     };
     return verbs;
 }

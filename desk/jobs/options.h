@@ -17,6 +17,7 @@ enum Verb : unsigned {
     kUpdate = 16,
     kList = 32,
     kCheck = 64,
+    kPicture = 128,
 };
 
 /// One option. Parsing, help, manual page and completion are made from the one table of them.

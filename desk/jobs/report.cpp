@@ -141,7 +141,8 @@ std::string Report::state(const Result& result) const {
     if (result.state == State::Unchanged)
         return "unchanged: " + result.reason + (counts.empty() ? "" : " (" + counts + ")");
     const bool dry = arguments_.has("--dry-run");
-    return (dry ? "would do: " : "") + counts + (result.output.empty() ? "" : " -> " + result.output);
+    const std::string place = result.output.empty() ? "" : "-> " + result.output;
+    return (dry ? "would do: " : "") + counts + (counts.empty() || place.empty() ? "" : " ") + place;
 }
 
 /// A list of a drawing. The table of an extraction goes into a file instead.

@@ -2,6 +2,7 @@
 
 #include "basic/error.h"
 #include "basic/text.h"
+#include "desk/shell/picture_program.h"
 
 #include <filesystem>
 #include <map>
@@ -74,6 +75,20 @@ void findTables(const Arguments& arguments, const std::string& out, Targets& tar
     for (Target& target : targets.all) target.output = oneFile ? out : inFolder(out, target.drawing, ".txt");
 }
 
+void findPictures(const Arguments& arguments, const std::string& out, Targets& targets) {
+    const bool oneFile = shell::isPictureFile(out) && !fs::is_directory(out);
+    if (oneFile && targets.all.size() > 1)
+        throw UsageError("--out: several pictures go into a folder, not into " + out);
+    if (oneFile && arguments.has("--format"))
+        throw UsageError("--format: the name of " + out + " tells the kind");
+    if (!oneFile && !out.empty()) makeFolder(out);
+    const std::string extension = "." + (arguments.has("--format") ? arguments.value("--format") : "png");
+    for (Target& target : targets.all) {
+        const fs::path folder = out.empty() ? fs::path(target.drawing).parent_path() : fs::path(out);
+        target.output = oneFile ? out : inFolder(folder, target.drawing, extension.c_str());
+    }
+}
+
 void findDrawings(const Arguments& arguments, const std::string& out, Targets& targets) {
     if (arguments.has("--in-place") == !out.empty() && !arguments.has("--dry-run"))
         throw UsageError("say where the results go: --out FILE|FOLDER or --in-place (or --dry-run)");
@@ -105,6 +120,8 @@ Targets findTargets(const Arguments& arguments) {
         findDrawings(arguments, out, targets);
     } else if (arguments.verb == kExtract) {
         findTables(arguments, out, targets);
+    } else if (arguments.verb == kPicture) {
+        findPictures(arguments, out, targets);
     }
     requireDistinct(arguments, targets);
     return targets;

@@ -22,7 +22,8 @@ using JobFunction = void (*)(Job&);
 JobFunction functionOf(Verb verb) {
     static const std::map<Verb, JobFunction> functions = {
         {kReplace, replaceBlocks},   {kExtract, extractBlocks}, {kInsert, insertRows},
-        {kUpdate, updateAttributes}, {kList, listBlocks},       {kCheck, checkDrawing}};
+        {kUpdate, updateAttributes}, {kList, listBlocks},       {kCheck, checkDrawing},
+        {kPicture, drawPicture}};
     return functions.at(verb);
 }
 
@@ -91,7 +92,8 @@ void runOn(const Arguments& arguments, const shell::DeskOptions& options, const 
     shell::Desk desk(options, dialogs, prompter, told);
     desk.open(target.drawing);
     PartFile table(arguments.verb == kExtract ? target.output : "");
-    Job job{arguments, options.regional, desk, dialogs, prompter, result, table.path()};
+    const std::string output = arguments.verb == kPicture ? target.output : table.path();
+    Job job{arguments, options.regional, desk, dialogs, prompter, result, output};
     functionOf(arguments.verb)(job);
     if (result.state != Result::State::Done) return;
     if (changesDrawings(arguments.verb)) saveDrawing(arguments, desk, target, result);
@@ -117,6 +119,7 @@ void checkOptions(const Arguments& arguments) {
             throw UsageError(std::string(textOf(arguments.verb).name) + " needs " + option);
     };
     if (arguments.verb == kReplace) readReplaceOptions(arguments);
+    if (arguments.verb == kPicture) checkPictureOptions(arguments);
     if (arguments.verb == kExtract || arguments.verb == kInsert) require("--block");
     if (arguments.verb == kInsert) {
         for (const std::string& text : arguments.values("--map")) readPair("--map", text);

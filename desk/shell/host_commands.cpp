@@ -119,8 +119,10 @@ Outcome undo(Desk& desk, const std::string&) {
 Outcome picture(Desk& desk, const std::string& rest) {
     if (rest.empty())
         throw basic::Error(basic::kBadFileName, "PICTURE needs a file's name: .png, .svg or .pdf");
-    writePicture(desk.document().drawing(), rest);
+    const PictureGaps gaps = writePicture(desk.document().drawing(), typedPath(rest));
     desk.output() << "Picture written: " << rest << "\n";
+    for (const auto& [type, count] : gaps.notDrawn)
+        desk.output() << "  not drawn: " << count << " " << type << "\n";
     return Outcome::Done;
 }
 

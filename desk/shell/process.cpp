@@ -20,12 +20,28 @@ std::vector<char*> arguments(const std::vector<std::string>& command) {
     return list;
 }
 
+constexpr int kNotStarted = 127;
+
 int waitFor(pid_t child) {
     int status = 0;
     while (waitpid(child, &status, 0) < 0) {
-        if (errno != EINTR) return 127;
+        if (errno != EINTR) return kNotStarted;
     }
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 127;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : kNotStarted;
+}
+
+/// What comes until the other end is closed.
+std::string readAll(int file) {
+    std::string all;
+    char bytes[4096];
+    for (ssize_t count = 0; (count = read(file, bytes, sizeof bytes)) != 0;) {
+        if (count > 0) {
+            all.append(bytes, static_cast<std::size_t>(count));
+        } else if (errno != EINTR) {
+            break;
+        }
+    }
+    return all;
 }
 
 /// In a child process: starts the program in a child of its own, which the system's first process takes over,
@@ -53,17 +69,29 @@ std::optional<std::string> findProgram(const std::string& name) {
     return std::nullopt;
 }
 
-int runProgram(const std::vector<std::string>& command) {
+int runProgram(const std::vector<std::string>& command, std::string* printed) {
+    int ends[2] = {-1, -1};
+    if (printed != nullptr && pipe2(ends, O_CLOEXEC) != 0) return kNotStarted;
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    for (const int stream : {1, 2}) {
+        if (printed != nullptr) {
+            posix_spawn_file_actions_adddup2(&actions, ends[1], stream);
+        } else {
+            posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_WRONLY, 0);
+        }
+    }
     pid_t child = 0;
     std::vector<char*> words = arguments(command);
     const int failed = posix_spawnp(&child, words[0], &actions, nullptr, words.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
-    return failed != 0 ? 127 : waitFor(child);
+    if (printed != nullptr) {
+        close(ends[1]);
+        *printed = readAll(ends[0]);
+        close(ends[0]);
+    }
+    return failed != 0 ? kNotStarted : waitFor(child);
 }
 
 bool startProgram(const std::vector<std::string>& command) {

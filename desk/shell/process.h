@@ -10,8 +10,8 @@ namespace shell {
 std::optional<std::string> findProgram(const std::string& name);
 
 /// Runs a program without a shell and waits for its end; its exit code, 127 where it couldn't be started.
-/// What it prints goes nowhere.
-int runProgram(const std::vector<std::string>& command);
+/// What it prints, on either stream, goes to `printed`, or nowhere.
+int runProgram(const std::vector<std::string>& command, std::string* printed = nullptr);
 
 /// Starts a program without a shell and leaves it to itself: it goes on when we end and leaves no zombie.
 /// Returns whether it could be started.

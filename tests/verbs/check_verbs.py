@@ -26,6 +26,12 @@ class Verbs:
         self.hold(done.returncode == code, f"{' '.join(map(str, words))}: exit code {done.returncode}\n{done.stderr}")
         return done
 
+    def script(self, lines, drawing="apartment.dxf", code=0):
+        done = subprocess.run([self.vorlane, drawing, "--script", "-", "--fresh"], cwd=self.folder, input=lines,
+                              capture_output=True, text=True)
+        self.hold(done.returncode == code, f"{lines}: exit code {done.returncode}\n{done.stderr}")
+        return done
+
     def hold(self, condition, what):
         if not condition:
             self.faults.append(what)
@@ -132,6 +138,29 @@ def a_round_trip_changes_one_value(verbs):
     verbs.hold(len(before) == len(after) and len(changed) == 2, f"{len(changed)} lines differ")
 
 
+def pictures_need_no_display(verbs):
+    kinds = {"png": b"\x89PNG", "svg": b"<?xml", "pdf": b"%PDF"}
+    if not (verbs.vorlane.parent / "vorlane-picture").exists():
+        done = verbs.run("picture", "apartment.dxf", code=2)
+        verbs.hold("vorlane-picture" in done.stderr and "isn't installed" in done.stderr, done.stderr)
+        return
+    for kind, begin in kinds.items():
+        verbs.run("picture", "apartment.dxf", "empty.dxf", "--format", kind, "--out", "pictures")
+        verbs.hold(verbs.bytes(f"pictures/apartment.{kind}").startswith(begin), kind)
+        verbs.run("picture", "empty.dxf", "--format", kind)
+        verbs.hold(verbs.bytes(f"empty.{kind}").startswith(begin), f"{kind} beside the drawing")
+    verbs.run("picture", "empty.dxf", code=2)
+    verbs.run("picture", "apartment.dxf", "empty.dxf", "--out", "one.svg", code=2)
+    verbs.run("picture", "apartment.dxf", "--size", "3x", "--out", "one.svg", code=2)
+    done = verbs.run("picture", "apartment.dxf", "--layout", "NONE", "--out", "one.svg", code=1)
+    verbs.hold("no such layout" in done.stderr and not (verbs.folder / "one.svg").exists(), done.stderr)
+    door = ["picture", "apartment.dxf", "--block", "PORTE_80", "--out", "door.svg"]
+    verbs.run(*door)
+    verbs.hold(verbs.bytes("door.svg") != verbs.bytes("pictures/apartment.svg"), "--block")
+    verbs.script("ERASE\nall\n\nPICTURE erased.svg\nPICTURE door.gif\n", code=1)
+    verbs.hold(len(verbs.bytes("erased.svg")) < len(verbs.bytes("pictures/apartment.svg")), "PICTURE shows unsaved changes")
+
+
 def control_c_ends_between_drawings(verbs):
     names = []
     for number in range(60):
@@ -153,7 +182,8 @@ def main():
     wrong = 0
     checks = [files_are_safe, one_bad_drawing_stops_no_other, locked_layers_are_left, properties_are_taken_over,
               attributes_find_partners,
-              rows_that_fail, a_round_trip_changes_one_value, control_c_ends_between_drawings]
+              rows_that_fail, a_round_trip_changes_one_value, pictures_need_no_display,
+              control_c_ends_between_drawings]
     for check in checks:
         with tempfile.TemporaryDirectory(prefix="vorlane-verbs-") as name:
             verbs = Verbs(Path(sys.argv[1]).resolve(), Path(name))
