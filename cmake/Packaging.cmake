@@ -28,7 +28,7 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_VENDOR Merovane)
 set(CPACK_PACKAGE_CONTACT "Merovane <vorlane@merovane.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "manages block references in CAD drawings")
-set(CPACK_PACKAGE_DESCRIPTION "Replaces the references of a block by another block, extracts them
+set(CPACK_PACKAGE_DESCRIPTION "Replaces the references of a block with another block, extracts them
 into a table, inserts a block in bulk from such a table and places labels
 filled from the drawing, in DXF drawings from R12 to R2018: in a console, by
 scripts, or by one command on a folder of drawings. What nobody touched keeps

@@ -114,7 +114,7 @@ std::string manualPage() {
     for (const VerbText& text : allVerbs()) {
         page << ".B vorlane " << text.name << "\n" << roff(text.usage) << "\n.br\n";
     }
-    page << ".SH DESCRIPTION\nReplaces the references of a block by another block, extracts them into a "
+    page << ".SH DESCRIPTION\nReplaces the references of a block with another block, extracts them into a "
             "table, "
             "inserts a block from a\ntable and places labels, in DXF drawings. What nobody touched keeps its "
             "bytes.\n.PP\n"

@@ -109,7 +109,7 @@ const std::vector<VerbText>& allVerbs() {
          "Without a verb the drawing is opened in the window. Without a display, with --console or with a "
          "script it is the console: HELP tells what can be typed there."},
         {kReplace, "replace", "--from NAME --to NAME [OPTION...] DRAWING...",
-         "replaces the references of a block by another block",
+         "replaces the references of a block with another block",
          "Fills and presses the dialog of VNREPLACE, so the result is the dialog's to the byte. The new "
          "references come out visible and on the current layer. References on locked layers are left and "
          "told."},

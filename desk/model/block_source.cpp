@@ -1,5 +1,6 @@
 #include "desk/model/block_source.h"
 
+#include "basic/error.h"
 #include "basic/text.h"
 #include "desk/dxf/findings.h"
 #include "desk/import/import_block.h"
@@ -77,6 +78,15 @@ void tell(const Context& context, const std::string& name, const importing::Impo
     for (const std::string& left : result.leftBehind) prompter.message("Not brought in: " + left);
 }
 
+/// Dialogs may keep silent about a file that won't come in, and try again by the bare name, row after row of
+/// a data file: the command line tells the reason once each time that the file is named with its folder.
+void tellRefusal(Context& context, const std::string& name, const fs::path& file, const char* reason) {
+    const std::string path = fs::absolute(file).string();
+    if (path == context.refused && !fs::path(name).has_parent_path()) return;
+    context.refused = path;
+    context.environment->prompter->message(std::string("Not brought in: ") + reason);
+}
+
 drawing::BlockId bringIn(Context& context, const fs::path& file) {
     std::error_code ignored;
     const auto modified = fs::last_write_time(file, ignored).time_since_epoch().count();
@@ -109,7 +119,12 @@ drawing::BlockId findOrBringIn(Context& context, const std::string& name) {
     if (name.empty()) raise(kFileError, "no name of a block or a file");
     const fs::path file = findFile(context, name);
     if (file.empty()) raise(kFileError, name + ": no block of the drawing and no file that could be found");
-    return bringIn(context, file);
+    try {
+        return bringIn(context, file);
+    } catch (const basic::Error& error) {
+        tellRefusal(context, name, file, error.what());
+        throw;
+    }
 }
 
 }  // namespace model

@@ -49,6 +49,7 @@ struct Context {
         drawing::BlockId block = drawing::kNoBlock;
     };
     std::map<std::string, BroughtIn> broughtIn;
+    std::string refused;  ///< the last block file of which the user was told that it can't be brought in
     drawing::EntityId newest = drawing::kNoEntity;  ///< the reference that was inserted last
 };
 using ContextPtr = std::shared_ptr<Context>;

@@ -150,7 +150,7 @@ constexpr HostCommand kHostCommands[] = {
 };
 
 constexpr const char* kAddInHelp =
-    "  VNREPLACE        replaces the references of a block by another block\n"
+    "  VNREPLACE        replaces the references of a block with another block\n"
     "  VNLABEL          places labels filled from the drawing\n"
     "  VNEXTRACT        extracts a block's references into a table and a text file\n"
     "  VNINSERT         inserts a block in bulk from such a file\n"

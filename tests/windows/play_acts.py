@@ -30,6 +30,7 @@ import wine  # noqa: E402
 EXCEPTIONS = {
     "bad_folder": "the install folder is the desk's own affair: the installer makes the add-in's",
     "bad_full_disk": "the limit on a file's size would end Wine's server",
+    "block_file_refused": "the command line names the file as its system does, and the stand-in has no converter",
     "language_choice": "languages come in the order of the folder, where Windows doesn't put capitals first",
 }
 KEPT = (".dxf", ".txt")  # the files that are compared
