@@ -2,7 +2,6 @@
 // waits for afterwards. Each figure is processor time of the one thread that does it.
 
 #include "bench/plan.h"
-#include "desk/picture/hits.h"
 #include "desk/window/canvas.h"
 #include "tests/fakes/temp_folder.h"
 

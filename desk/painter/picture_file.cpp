@@ -32,7 +32,7 @@ void paint(picture::Picture& picture, drawing::BlockId space, QPainter& painter,
     if (options.weights) render.pixelsPerMillimetre = pixelsPerMillimetre;
     Glyphs glyphs;
     QtCanvas canvas(painter, inks, glyphs, style);
-    picture::Renderer(picture, canvas, render).drawItems(space, projection, 0, [] { return false; });
+    picture::Renderer(picture, canvas, render).draw(space, projection);
 }
 
 QByteArray pngOf(picture::Picture& picture, drawing::BlockId space, const PictureFileOptions& options,

@@ -48,12 +48,6 @@ class Canvas {
     /// What follows is seen only inside the polygon as well, until `endClip`.
     virtual void beginClip(std::span<const Point2> polygon) = 0;
     virtual void endClip() = 0;
-
-    /// For those who want more than what is seen: a curve that is about to be drawn, and where a reference
-    /// that is about to be drawn stands.
-    virtual void curve(const Stroke& /*stroke*/, std::span<const Point3> /*own*/,
-                       const Projection& /*place*/) {}
-    virtual void insertion(const Point2& /*at*/) {}
 };
 
 }  // namespace picture

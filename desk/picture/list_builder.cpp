@@ -90,6 +90,10 @@ void ListBuilder::addGeometry(EntityId id, PenId pen, DisplayList& list) {
     const shapes::Geometry geometry = shapes::readGeometry(drawing_, id);
     addStrokes(geometry.strokes, pen, list);
     for (const geometry::Fill& fill : geometry.fills) addFill(fill.loops, pen, list);
+    for (const shapes::EndlessLine& line : geometry.endless) {
+        addStroke(geometry::LineCurve{line.base, line.direction}, pen, 0, 0, list);
+        list.strokes.back().kind = line.bothWays ? Stroke::Kind::XLine : Stroke::Kind::Ray;
+    }
     for (const Point3& point : geometry.points) list.marks.push_back({point, pen});
 }
 
@@ -105,11 +109,6 @@ void ListBuilder::addOwn(EntityId id, PenId pen, bool inBlock, DisplayList& list
         addGeometry(id, pen, list);
         addTexts(shapes::readExtraTexts(drawing_, textStyles_, id), pen, list);
         if (type == "WIPEOUT" && !list.fills.empty()) list.fills.back().covers = true;
-        if (type == "RAY" || type == "XLINE") {
-            const auto [base, direction] = shapes::readEndless(drawing_.tags(id));
-            addStroke(geometry::LineCurve{base, direction}, pen, 0, 0, list);
-            list.strokes.back().kind = type == "RAY" ? Stroke::Kind::Ray : Stroke::Kind::XLine;
-        }
     }
 }
 
@@ -149,14 +148,12 @@ Shown ListBuilder::add(EntityId id, bool inBlock, DisplayList& list) {
     if (item.hidesZero && item.placement == Item::kNone) return Shown::Off;
     item.layer = styles_.layerNumber(id);
     const PenId pen = pens_.intern(style.pen);
+    addOwn(id, pen, inBlock, list);
     if (type == "VIEWPORT") {
         if (const auto viewport = readViewport(drawing_.tags(id))) {
             item.viewport = sizeOf(list.viewports);
             list.viewports.push_back(*viewport);
-            addOutline(cornersOf(*viewport), pen, list);
         }
-    } else {
-        addOwn(id, pen, inBlock, list);
     }
     item.fillEnd = sizeOf(list.fills);
     // The lines of a hatch belong to its fill.

@@ -47,81 +47,76 @@ void Picture::reset() {
     open_.assign(drawing_.blocks().size(), false);
     pointStyle_.mode = drawing_.header().integer("$PDMODE").value_or(0);
     pointStyle_.size = drawing_.header().number("$PDSIZE").value_or(0);
+    lackedBlock_ = false;
     revision_ = drawing_.revision();
-    tables_ = stampOfTables();
+    seen_ = drawing_.journalEnd();
+    settings_ = stampOfSettings();
 }
 
-std::uint64_t Picture::stampOf(EntityId id) const {
-    std::uint64_t stamp = mixed(0, drawing_.bytes(id));
-    const drawing::PartRange parts = drawing_.parts(id);
-    for (std::uint32_t i = 0; i < parts.count; ++i) {
-        const EntityId part = parts.first + i;
-        if (!drawing_.isErased(part)) stamp = mixed(stamp, drawing_.bytes(part));
-    }
-    return stamp;
-}
-
-std::uint64_t Picture::stampOfTables() const {
+/// Of what styles and points are read from, which the journal doesn't tell.
+std::uint64_t Picture::stampOfSettings() const {
     std::uint64_t stamp = 0;
-    for (const char* table : {"LAYER", "LTYPE", "STYLE", "DIMSTYLE"}) {
+    for (const char* table : {"LTYPE", "STYLE", "DIMSTYLE"}) {
         for (const EntityId id : drawing_.tableEntries(table)) stamp = mixed(stamp, drawing_.bytes(id));
+    }
+    for (const char* variable : {"$LTSCALE", "$PDMODE", "$PDSIZE"}) {
+        const double value = drawing_.header().number(variable).value_or(0);
+        stamp = mixed(stamp, {reinterpret_cast<const char*>(&value), sizeof value});
     }
     return stamp;
 }
 
 void Picture::update() {
     if (revision_ == drawing_.revision()) return;
-    bool keeps = stampOfTables() == tables_;
-    std::vector<BlockId> spaces;
-    for (BlockId block = 0; keeps && block < blocks_.size(); ++block) {
-        if (!blocks_[block] || !hasChanged(block, *blocks_[block])) continue;
-        keeps = drawing_.blocks()[block].isLayout();
-        spaces.push_back(block);
-    }
-    if (!keeps) return reset();
+    const drawing::Changes changes = drawing_.changesSince(seen_);
+    // A definition that came or went decides whether a reference shows anything.
+    const bool bringsBlock = !changes.blocks.empty() && lackedBlock_;
+    const bool changesBlock = std::any_of(changes.blocks.begin(), changes.blocks.end(), [&](BlockId block) {
+        return block < blocks_.size() && blocks_[block];
+    });
+    if (changes.everything || bringsBlock || changesBlock || settings_ != stampOfSettings()) return reset();
     blocks_.resize(drawing_.blocks().size());
     open_.assign(blocks_.size(), false);
     revision_ = drawing_.revision();
-    for (const BlockId space : spaces) renew(space, *blocks_[space]);
+    seen_ = drawing_.journalEnd();
+    for (BlockId space = 0; space < blocks_.size() && !changes.entities.empty(); ++space) {
+        const bool isSpace = drawing_.blocks()[space].isLayout();
+        if (blocks_[space] && isSpace) renew(space, changes.entities, *blocks_[space]);
+    }
 }
 
-bool Picture::hasChanged(BlockId block, const Prepared& of) const {
-    std::size_t at = 0;
-    bool same = true;
-    drawing_.forEachEntity(block, [&](EntityId id) {
-        same = at < of.sources.size() && of.sources[at].entity == id && of.sources[at].stamp == stampOf(id);
-        ++at;
-        return same;
-    });
-    return !same || at != of.sources.size();
+Picture::Source Picture::add(ListBuilder& builder, EntityId id, bool inBlock, DisplayList& list) {
+    const Source source{id, builder.add(id, inBlock, list)};
+    if (source.shown == Shown::Drawn) addPlacedBounds(list, list.items.back());
+    const bool lacks = source.shown == Shown::NotDrawn && drawing_.type(id) == "INSERT";
+    lackedBlock_ = lackedBlock_ || lacks;
+    return source;
 }
 
-/// Takes over the items of entities that are as they were; both rows are in drawing order.
-void Picture::renew(BlockId block, Prepared& of) {
+/// Takes over the items of entities that nobody touched. Entities, items and `touched` are in rising order.
+void Picture::renew(BlockId block, const std::vector<EntityId>& touched, Prepared& of) {
     if (of.list.points.size() > 2 * of.fullSize + 100'000) {
         of = {};
         return prepare(block, of);
     }
     const std::vector<Source> before = std::exchange(of.sources, {});
     const std::vector<Item> items = std::exchange(of.list.items, {});
+    of.sources.reserve(before.size() + touched.size());
+    of.list.items.reserve(items.size() + touched.size());
     ListBuilder builder(drawing_, *styles_, *textStyles_, pens_);
     std::size_t old = 0;
     std::size_t item = 0;
     drawing_.forEachEntity(block, [&](EntityId id) {
-        // New entities have higher numbers than all that were there.
-        while (old < before.size() && before[old].entity != id && before.back().entity >= id) {
+        while (old < before.size() && before[old].entity < id) {
             if (before[old++].shown == Shown::Drawn) ++item;
         }
-        const std::uint64_t stamp = stampOf(id);
-        const bool known = old < before.size() && before[old].entity == id;
-        if (known && before[old].stamp == stamp) {
+        const bool isKnown = old < before.size() && before[old].entity == id;
+        if (isKnown && !std::binary_search(touched.begin(), touched.end(), id)) {
             of.sources.push_back(before[old]);
             if (before[old++].shown == Shown::Drawn) of.list.items.push_back(items[item++]);
             return true;
         }
-        if (known && before[old++].shown == Shown::Drawn) ++item;
-        of.sources.push_back({id, stamp, builder.add(id, false, of.list)});
-        if (of.sources.back().shown == Shown::Drawn) addPlacedBounds(of.list, of.list.items.back());
+        of.sources.push_back(add(builder, id, false, of.list));
         return true;
     });
     finish(of);
@@ -146,8 +141,7 @@ void Picture::prepare(BlockId block, Prepared& into) {
     const bool inBlock = !drawing_.blocks()[block].isLayout();
     ListBuilder builder(drawing_, *styles_, *textStyles_, pens_);
     drawing_.forEachEntity(block, [&](EntityId id) {
-        into.sources.push_back({id, stampOf(id), builder.add(id, inBlock, into.list)});
-        if (into.sources.back().shown == Shown::Drawn) addPlacedBounds(into.list, into.list.items.back());
+        into.sources.push_back(add(builder, id, inBlock, into.list));
         return true;
     });
     into.fullSize = into.list.points.size();

@@ -3,6 +3,7 @@
 #include "desk/picture/display_list.h"
 #include "desk/picture/list_builder.h"
 #include "desk/picture/styles.h"
+#include "desk/shapes/scene.h"
 #include "desk/shapes/text_style.h"
 
 #include <cstdint>
@@ -24,8 +25,9 @@ class Picture {
   public:
     explicit Picture(const Drawing& drawing);
 
-    /// Brings it in line with the drawing. Of a space only entities that changed are prepared anew; a change
-    /// of tables or of a block's content prepares everything anew, at the next question for it.
+    /// Brings it in line with the drawing, by its journal. Of a space only entities that changed are prepared
+    /// anew; a change of tables or of a block's content prepares everything anew, at the next question for
+    /// it.
     void update();
 
     /// A block that stands in itself, or nests too deeply, is empty there.
@@ -36,6 +38,16 @@ class Picture {
     Counts counts(BlockId space);
     /// The number of an entity's item in its space's list; nothing where it draws nothing.
     std::optional<std::size_t> itemOf(BlockId space, EntityId entity);
+    /// Visits the numbers of a space's items that may meet an area, in drawing order.
+    template <typename Visit>
+    void forEachItemNear(BlockId space, const geometry::Rectangle& area, const Visit& visit) {
+        shapes::sceneOf(drawing_).space(space).forEachNear(area,
+                                                           [&](EntityId entity, const geometry::Rectangle&) {
+                                                               if (const auto item = itemOf(space, entity))
+                                                                   visit(*item);
+                                                               return true;
+                                                           });
+    }
     /// Entities of a space whether they are hidden or not, for those who point at them.
     DisplayList listEvenHidden(const std::vector<EntityId>& entities);
 
@@ -51,7 +63,6 @@ class Picture {
     /// An entity of a list as it was when it was prepared.
     struct Source {
         EntityId entity = kNoEntity;
-        std::uint64_t stamp = 0;  ///< of its groups and those of its parts
         Shown shown = Shown::Drawn;
     };
     struct Prepared {
@@ -64,13 +75,12 @@ class Picture {
     };
     const Prepared& prepared(BlockId block);
     void prepare(BlockId block, Prepared& into);
-    bool hasChanged(BlockId block, const Prepared& of) const;
-    void renew(BlockId block, Prepared& of);
+    void renew(BlockId block, const std::vector<EntityId>& touched, Prepared& of);
     void finish(Prepared& of) const;
     void addPlacedBounds(DisplayList& list, Item& item);
     void addUndrawn(BlockId block, std::vector<bool>& seen, Counts& counts);
-    std::uint64_t stampOf(EntityId id) const;
-    std::uint64_t stampOfTables() const;
+    Source add(ListBuilder& builder, EntityId id, bool inBlock, DisplayList& list);
+    std::uint64_t stampOfSettings() const;
     void reset();
 
     const Drawing& drawing_;
@@ -81,8 +91,10 @@ class Picture {
     std::vector<std::unique_ptr<Prepared>> blocks_;
     std::vector<bool> open_;  ///< being prepared
     int depth_ = 0;
+    bool lackedBlock_ = false;  ///< a reference was met whose block the drawing lacks
     std::uint64_t revision_ = 0;
-    std::uint64_t tables_ = 0;
+    std::uint64_t seen_ = 0;      ///< place in the drawing's journal
+    std::uint64_t settings_ = 0;  ///< stamp of tables and variables
 };
 
 /// Block coordinates to those of the space that it is placed in, for one copy of an array.

@@ -2,7 +2,6 @@
 
 #include "desk/drawing/drawing.h"
 #include "desk/picture/dashes.h"
-#include "desk/shapes/shape_walk.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +10,9 @@ namespace picture {
 
 namespace {
 
-constexpr int kDeepest = 100;
+constexpr std::size_t kDeepest = 100;
+/// Beyond the frame, device units.
+constexpr double kEdge = 16;
 /// Blocks nested in blocks may multiply beyond all bounds; a picture stops after so many things.
 constexpr std::size_t kMostSteps = 20'000'000;
 /// A linetype whose pattern is shorter on the picture is drawn continuous, a hatch pattern whose lines are
@@ -58,44 +59,109 @@ Renderer::Renderer(Picture& picture, Canvas& canvas, const RenderOptions& option
     : picture_(picture), canvas_(canvas), options_(options), clip_(options.frame) {}
 
 void Renderer::startSpace(const Projection& projection) {
+    levels_.clear();
     rootScale_ = projection.scale();
     clip_ = options_.frame;
+    inViewport_ = false;
+    ink_.reset();
 }
 
-void Renderer::drawTop(const DisplayList& list, const Item& item, const Projection& projection) {
-    drawItem({list, projection, {}, true, 0}, item);
+void Renderer::start(BlockId space, const Projection& projection) {
+    startSpace(projection);
+    Level level;
+    level.state = {&picture_.list(space), projection, {}, true};
+    level.chosen = itemsNear(space, projection);
+    levels_.push_back(std::move(level));
+}
+
+/// The items of a space that may be seen.
+std::vector<std::uint32_t> Renderer::itemsNear(BlockId space, const Projection& projection) {
+    geometry::Box area;
+    const bool fromAbove = projection.toX.z == 0 && projection.toY.z == 0 && projection.scale() > 0;
+    if (fromAbove) {
+        // A text may reach a little beyond the box that picks take it for.
+        const Frame frame = clip_.widened(kEdge);
+        for (const double x : {frame.left, frame.right}) {
+            for (const double y : {frame.top, frame.bottom}) area.add(projection.unproject({x, y}));
+        }
+    } else {
+        area = {{-Box::kFar, -Box::kFar, 0}, {Box::kFar, Box::kFar, 0}};
+    }
+    std::vector<std::uint32_t> items;
+    picture_.forEachItemNear(space, {area.low, area.high},
+                             [&](std::size_t item) { items.push_back(static_cast<std::uint32_t>(item)); });
+    return items;
 }
 
 void Renderer::drawItem(BlockId space, std::size_t item, const Projection& projection) {
-    const DisplayList& list = picture_.list(space);
     startSpace(projection);
-    drawTop(list, list.items[item], projection);
+    Level level;
+    level.state = {&picture_.list(space), projection, {}, true};
+    level.chosen = {static_cast<std::uint32_t>(item)};
+    levels_.push_back(std::move(level));
+    finish();
 }
 
 void Renderer::drawList(const DisplayList& list, const Projection& projection) {
     startSpace(projection);
-    for (const Item& item : list.items) drawTop(list, item, projection);
+    levels_.emplace_back().state = {&list, projection, {}, true};
+    finish();
 }
 
 void Renderer::drawTexts(const DisplayList& list, const Projection& projection) {
     startSpace(projection);
-    for (const Text& text : list.texts) drawText({list, projection, {}, true, 0}, text);
+    for (const Text& text : list.texts) drawText({&list, projection, {}, true}, text);
 }
 
 void Renderer::drawBlock(BlockId block, const Projection& projection, const Context& context) {
     startSpace(projection);
-    drawList({picture_.list(block), projection, context, true, 0});
+    levels_.emplace_back().state = {&picture_.list(block), projection, context, true};
+    finish();
 }
 
-void Renderer::drawList(const State& state) {
-    for (const Item& item : state.list.items) {
-        if (++steps_ > kMostSteps) return;
-        drawItem(state, item);
+/// Draws one thing of the innermost list, or leaves it.
+void Renderer::step() {
+    lastCost_ = 1;
+    Level& level = levels_.back();
+    const std::size_t count = level.chosen ? level.chosen->size() : level.state.list->items.size();
+    if (level.next >= count) return leave();
+    if (++steps_ > kMostSteps) return levels_.clear();
+    const std::size_t item = level.chosen ? (*level.chosen)[level.next] : level.next;
+    ++level.next;
+    // A copy: what it places puts levels upon this one.
+    const State state = level.state;
+    drawItem(state, state.list->items[item]);
+}
+
+/// Goes on to the next copy of an array, or back to the list that holds this one.
+void Renderer::leave() {
+    Level& level = levels_.back();
+    if (level.array != nullptr) {
+        if (++level.row == level.cells.rowEnd) {
+            level.row = level.cells.rowBegin;
+            ++level.column;
+        }
+        if (level.column < level.cells.columnEnd) return startCopy(level);
     }
+    if (level.isViewport) {
+        canvas_.endClip();
+        ink_.reset();
+        inViewport_ = false;
+        rootScale_ = outerScale_;
+        clip_ = outerClip_;
+    }
+    levels_.pop_back();
+}
+
+void Renderer::startCopy(Level& level) {
+    if (++steps_ > kMostSteps) return levels_.clear();
+    const Transform place = placedTransform(picture_.drawing(), level.array->placed, level.column, level.row);
+    level.state.projection = level.outer * place;
+    level.next = 0;
 }
 
 bool Renderer::isFrozen(const Item& item) const {
-    return frozen_ != nullptr && item.layer < frozen_->size() && (*frozen_)[item.layer] && !item.onLayerZero;
+    return inViewport_ && item.layer < frozen_.size() && frozen_[item.layer] && !item.onLayerZero;
 }
 
 void Renderer::drawItem(const State& state, const Item& item) {
@@ -109,20 +175,23 @@ void Renderer::drawItem(const State& state, const Item& item) {
         }
     }
     const bool shown = state.showsZero || !item.onLayerZero;
-    const DisplayList& list = state.list;
+    const DisplayList& list = *state.list;
     if (shown) {
-        if (item.viewport != Item::kNone && !inViewport_) drawViewport(state, list.viewports[item.viewport]);
+        lastCost_ += item.strokeEnd - item.firstStroke;
         for (std::uint32_t i = item.firstFill; i < item.fillEnd; ++i) drawFill(state, list.fills[i]);
         for (std::uint32_t i = item.firstStroke; i < item.strokeEnd; ++i) drawStroke(state, list.strokes[i]);
         for (std::uint32_t i = item.firstText; i < item.textEnd; ++i) drawText(state, list.texts[i]);
         for (std::uint32_t i = item.firstMark; i < item.markEnd; ++i) drawMark(state, list.marks[i]);
     }
-    if (item.placement != Item::kNone) drawPlacement(state, item, list.placements[item.placement]);
+    if (shown && item.viewport != Item::kNone && !inViewport_) {
+        enterViewport(state, list.viewports[item.viewport]);
+    }
+    if (item.placement != Item::kNone) enterPlacement(state, item, list.placements[item.placement]);
 }
 
 void Renderer::drawDot(const State& state, const Item& item, const Frame& where) {
     if (item.onLayerZero && !state.showsZero) return;
-    const DisplayList& list = state.list;
+    const DisplayList& list = *state.list;
     PenId pen = 0;
     if (item.firstStroke < item.strokeEnd) {
         pen = list.strokes[item.firstStroke].pen;
@@ -143,45 +212,44 @@ void Renderer::drawDot(const State& state, const Item& item, const Frame& where)
     canvas_.dot({where.left, where.top});
 }
 
-void Renderer::drawPlacement(const State& state, const Item& item, const Placement& placement) {
-    if (state.depth >= kDeepest) return;
+void Renderer::enterPlacement(const State& state, const Item& item, const Placement& placement) {
+    if (levels_.size() > kDeepest) return;
     const shapes::Placed& placed = placement.placed;
     const DisplayList& list = picture_.list(placed.block);
     if (list.items.empty()) return;
-    Context context;
-    context.reference = state.context.resolve(placement.pen);
-    context.referenceLayer = item.onLayerZero ? state.context.referenceLayer : placement.layer;
-    const bool showsZero = item.onLayerZero ? state.showsZero : !item.hidesZero;
-    const Point3& base = picture_.drawing().blocks()[placed.block].basePoint;
-    const auto drawCopy = [&](int column, int row) {
-        const Transform place = placedTransform(picture_.drawing(), placed, column, row);
-        canvas_.insertion(state.projection.apply(place.apply(base)));
-        drawList({list, state.projection * place, context, showsZero, state.depth + 1});
-    };
+    Level level;
+    level.state.list = &list;
+    level.state.context.reference = state.context.resolve(placement.pen);
+    level.state.context.referenceLayer = item.onLayerZero ? state.context.referenceLayer : placement.layer;
+    level.state.showsZero = item.onLayerZero ? state.showsZero : !item.hidesZero;
+    level.array = &placement;
+    level.outer = state.projection;
     const drawing::Placement& array = placed.placement;
-    if (array.columns <= 1 && array.rows <= 1) return drawCopy(0, 0);
-    // Of a large array only the copies on the picture are gone through.
-    const auto at = [&](int column, int row) {
-        const Transform place = placedTransform(picture_.drawing(), placed, column, row);
-        return state.projection * place;
-    };
-    const Projection origin = at(0, 0);
-    const auto step = [&](const Projection& to) {
-        return Vector3{to.origin.x - origin.origin.x, to.origin.y - origin.origin.y, 0};
-    };
-    const Frame frame = list.bounds.empty() ? Frame{} : origin.apply(list.bounds);
-    const Box first{{frame.left, frame.top, 0}, {frame.right, frame.bottom, 0}};
-    const geometry::Rectangle area({clip_.left, clip_.top, 0}, {clip_.right, clip_.bottom, 0});
-    const shapes::CellRange cells = shapes::cellsNear(array, first, step(at(1, 0)), step(at(0, 1)), area);
-    for (int column = cells.columnBegin; column < cells.columnEnd; ++column) {
-        for (int row = cells.rowBegin; row < cells.rowEnd; ++row) {
-            if (++steps_ > kMostSteps) return;
-            drawCopy(column, row);
-        }
+    if (array.columns > 1 || array.rows > 1) {
+        // Of a large array only the copies on the picture are gone through.
+        const auto at = [&](int column, int row) {
+            return state.projection * placedTransform(picture_.drawing(), placed, column, row);
+        };
+        const Projection origin = at(0, 0);
+        const auto step = [&](const Projection& to) {
+            return Vector3{to.origin.x - origin.origin.x, to.origin.y - origin.origin.y, 0};
+        };
+        const Frame frame = list.bounds.empty() ? Frame{} : origin.apply(list.bounds);
+        const Box first{{frame.left, frame.top, 0}, {frame.right, frame.bottom, 0}};
+        const geometry::Rectangle area({clip_.left, clip_.top, 0}, {clip_.right, clip_.bottom, 0});
+        const shapes::CellRange all{0, std::max(array.columns, 1), 0, std::max(array.rows, 1)};
+        level.cells =
+            list.isEndless ? all : shapes::cellsNear(array, first, step(at(1, 0)), step(at(0, 1)), area);
+        if (level.cells.columnBegin >= level.cells.columnEnd || level.cells.rowBegin >= level.cells.rowEnd)
+            return;
     }
+    level.column = level.cells.columnBegin;
+    level.row = level.cells.rowBegin;
+    startCopy(level);
+    levels_.push_back(std::move(level));
 }
 
-void Renderer::drawViewport(const State& state, const Viewport& viewport) {
+void Renderer::enterViewport(const State& state, const Viewport& viewport) {
     std::vector<Point2> polygon;
     Frame frame;
     const double x = viewport.width / 2;
@@ -192,30 +260,26 @@ void Renderer::drawViewport(const State& state, const Viewport& viewport) {
     }
     if (!frame.meets(clip_)) return;
     const std::vector<drawing::Layer>& layers = picture_.drawing().layers().all();
-    std::vector<bool> frozen(layers.size());
+    frozen_.assign(layers.size(), false);
     for (const drawing::Handle handle : viewport.frozen) {
         const EntityId record = picture_.drawing().byHandle(handle);
         for (std::size_t i = 0; i < layers.size(); ++i) {
-            if (record != kNoEntity && layers[i].record == record) frozen[i] = true;
+            if (record != kNoEntity && layers[i].record == record) frozen_[i] = true;
         }
     }
-    const Frame outerClip = clip_;
-    const double outerScale = rootScale_;
+    outerClip_ = clip_;
+    outerScale_ = rootScale_;
     clip_ = {std::max(clip_.left, frame.left), std::max(clip_.top, frame.top),
              std::min(clip_.right, frame.right), std::min(clip_.bottom, frame.bottom)};
-    frozen_ = &frozen;
     inViewport_ = true;
     canvas_.beginClip(polygon);
-    const Projection inner = state.projection * viewport.modelToPaper;
-    rootScale_ = inner.scale();
     const BlockId model = picture_.drawing().modelSpace();
-    drawList({picture_.list(model), inner, {}, true, 0});
-    canvas_.endClip();
-    ink_.reset();
-    inViewport_ = false;
-    frozen_ = nullptr;
-    rootScale_ = outerScale;
-    clip_ = outerClip;
+    Level level;
+    level.state = {&picture_.list(model), state.projection * viewport.modelToPaper, {}, true};
+    level.isViewport = true;
+    rootScale_ = level.state.projection.scale();
+    level.chosen = itemsNear(model, level.state.projection);
+    levels_.push_back(std::move(level));
 }
 
 void Renderer::setInk(const Ink& ink) {
@@ -281,10 +345,9 @@ void Renderer::arcPoints(const Projection& projection, std::span<const Point3> a
 }
 
 void Renderer::drawStroke(const State& state, const Stroke& stroke) {
-    const std::span<const Point3> own = state.list.pointsOf(stroke);
+    const std::span<const Point3> own = state.list->pointsOf(stroke);
     const Pen& pen = picture_.pens()[stroke.pen];
     const Look look = state.context.resolve(pen);
-    canvas_.curve(stroke, own, state.projection);
     points_.clear();
     switch (stroke.kind) {
         case Stroke::Kind::Arc:
@@ -348,19 +411,20 @@ void Renderer::drawFill(const State& state, const Fill& fill) {
     const bool isPattern = fill.spacing > 0;
     if (isPattern && fill.spacing * state.projection.scale() >= kFinestHatch &&
         fill.lineEnd > fill.firstLine) {
+        lastCost_ += fill.lineEnd - fill.firstLine;
         for (std::uint32_t i = fill.firstLine; i < fill.lineEnd; ++i)
-            drawStroke(state, state.list.strokes[i]);
+            drawStroke(state, state.list->strokes[i]);
         return;
     }
     const Frame safe = clip_.widened(kFarOutside);
     points_.clear();
     ends_.clear();
     std::uint32_t begin = 0;
-    for (const std::uint32_t end : state.list.endsOf(fill)) {
+    for (const std::uint32_t end : state.list->endsOf(fill)) {
         scratch_.clear();
         bool outside = false;
         for (std::uint32_t i = begin; i < end; ++i) {
-            scratch_.push_back(state.projection.apply(state.list.points[fill.first + i]));
+            scratch_.push_back(state.projection.apply(state.list->points[fill.first + i]));
             outside = outside || !safe.contains(scratch_.back());
         }
         if (outside) clipLoop(scratch_, clip_.widened(8));

@@ -2,6 +2,7 @@
 
 #include "desk/picture/canvas.h"
 #include "desk/picture/picture.h"
+#include "desk/shapes/shape_walk.h"
 
 #include <cstddef>
 #include <optional>
@@ -17,27 +18,28 @@ struct RenderOptions {
     bool solidLines = false;  ///< without linetypes, for highlights
 };
 
-/// Draws display lists on a canvas. What lies outside of the frame is passed over.
+/// Draws display lists on a canvas. What lies outside of the frame is passed over: in a space by the index
+/// that picks use too.
 class Renderer {
   public:
     Renderer(Picture& picture, Canvas& canvas, const RenderOptions& options);
 
-    /// Draws items of a space from number `begin` on and returns that of the first one not drawn: the end, or
-    /// an earlier one as `stop` told after some items, so that a long picture can be drawn in portions.
+    /// Begins a picture of a space, which `resume` draws.
+    void start(BlockId space, const Projection& projection);
+    /// Draws on until `stop` tells to leave off, which it is asked every few things; then the next call goes
+    /// on where this one left, be it deep in a block. Returns whether the picture is complete.
     template <typename Stop>
-    std::size_t drawItems(BlockId space, const Projection& projection, std::size_t begin, Stop&& stop) {
-        const DisplayList& list = picture_.list(space);
-        startSpace(projection);
-        std::size_t at = begin;
-        while (at < list.items.size()) {
-            const std::size_t steps = steps_;
-            drawTop(list, list.items[at++], projection);
-            unchecked_ += 1 + (steps_ - steps);
-            if (unchecked_ < kStepsBetweenChecks) continue;
-            unchecked_ = 0;
-            if (stop()) break;
+    bool resume(Stop&& stop) {
+        while (!levels_.empty()) {
+            for (std::size_t i = 0; i < kStepsBetweenChecks && !levels_.empty(); i += lastCost_) step();
+            if (!levels_.empty() && stop()) return false;
         }
-        return at;
+        return true;
+    }
+    /// The same to the end.
+    void draw(BlockId space, const Projection& projection) {
+        start(space, projection);
+        finish();
     }
     /// Draws one item of a space, or all that a block holds as if a reference of `layer` stood at the origin.
     void drawItem(BlockId space, std::size_t item, const Projection& projection);
@@ -51,19 +53,36 @@ class Renderer {
 
     /// What holds for the items of one list.
     struct State {
-        const DisplayList& list;
+        const DisplayList* list = nullptr;
         Projection projection;
         Context context;
         bool showsZero = true;
-        int depth = 0;
+    };
+    /// A list that is being drawn, or an array of copies of one; those that it stands in lie below it.
+    struct Level {
+        State state;
+        std::size_t next = 0;
+        /// The items to draw, by number; without them all are.
+        std::optional<std::vector<std::uint32_t>> chosen;
+        const Placement* array = nullptr;  ///< the copies that follow
+        Projection outer;                  ///< of the list that the array stands in
+        shapes::CellRange cells;
+        int column = 0;
+        int row = 0;
+        bool isViewport = false;
     };
     void startSpace(const Projection& projection);
-    void drawTop(const DisplayList& list, const Item& item, const Projection& projection);
-    void drawList(const State& state);
+    void finish() {
+        while (!levels_.empty()) step();
+    }
+    void step();
+    void leave();
+    void startCopy(Level& level);
+    std::vector<std::uint32_t> itemsNear(BlockId space, const Projection& projection);
     void drawItem(const State& state, const Item& item);
     void drawDot(const State& state, const Item& item, const Frame& where);
-    void drawPlacement(const State& state, const Item& item, const Placement& placement);
-    void drawViewport(const State& state, const Viewport& viewport);
+    void enterPlacement(const State& state, const Item& item, const Placement& placement);
+    void enterViewport(const State& state, const Viewport& viewport);
     void drawStroke(const State& state, const Stroke& stroke);
     void drawFill(const State& state, const Fill& fill);
     void drawText(const State& state, const Text& text);
@@ -79,16 +98,20 @@ class Renderer {
     Picture& picture_;
     Canvas& canvas_;
     RenderOptions options_;
+    std::vector<Level> levels_;
     Frame clip_;            ///< of the options, or of a viewport
     double rootScale_ = 1;  ///< device units of a drawing unit, for linetypes
-    const std::vector<bool>* frozen_ = nullptr;
+    // Outside of the viewport that is being drawn; a viewport stands in no other.
+    Frame outerClip_;
+    double outerScale_ = 1;
+    std::vector<bool> frozen_;  ///< by layer
     bool inViewport_ = false;
     std::optional<Ink> ink_;
     std::vector<Point2> points_;
     std::vector<Point2> scratch_;
     std::vector<std::uint32_t> ends_;
     std::size_t steps_ = 0;
-    std::size_t unchecked_ = 0;
+    std::size_t lastCost_ = 1;  ///< of a step, about as many things as it drew
 };
 
 }  // namespace picture

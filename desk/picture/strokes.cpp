@@ -86,11 +86,4 @@ void addFill(const std::vector<geometry::Path>& loops, PenId pen, DisplayList& l
     if (fill.endCount > 0) list.fills.push_back(fill);
 }
 
-void addOutline(const std::vector<Point3>& corners, PenId pen, DisplayList& list) {
-    if (corners.size() < 2) return;
-    startStroke(list, pen, Stroke::Kind::Polyline, 0, 0);
-    for (const Point3& corner : corners) addPoint(list, corner);
-    addPoint(list, corners.front());
-}
-
 }  // namespace picture

@@ -12,6 +12,5 @@ void addStroke(const geometry::Curve& curve, PenId pen, float startWidth, float 
 /// A closed area, curves in chords fine enough for any print.
 void addFill(const std::vector<geometry::Path>& loops, PenId pen, DisplayList& list);
 /// A closed thin line.
-void addOutline(const std::vector<Point3>& corners, PenId pen, DisplayList& list);
 
 }  // namespace picture

@@ -94,11 +94,4 @@ std::optional<Viewport> readViewport(dxf::TagReader tags) {
     return viewport;
 }
 
-std::vector<Point3> cornersOf(const Viewport& viewport) {
-    const double x = viewport.width / 2;
-    const double y = viewport.height / 2;
-    const Point3& c = viewport.center;
-    return {c + Vector3{-x, -y, 0}, c + Vector3{x, -y, 0}, c + Vector3{x, y, 0}, c + Vector3{-x, y, 0}};
-}
-
 }  // namespace picture

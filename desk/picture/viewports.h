@@ -4,13 +4,11 @@
 #include "desk/picture/display_list.h"
 
 #include <optional>
-#include <vector>
 
 namespace picture {
 
 /// A VIEWPORT that shows a view; nothing for the one that stands for the paper itself and for one that is
 /// off.
 std::optional<Viewport> readViewport(dxf::TagReader tags);
-std::vector<Point3> cornersOf(const Viewport& viewport);
 
 }  // namespace picture

@@ -1,6 +1,7 @@
 #include "desk/shapes/block_shapes.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace shapes {
@@ -15,6 +16,7 @@ constexpr int kDeepestNesting = 100;
 BlockShapes::BlockShapes(const Drawing& drawing) : drawing_(drawing) { clear(); }
 
 void BlockShapes::clear() {
+    textStyles_ = TextStyles(drawing_);
     shapes_.clear();
     shapes_.resize(drawing_.blocks().size());
     open_.assign(shapes_.size(), false);
@@ -29,6 +31,7 @@ std::optional<Placed> BlockShapes::placed(EntityId id) {
 
 std::vector<bool> BlockShapes::forget(const std::vector<BlockId>& changed) {
     if (changed.empty()) return {};
+    textStyles_ = TextStyles(drawing_);  // with a new definition come the styles of its texts
     shapes_.resize(drawing_.blocks().size());
     open_.resize(shapes_.size());
     std::vector<std::vector<BlockId>> holders(shapes_.size());
@@ -85,21 +88,41 @@ void BlockShapes::addEntity(BlockShape& shape, EntityId id) {
     item.hidesZero = !item.onLayerZero && layer.off;
     if (drawing_.type(id) == "ATTDEF") {
         if (!drawing_.attribute(id).isConstant()) return;
-        item.geometry = readConstantText(drawing_, id);
+        item.geometry = readConstantText(drawing_, id, textStyles_);
     } else {
-        item.geometry = readGeometry(drawing_, id);
+        item.geometry = readGeometry(drawing_, id, textStyles_);
     }
-    for (const EntityId attribute : drawing_.attributes(id)) {
-        if (!drawing_.isDisplayed(attribute)) continue;
-        Geometry text = readGeometry(drawing_, attribute);
-        std::move(text.fills.begin(), text.fills.end(), std::back_inserter(item.geometry.fills));
-    }
+    addInsertions(*this, id, item.placed, item.geometry);
+    forEachShownAttribute(drawing_, id,
+                          [&](EntityId attribute) { addAttribute(*this, attribute, item.geometry); });
     item.bounds = item.geometry.bounds();
-    if (item.placed) item.bounds.add(placedBounds(*this, *item.placed));
+    item.isEndless = !item.geometry.endless.empty();
+    if (item.placed) {
+        item.bounds.add(placedBounds(*this, *item.placed));
+        item.isEndless = item.isEndless || of(item.placed->block).isEndless;
+    }
     // A placed block that draws nothing yet may come to draw something.
     if (item.bounds.empty() && !item.placed) return;
     shape.bounds.add(item.bounds);
+    shape.isEndless = shape.isEndless || item.isEndless;
     shape.items.push_back(std::move(item));
+}
+
+void addAttribute(const BlockShapes& shapes, EntityId attribute, Geometry& geometry) {
+    Geometry text = readGeometry(shapes.drawing(), attribute, shapes.textStyles());
+    std::move(text.texts.begin(), text.texts.end(), std::back_inserter(geometry.texts));
+    addInsertions(shapes, attribute, std::nullopt, geometry);
+}
+
+void addInsertions(const BlockShapes& shapes, EntityId id, const std::optional<Placed>& placed,
+                   Geometry& geometry) {
+    const Drawing& drawing = shapes.drawing();
+    if (placed) {
+        const Point3& base = drawing.blocks()[placed->block].basePoint;
+        geometry.insertions.push_back(placedTransform(shapes, *placed, 0, 0).apply(base));
+    } else if (const std::optional<Point3> place = readTextInsertion(drawing, id)) {
+        geometry.insertions.push_back(*place);
+    }
 }
 
 Box placedBounds(BlockShapes& shapes, const Placed& placed) {

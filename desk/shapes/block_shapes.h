@@ -13,7 +13,8 @@ namespace shapes {
 struct ShapeItem {
     Geometry geometry;
     std::optional<Placed> placed;
-    Box bounds;  ///< in the block's coordinates
+    Box bounds;              ///< in the block's coordinates
+    bool isEndless = false;  ///< something in it reaches beyond all bounds
     /// On layer 0, so it is shown where the reference's layer is on. A nested reference on another layer
     /// that is off hides only what its block has on layer 0, see `hidesZero`.
     bool onLayerZero = false;
@@ -24,6 +25,7 @@ struct ShapeItem {
 struct BlockShape {
     std::vector<ShapeItem> items;
     Box bounds;
+    bool isEndless = false;
 };
 
 /// The shapes of a drawing's blocks, each read when it is first asked for. They stand for the drawing as it
@@ -34,6 +36,7 @@ class BlockShapes {
     /// A block that stands in itself, or nests too deeply, is empty there.
     const BlockShape& of(BlockId block);
     const Drawing& drawing() const { return drawing_; }
+    const TextStyles& textStyles() const { return textStyles_; }
 
     /// The block that an entity shows, see `readPlaced`.
     std::optional<Placed> placed(EntityId id);
@@ -49,11 +52,27 @@ class BlockShapes {
     void addEntity(BlockShape& shape, EntityId id);
 
     const Drawing& drawing_;
+    TextStyles textStyles_;
     std::vector<std::unique_ptr<BlockShape>> shapes_;
     std::vector<bool> open_;  ///< being read
     int depth_ = 0;
     bool lackedBlock_ = false;
 };
+
+/// Adds an attribute of a reference to what the reference draws by itself.
+void addAttribute(const BlockShapes& shapes, EntityId attribute, Geometry& geometry);
+/// Adds the point that a text or a placed block hangs on.
+void addInsertions(const BlockShapes& shapes, EntityId id, const std::optional<Placed>& placed,
+                   Geometry& geometry);
+
+/// The attributes of a reference that are drawn.
+template <typename Visit>
+void forEachShownAttribute(const Drawing& drawing, EntityId id, const Visit& visit) {
+    if (drawing.type(id) != "INSERT") return;
+    for (const EntityId attribute : drawing.attributes(id)) {
+        if (drawing.isDisplayed(attribute)) visit(attribute);
+    }
+}
 
 /// The box about all copies of a placed block, in the coordinates of where it is placed.
 Box placedBounds(BlockShapes& shapes, const Placed& placed);

@@ -7,6 +7,7 @@
 #include "desk/shapes/read_polyline.h"
 #include "desk/shapes/read_tags.h"
 #include "desk/shapes/read_text.h"
+#include "desk/shapes/tolerance_frame.h"
 
 #include <string>
 #include <string_view>
@@ -39,8 +40,17 @@ void addOutline(Path path, Geometry& geometry) {
 void addText(const TextBox& box, Geometry& geometry) {
     if (!box) return;
     const auto& [a, b, c, d] = *box;
-    geometry.fills.push_back({{quadrangle(a, b, c, d)}});
+    geometry.texts.push_back({{quadrangle(a, b, c, d)}});
 }
+
+void addText(const TextPiece& piece, Geometry& geometry) {
+    const auto at = [&](double x, double y) { return piece.frame.apply({x, y, 0}); };
+    const double width = piece.width;
+    geometry.texts.push_back({{quadrangle(at(0, -kDescent), at(width, -kDescent), at(width, 1), at(0, 1))}});
+}
+
+/// One that stores a single line of text.
+bool isLineText(std::string_view type) { return type == "TEXT" || type == "ATTRIB" || type == "ATTDEF"; }
 
 void addFace(const Corners& face, Geometry& geometry) {
     for (int i = 0; i < 4; ++i) {
@@ -57,7 +67,10 @@ void readSolidFill(const dxf::TagReader& tags, Geometry& geometry) {
     geometry.fills.push_back({{quadrangle(a, b, c, d)}});
 }
 
-void readLineText(const dxf::TagReader& tags, Geometry& geometry) { addText(readTextBox(tags), geometry); }
+void readEndlessLine(const dxf::TagReader& tags, bool bothWays, Geometry& geometry) {
+    const LineCurve line = readLine(tags);
+    if (line.end != Vector3{}) geometry.endless.push_back({line.start, line.end, bothWays});
+}
 
 /// The types that draw something by their own groups alone, each with what reads it.
 const std::unordered_map<std::string_view, Read>& readers() {
@@ -80,15 +93,15 @@ const std::unordered_map<std::string_view, Read>& readers() {
         {"SOLID", readSolidFill},
         {"TRACE", readSolidFill},
         {"3DFACE", [](Tags tags, Geometry& g) { addFace(readFace(tags), g); }},
-        {"TEXT", readLineText},
-        {"ATTRIB", readLineText},
-        {"ATTDEF", readLineText},
+        {"RAY", [](Tags tags, Geometry& g) { readEndlessLine(tags, false, g); }},
+        {"XLINE", [](Tags tags, Geometry& g) { readEndlessLine(tags, true, g); }},
+        {"MESH", [](Tags tags, Geometry& g) { addOutline(readMesh(tags), g); }},
+        {"VIEWPORT", [](Tags tags, Geometry& g) { addOutline(readViewportFrame(tags), g); }},
         {"MLINE", [](Tags tags, Geometry& g) { g.strokes = readMLine(tags); }},
         {"IMAGE", [](Tags tags, Geometry& g) { addOutline(readImageFrame(tags), g); }},
         {"OLE2FRAME", [](Tags tags, Geometry& g) { addOutline(readOleFrame(tags), g); }},
         {"WIPEOUT", [](Tags tags, Geometry& g) { g.fills.push_back({{readImageFrame(tags)}}); }},
         {"MULTILEADER", [](Tags tags, Geometry& g) { g = readMultiLeader(tags); }},
-        {"MTEXT", [](Tags tags, Geometry& g) { addText(readMTextBox(tags), g); }},
         {"HATCH", [](Tags tags, Geometry& g) { g.fills.push_back({readHatch(tags).worldLoops()}); }},
     };
     return kReaders;
@@ -129,33 +142,52 @@ Box Geometry::bounds() const {
             for (const Curve& curve : loop) addBounds(curve, box);
         }
     }
+    for (const Fill& text : texts) {
+        for (const Curve& edge : text.loops.front()) addBounds(edge, box);
+    }
+    for (const EndlessLine& line : endless) box.add(line.base);
     for (const Point3& point : points) box.add(point);
     return box;
 }
 
-Geometry readGeometry(const Drawing& drawing, EntityId id) {
+Geometry readGeometry(const Drawing& drawing, EntityId id, const TextStyles& styles) {
     Geometry geometry;
     const std::string_view type = drawing.type(id);
     if (type == "POLYLINE") {
         addPolyline(readPolyline(drawing.tags(id), vertexTags(drawing, id)), geometry);
+    } else if (type == "MTEXT") {
+        addText(readMTextBox(drawing.tags(id), styles), geometry);
+    } else if (type == "TOLERANCE") {
+        ToleranceFrame frame = readTolerance(drawing, id);
+        geometry.strokes = std::move(frame.strokes);
+        for (const TextPiece& piece : frame.texts) addText(piece, geometry);
+    } else if (isLineText(type)) {
+        addText(readTextBox(drawing.tags(id), styles), geometry);
     } else if (const auto found = readers().find(type); found != readers().end()) {
         found->second(drawing.tags(id), geometry);
         if (type == "LEADER") geometry.fills = readLeaderArrow(drawing, id).fills;
+        for (const TextPiece& piece : readExtraTexts(drawing, styles, id)) addText(piece, geometry);
     }
     return geometry;
 }
 
-Box readTextBounds(const Drawing& drawing, EntityId id) {
+Box readTextBounds(const Drawing& drawing, EntityId id, const TextStyles& styles) {
     Box bounds;
-    if (const TextBox box = readTextBox(drawing.tags(id))) {
+    if (const TextBox box = readTextBox(drawing.tags(id), styles)) {
         for (const Point3& corner : *box) bounds.add(corner);
     }
     return bounds;
 }
 
-Geometry readConstantText(const Drawing& drawing, EntityId id) {
+std::optional<Point3> readTextInsertion(const Drawing& drawing, EntityId id) {
+    const std::string_view type = drawing.type(id);
+    if (type != "MTEXT" && !isLineText(type)) return std::nullopt;
+    return readInsertion(drawing.tags(id), type == "MTEXT");
+}
+
+Geometry readConstantText(const Drawing& drawing, EntityId id, const TextStyles& styles) {
     Geometry geometry;
-    addText(readTextBox(drawing.tags(id), false), geometry);
+    addText(readTextBox(drawing.tags(id), styles, false), geometry);
     return geometry;
 }
 

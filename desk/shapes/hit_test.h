@@ -22,4 +22,7 @@ bool touches(const Geometry& geometry, const Transform& transform, const Rectang
 /// Whether all that is drawn lies in the rectangle.
 bool liesInside(const Geometry& geometry, const Transform& transform, const Rectangle& rectangle);
 
+/// The stretch of an endless line, placed by `transform`, that holds all of it within `reach` of a place.
+LineCurve stretchNear(const EndlessLine& line, const Transform& transform, const Point3& place, double reach);
+
 }  // namespace shapes

@@ -17,17 +17,16 @@ class Candidate {
         const Drawing& drawing = shapes.drawing();
         placed_ = readPlaced(drawing, id);
         showsZero_ = !drawing.layer(id).off;
-        if (!placed_) own_ = readGeometry(drawing, id);
-        forEachShownAttribute(drawing, id, [&](EntityId attribute) {
-            Geometry text = readGeometry(drawing, attribute);
-            std::move(text.fills.begin(), text.fills.end(), std::back_inserter(own_.fills));
-        });
+        if (!placed_) own_ = readGeometry(drawing, id, shapes.textStyles());
+        addInsertions(shapes, id, placed_, own_);
+        forEachShownAttribute(drawing, id,
+                              [&](EntityId attribute) { addAttribute(shapes, attribute, own_); });
     }
 
     /// Visits all geometries that may meet the area until `visit` returns false.
     template <typename Visit>
     void walk(const Rectangle& area, ShapeWalk::Copies copies, const Visit& visit) {
-        if (!own_.empty() && !visit(own_, Transform{})) return;
+        if (!visit(own_, Transform{})) return;
         if (placed_) ShapeWalk(shapes_, area, copies, visit).walk(*placed_, showsZero_);
     }
 
@@ -48,12 +47,11 @@ bool reachesInto(Candidate& candidate, const Rectangle& area) {
 }
 
 bool liesWithin(Candidate& candidate, const Rectangle& bounds, const Rectangle& area) {
-    if (area.contains(bounds.low) && area.contains(bounds.high)) return true;
     bool any = false;
     bool inside = true;
     candidate.walk(bounds, ShapeWalk::Copies::Corners,
                    [&](const Geometry& geometry, const Transform& transform) {
-                       any = true;
+                       any = any || !geometry.empty();
                        inside = liesInside(geometry, transform, area);
                        return inside;
                    });
@@ -108,6 +106,12 @@ std::vector<EntityId> entitiesIn(const Drawing& drawing, BlockId space, const Re
     Scene& scene = sceneOf(drawing);
     BlockShapes& shapes = scene.blocks();
     scene.space(space).forEachNear(area, [&](EntityId id, const Rectangle& bounds) {
+        // A reference on a layer that is off needn't draw all that its box is about.
+        const bool boxInside = area.contains(bounds.low) && area.contains(bounds.high);
+        if (boxInside && !drawing.layer(id).off) {
+            result.push_back(id);
+            return true;
+        }
         Candidate candidate(shapes, id);
         const bool chosen = crossing ? reachesInto(candidate, area) : liesWithin(candidate, bounds, area);
         if (chosen) result.push_back(id);

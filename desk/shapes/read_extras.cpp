@@ -1,11 +1,13 @@
 #include "desk/shapes/read_extras.h"
 
-#include "basic/text.h"
 #include "desk/geometry/transform.h"
+#include "desk/shapes/dim_style.h"
 #include "desk/shapes/mtext_layout.h"
 #include "desk/shapes/read_curves.h"
 #include "desk/shapes/read_tags.h"
+#include "desk/shapes/tolerance_frame.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -106,20 +108,6 @@ MultiLeader readContext(dxf::TagReader tags) {
     return std::move(reader.result);
 }
 
-/// Arrow size of a dimension style by its name: DIMASZ (41) times DIMSCALE (40).
-double arrowSize(const Drawing& drawing, std::string_view styleName) {
-    double size = drawing.header().number("$DIMASZ").value_or(0.18);
-    double scale = drawing.header().number("$DIMSCALE").value_or(1);
-    for (const EntityId id : drawing.tableEntries("DIMSTYLE")) {
-        if (!basic::equalIgnoringCase(drawing.name(id), styleName)) continue;
-        forEachTag(drawing.tags(id), [&](const dxf::Tag& tag) {
-            if (tag.code == 41) size = tag.numberOr(size);
-            if (tag.code == 40) scale = tag.numberOr(scale);
-        });
-    }
-    return scale > 0 ? size * scale : size;
-}
-
 }  // namespace
 
 std::vector<Stroke> readMLine(dxf::TagReader tags) {
@@ -191,9 +179,48 @@ Path readOleFrame(dxf::TagReader tags) {
     return outline({a, {b.x, a.y, a.z}, b, {a.x, b.y, a.z}});
 }
 
-std::pair<Point3, Vector3> readEndless(dxf::TagReader tags) {
-    const LineCurve line = readLine(tags);
-    return {line.start, line.end};
+Path readMesh(dxf::TagReader tags) {
+    std::vector<Point3> vertices;
+    std::vector<std::int64_t> faces;  // of each its count of vertices, then these
+    bool inFaces = false;
+    forEachTag(tags, [&](const dxf::Tag& tag) {
+        if (tag.code == 10) vertices.emplace_back();
+        if (!vertices.empty() && takePoint(tag, 10, vertices.back())) return;
+        if (tag.code == 93 || tag.code == 94) inFaces = tag.code == 93;
+        if (tag.code == 90 && inFaces) faces.push_back(tag.integerOr(0));
+    });
+    std::vector<std::pair<std::size_t, std::size_t>> edges;
+    for (std::size_t at = 0; at < faces.size();) {
+        const auto count = static_cast<std::size_t>(std::max<std::int64_t>(faces[at++], 0));
+        if (count > faces.size() - at) break;
+        for (std::size_t i = 0; i < count; ++i) {
+            const auto from = static_cast<std::size_t>(faces[at + i]);
+            const auto to = static_cast<std::size_t>(faces[at + (i + 1) % count]);
+            if (from < vertices.size() && to < vertices.size()) edges.push_back(std::minmax(from, to));
+        }
+        at += count;
+    }
+    std::sort(edges.begin(), edges.end());
+    edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
+    Path path;
+    for (const auto& [from, to] : edges) path.push_back(LineCurve{vertices[from], vertices[to]});
+    return path;
+}
+
+Path readViewportFrame(dxf::TagReader tags) {
+    constexpr std::int64_t kSheet = 1;
+    Point3 center;
+    Vector3 half;
+    std::int64_t number = 0;
+    forEachTag(tags, [&](const dxf::Tag& tag) {
+        if (takePoint(tag, 10, center)) return;
+        if (tag.code == 40) half.x = tag.numberOr(0) / 2;
+        if (tag.code == 41) half.y = tag.numberOr(0) / 2;
+        if (tag.code == 69) number = tag.integerOr(0);
+    });
+    if (number == kSheet || !(half.x > 0 && half.y > 0)) return {};
+    const Vector3 across{half.x, -half.y, 0};
+    return outline({center - half, center + across, center + half, center - across});
 }
 
 Geometry readMultiLeader(dxf::TagReader tags) {
@@ -219,15 +246,13 @@ Geometry readLeaderArrow(const Drawing& drawing, EntityId id) {
     Geometry geometry;
     bool hasArrow = true;
     bool isSpline = false;
-    std::string style;
     forEachTag(drawing.tags(id), [&](const dxf::Tag& tag) {
-        if (tag.code == 3) style = tag.text();
         if (tag.code == 71) hasArrow = tag.integerOr(1) != 0;
         if (tag.code == 72) isSpline = tag.integerOr(0) != 0;
     });
     const Path path = readLeader(drawing.tags(id));
     if (!hasArrow || isSpline || path.empty()) return geometry;
-    const double size = arrowSize(drawing, style);
+    const double size = readDimStyle(drawing, id).arrow;
     const Point3 tip = startPoint(path.front());
     const Point3 from = endPoint(path.front());
     // The host leaves a head off that would hide half of the first stretch.
@@ -237,6 +262,7 @@ Geometry readLeaderArrow(const Drawing& drawing, EntityId id) {
 
 std::vector<TextPiece> readExtraTexts(const Drawing& drawing, const TextStyles& styles, EntityId id) {
     const std::string_view type = drawing.type(id);
+    if (type == "TOLERANCE") return readTolerance(drawing, id).texts;
     if (type != "MULTILEADER" && type != "MLEADER") return {};
     MultiLeader leader = readContext(drawing.tags(id));
     if (leader.text.empty() || !(leader.format.height > 0)) return {};

@@ -18,15 +18,17 @@ std::vector<Stroke> readMLine(dxf::TagReader tags);
 Path readImageFrame(dxf::TagReader tags);
 /// OLE2FRAME: between two corners, 10 and 11.
 Path readOleFrame(dxf::TagReader tags);
-/// RAY and XLINE: where it begins or passes (10), and its direction (11).
-std::pair<Point3, Vector3> readEndless(dxf::TagReader tags);
+/// MESH: the edges of its faces as they are before any smoothing, each once.
+Path readMesh(dxf::TagReader tags);
+/// VIEWPORT: the frame; empty for the one that stands for the sheet itself.
+Path readViewportFrame(dxf::TagReader tags);
 
 /// MULTILEADER: its lines with their landings, and arrow heads.
 Geometry readMultiLeader(dxf::TagReader tags);
-/// The arrow head of a LEADER, sized by its dimension style ($DIMASZ, $DIMSCALE where that has none).
+/// The arrow head of a LEADER, sized by its dimension style.
 Geometry readLeaderArrow(const Drawing& drawing, EntityId id);
 
-/// The text of a MULTILEADER; empty for other types.
+/// The texts of a MULTILEADER or a TOLERANCE; empty for other types.
 std::vector<TextPiece> readExtraTexts(const Drawing& drawing, const TextStyles& styles, EntityId id);
 
 }  // namespace shapes

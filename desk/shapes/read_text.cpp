@@ -181,6 +181,11 @@ struct PlacedLine {
     Extent extent;       ///< in capital heights, the anchor at (0, 0)
 };
 
+/// Whether it hangs on its alignment point.
+bool isJustified(const LineText& text) {
+    return text.hasAlignment && (text.horizontal != kLeft || text.vertical != 0);
+}
+
 std::optional<PlacedLine> placeLine(const LineText& text, const TextFont& font, bool showsTag) {
     const std::string& shown = text.isDefinition && showsTag ? text.tag : text.text;
     if (text.invisible && !(text.isDefinition && showsTag)) return std::nullopt;
@@ -191,7 +196,7 @@ std::optional<PlacedLine> placeLine(const LineText& text, const TextFont& font, 
     for (const TextStretch& stretch : line.stretches) natural += textAdvance(stretch.text, font);
     double height = text.height;
     double widthFactor = std::abs(text.widthFactor);
-    const bool justified = text.hasAlignment && (text.horizontal != kLeft || text.vertical != 0);
+    const bool justified = isJustified(text);
     Point3 anchor = justified ? text.alignment : text.position;
     double rotation = text.rotation;
     int horizontal = justified ? text.horizontal : kLeft;
@@ -281,16 +286,26 @@ std::optional<PlacedMText> placeMText(const MultiText& text, const TextStyle& st
 
 }  // namespace
 
-TextBox readTextBox(dxf::TagReader tags, bool showsTag) {
-    const std::optional<PlacedLine> line = placeLine(readLineText(tags), {}, showsTag);
+TextBox readTextBox(dxf::TagReader tags, const TextStyles& styles, bool showsTag) {
+    const LineText text = readLineText(tags);
+    const std::optional<PlacedLine> line = placeLine(text, styles.find(text.style).font, showsTag);
     if (!line) return std::nullopt;
     return corners(line->extent, line->frame);
 }
 
-TextBox readMTextBox(dxf::TagReader tags) {
-    const std::optional<PlacedMText> placed = placeMText(readMultiText(tags), {});
+TextBox readMTextBox(dxf::TagReader tags, const TextStyles& styles) {
+    const MultiText text = readMultiText(tags);
+    const std::optional<PlacedMText> placed = placeMText(text, styles.find(text.style));
     if (!placed) return std::nullopt;
     return corners({placed->layout.left, placed->layout.right, -placed->layout.height, 0}, placed->frame);
+}
+
+Point3 readInsertion(dxf::TagReader tags, bool isMText) {
+    if (isMText) return readMultiText(tags).position;
+    const LineText text = readLineText(tags);
+    const bool isStretched = text.horizontal == kAligned || text.horizontal == kFit;
+    const bool byAlignment = isJustified(text) && !isStretched;
+    return objectToWorld(text.extrusion).apply(byAlignment ? text.alignment : text.position);
 }
 
 std::vector<TextPiece> readTexts(const Drawing& drawing, const TextStyles& styles, EntityId id,

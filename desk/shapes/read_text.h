@@ -18,9 +18,11 @@ using TextBox = std::optional<std::array<Point3, 4>>;
 
 /// TEXT, ATTRIB, and ATTDEF. An attribute definition shows its tag; a constant one in a placed block, its
 /// text.
-TextBox readTextBox(dxf::TagReader tags, bool showsTag = true);
+TextBox readTextBox(dxf::TagReader tags, const TextStyles& styles, bool showsTag = true);
 /// MTEXT, about its lines as they are laid out.
-TextBox readMTextBox(dxf::TagReader tags);
+TextBox readMTextBox(dxf::TagReader tags, const TextStyles& styles);
+/// The point that a text of either kind hangs on.
+Point3 readInsertion(dxf::TagReader tags, bool isMText);
 
 /// What a TEXT, MTEXT, ATTRIB or ATTDEF shows, in world coordinates; `showsTag` as above.
 std::vector<TextPiece> readTexts(const Drawing& drawing, const TextStyles& styles, EntityId id,

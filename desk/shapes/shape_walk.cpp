@@ -84,7 +84,9 @@ bool ShapeWalk::walkArray(const Placed& placed, const Transform& outer, bool sho
     const Vector3 columnStep = copy(1, 0).origin - first.origin;
     const Vector3 rowStep = copy(0, 1).origin - first.origin;
     const Box box = shapes_.of(placed.block).bounds.transformed(first);
-    const CellRange cells = cellsNear(placement, box, columnStep, rowStep, area_);
+    const CellRange all{0, std::max(placement.columns, 1), 0, std::max(placement.rows, 1)};
+    const CellRange cells =
+        shapes_.of(placed.block).isEndless ? all : cellsNear(placement, box, columnStep, rowStep, area_);
     for (int column = cells.columnBegin; column < cells.columnEnd; ++column) {
         for (int row = cells.rowBegin; row < cells.rowEnd; ++row) {
             if (!walkCopy(placed, copy(column, row), showsZero, depth)) return false;
@@ -96,16 +98,18 @@ bool ShapeWalk::walkArray(const Placed& placed, const Transform& outer, bool sho
 bool ShapeWalk::walkCopy(const Placed& placed, const Transform& toWorld, bool showsZero, int depth) {
     if (++steps_ > kMostSteps) return false;
     const BlockShape& shape = shapes_.of(placed.block);
-    return !mayMeet(shape.bounds.transformed(toWorld)) || walkItems(shape, toWorld, showsZero, depth);
+    if (!shape.isEndless && !mayMeet(shape.bounds.transformed(toWorld))) return true;
+    return walkItems(shape, toWorld, showsZero, depth);
 }
 
 bool ShapeWalk::walkItems(const BlockShape& shape, const Transform& toWorld, bool showsZero, int depth) {
     for (const ShapeItem& item : shape.items) {
         if (++steps_ > kMostSteps) return false;
-        if (!mayMeet(item.bounds.transformed(toWorld))) continue;
+        if (!item.isEndless && !mayMeet(item.bounds.transformed(toWorld))) continue;
         // A reference on layer 0 hands on what holds for it; its own text stands on layer 0 itself.
         const bool shown = showsZero || !item.onLayerZero;
-        if (shown && !item.geometry.empty() && !visit_(item.geometry, toWorld)) return false;
+        const bool hasOwn = !item.geometry.empty() || !item.geometry.insertions.empty();
+        if (shown && hasOwn && !visit_(item.geometry, toWorld)) return false;
         if (!item.placed) continue;
         const bool inner = item.onLayerZero ? showsZero : !item.hidesZero;
         if (!walk(*item.placed, toWorld, inner, depth + 1)) return false;

@@ -17,13 +17,22 @@ void SpaceIndex::Flat::add(const Flat& other) {
 
 SpaceIndex::Entry SpaceIndex::read(EntityId id) {
     const Drawing& drawing = shapes_.drawing();
-    Entry entry{id, kNoBlock, {}};
+    Entry entry{id, kNoBlock, false, {}};
     if (drawing.isErased(id) || !mayDraw(drawing, id)) return entry;
     const std::optional<Placed> placed = shapes_.placed(id);
-    if (placed) entry.block = placed->block;
-    Box box = placed ? placedBounds(shapes_, *placed) : readGeometry(drawing, id).bounds();
-    forEachShownAttribute(drawing, id,
-                          [&](EntityId attribute) { box.add(readTextBounds(drawing, attribute)); });
+    Box box;
+    if (placed) {
+        entry.block = placed->block;
+        entry.isEndless = shapes_.of(placed->block).isEndless;
+        box = placedBounds(shapes_, *placed);
+    } else {
+        const Geometry geometry = readGeometry(drawing, id, shapes_.textStyles());
+        entry.isEndless = !geometry.endless.empty();
+        box = geometry.bounds();
+    }
+    forEachShownAttribute(drawing, id, [&](EntityId attribute) {
+        box.add(readTextBounds(drawing, attribute, shapes_.textStyles()));
+    });
     if (!box.empty()) entry.box = {box.low.x, box.low.y, box.high.x, box.high.y};
     return entry;
 }
@@ -45,15 +54,12 @@ void SpaceIndex::update(const std::vector<EntityId>& entities, const std::vector
         sumUp(at / kStretch);
     };
     for (const EntityId id : entities) {
-        const auto found =
-            std::lower_bound(entries_.begin(), entries_.end(), id,
-                             [](const Entry& entry, EntityId wanted) { return entry.id < wanted; });
-        const auto at = static_cast<std::size_t>(found - entries_.begin());
-        if (found != entries_.end() && found->id == id) {
+        const std::size_t at = placeOf(id);
+        if (at < entries_.size() && entries_[at].id == id) {
             renew(at);
         } else if (!drawing.isErased(id) && drawing.owner(id) == space_) {
             // New ones are the highest, those back from an erasure that the index didn't see lie between.
-            entries_.insert(found, read(id));
+            entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(at), read(id));
             stretches_.resize((entries_.size() + kStretch - 1) / kStretch);
             for (std::size_t stretch = at / kStretch; stretch < stretches_.size(); ++stretch) sumUp(stretch);
         }
@@ -65,15 +71,25 @@ void SpaceIndex::update(const std::vector<EntityId>& entities, const std::vector
 }
 
 void SpaceIndex::sumUp(std::size_t stretch) {
-    Flat box;
+    Stretch sum;
     const std::size_t end = std::min((stretch + 1) * kStretch, entries_.size());
-    for (std::size_t at = stretch * kStretch; at < end; ++at) box.add(entries_[at].box);
-    stretches_[stretch] = box;
+    for (std::size_t at = stretch * kStretch; at < end; ++at) {
+        sum.box.add(entries_[at].box);
+        sum.isEndless = sum.isEndless || entries_[at].isEndless;
+    }
+    stretches_[stretch] = sum;
+}
+
+std::size_t SpaceIndex::placeOf(EntityId id) const {
+    const auto found =
+        std::lower_bound(entries_.begin(), entries_.end(), id,
+                         [](const Entry& entry, EntityId wanted) { return entry.id < wanted; });
+    return static_cast<std::size_t>(found - entries_.begin());
 }
 
 Box SpaceIndex::extents() const {
     Flat all;
-    for (const Flat& stretch : stretches_) all.add(stretch);
+    for (const Stretch& stretch : stretches_) all.add(stretch.box);
     Box box;
     if (all.left > all.right) return box;
     box.add(Point3{all.left, all.bottom, 0});

@@ -19,21 +19,24 @@ class SpaceIndex {
     /// Reads these entities again, and those that show one of these blocks.
     void update(const std::vector<EntityId>& entities, const std::vector<bool>& blocks);
 
-    /// Visits the entities whose boxes meet an area, in drawing order, until `visit` returns false.
+    /// Visits the entities whose boxes meet an area and those that are endless, each with its box, in drawing
+    /// order from the entity `first` on, until `visit` returns false.
     template <typename Visit>
-    void forEachNear(const Rectangle& area, const Visit& visit) const {
+    void forEachNear(const Rectangle& area, const Visit& visit, EntityId first = 0) const {
         const Flat wanted{area.low.x, area.low.y, area.high.x, area.high.y};
-        for (std::size_t stretch = 0; stretch < stretches_.size(); ++stretch) {
-            if (!stretches_[stretch].meets(wanted)) continue;
+        const std::size_t begin = first == 0 ? 0 : placeOf(first);
+        for (std::size_t stretch = begin / kStretch; stretch < stretches_.size(); ++stretch) {
+            if (!stretches_[stretch].box.meets(wanted) && !stretches_[stretch].isEndless) continue;
             const std::size_t end = std::min((stretch + 1) * kStretch, entries_.size());
-            for (std::size_t at = stretch * kStretch; at < end; ++at) {
-                if (entries_[at].box.meets(wanted) && !visit(entries_[at].id, entries_[at].box.rectangle()))
-                    return;
+            for (std::size_t at = std::max(stretch * kStretch, begin); at < end; ++at) {
+                const Entry& entry = entries_[at];
+                if (!entry.isEndless && !entry.box.meets(wanted)) continue;
+                if (!visit(entry.id, (entry.isEndless ? kAll : entry.box).rectangle())) return;
             }
         }
     }
 
-    /// The box about all that is drawn, at height 0; empty where nothing is.
+    /// The box about all that is drawn, without endless lines, at height 0; empty where nothing is.
     Box extents() const;
 
   private:
@@ -49,32 +52,32 @@ class SpaceIndex {
         void add(const Flat& other);
         Rectangle rectangle() const { return {{left, bottom, 0}, {right, top, 0}}; }
     };
+    static constexpr Flat kAll{-Box::kFar, -Box::kFar, Box::kFar, Box::kFar};
+
     struct Entry {
         EntityId id;
         BlockId block;  ///< that it shows, kNoBlock for none
-        Flat box;       ///< meets nothing where it draws nothing
+        bool isEndless = false;
+        Flat box;  ///< meets nothing where it draws nothing
+    };
+    struct Stretch {
+        Flat box;
+        bool isEndless = false;
     };
 
     Entry read(EntityId id);
     void sumUp(std::size_t stretch);
+    /// Of the first entry with this id or a higher one.
+    std::size_t placeOf(EntityId id) const;
 
     BlockShapes& shapes_;
     BlockId space_;
     std::vector<Entry> entries_;  ///< by rising id, which is the drawing order; erased ones stay
-    std::vector<Flat> stretches_;
+    std::vector<Stretch> stretches_;
 };
 
 /// Whether an entity of a space draws anything: it is visible and its layer shown. A reference on a layer
 /// that is off still draws what its block has on other layers.
 bool mayDraw(const Drawing& drawing, EntityId id);
-
-/// The attributes of a reference that are drawn.
-template <typename Visit>
-void forEachShownAttribute(const Drawing& drawing, EntityId id, const Visit& visit) {
-    if (drawing.type(id) != "INSERT") return;
-    for (const EntityId attribute : drawing.attributes(id)) {
-        if (drawing.isDisplayed(attribute)) visit(attribute);
-    }
-}
 
 }  // namespace shapes

@@ -1,6 +1,5 @@
 #include "desk/window/canvas.h"
 
-#include "desk/picture/hits.h"
 #include "desk/window/canvas_state.h"
 
 #include <QKeyEvent>
@@ -96,11 +95,8 @@ Point3 Canvas::cursor() const { return state_->point(); }
 
 EntityId Canvas::entityAt(const Point3& point) const {
     if (!state_->isShowing()) return drawing::kNoEntity;
-    constexpr double kReach = 5;
-    const auto hits = picture::HitFinder(*state_->picture)
-                          .at(state_->space, state_->view.projection(),
-                              state_->view.projection().apply(point), kReach * state_->ratio());
-    return hits.empty() ? drawing::kNoEntity : hits.front().entity;
+    const std::vector<EntityId> found = state_->entitiesAt(point);
+    return found.empty() ? drawing::kNoEntity : found.front();
 }
 
 std::size_t Canvas::inView(const std::vector<EntityId>& entities) const {

@@ -284,7 +284,7 @@ void CanvasState::paintSnap(QPainter& painter) {
         path.addPolygon(polygon);
         path.closeSubpath();
     };
-    using picture::SnapKind;
+    using shapes::SnapKind;
     switch (snap->kind) {
         case SnapKind::End:
             path.addRect(at.x() - kHalf, at.y() - kHalf, 2 * kHalf, 2 * kHalf);

@@ -15,14 +15,16 @@ constexpr double kAtOnce = 25;
 
 /// A picture that is being drawn. The members go in the opposite order: canvas before painter before image.
 struct CanvasPicture::Job {
-    Job(picture::Picture& picture, const CanvasView& view, const painter::Inks& inks, painter::Glyphs& glyphs,
-        const painter::QtCanvas::Style& style, const picture::RenderOptions& options)
+    Job(picture::Picture& picture, drawing::BlockId space, const CanvasView& view, const painter::Inks& inks,
+        painter::Glyphs& glyphs, const painter::QtCanvas::Style& style, const picture::RenderOptions& options)
         : look(view.look()),
           projection(view.projection()),
           image(static_cast<int>(view.width()), static_cast<int>(view.height()), QImage::Format_RGB32),
           painter(prepared(image, inks)),
           canvas(painter, inks, glyphs, style),
-          renderer(picture, canvas, options) {}
+          renderer(picture, canvas, options) {
+        renderer.start(space, projection);
+    }
 
     static QImage* prepared(QImage& image, const painter::Inks& inks) {
         image.fill(inks.ground());
@@ -35,7 +37,6 @@ struct CanvasPicture::Job {
     QPainter painter;
     painter::QtCanvas canvas;
     picture::Renderer renderer;
-    std::size_t next = 0;
     double milliseconds = 0;
 };
 
@@ -116,7 +117,7 @@ void CanvasPicture::start() {
     if (weights_) options.pixelsPerMillimetre = 96 / 25.4 * ratio_;
     painter::QtCanvas::Style style;
     style.hairline = ratio_ < 1.5 ? 1 : 2;
-    job_ = std::make_unique<Job>(*picture_, view_, inks_, glyphs_, style, options);
+    job_ = std::make_unique<Job>(*picture_, space_, view_, inks_, glyphs_, style, options);
 }
 
 bool CanvasPicture::work(int milliseconds) {
@@ -124,9 +125,9 @@ bool CanvasPicture::work(int milliseconds) {
     QElapsedTimer timer;
     timer.start();
     const auto isLate = [&] { return timer.elapsed() >= milliseconds; };
-    job_->next = job_->renderer.drawItems(space_, job_->projection, job_->next, isLate);
+    const bool isComplete = job_->renderer.resume(isLate);
     job_->milliseconds += static_cast<double>(timer.nsecsElapsed()) / 1e6;
-    if (job_->next < picture_->list(space_).items.size()) return false;
+    if (!isComplete) return false;
     job_->canvas.flush();
     job_->painter.end();
     image_ = job_->image;

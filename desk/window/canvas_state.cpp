@@ -1,5 +1,7 @@
 #include "desk/window/canvas_state.h"
 
+#include "desk/shapes/pick.h"
+
 #include <QStyle>
 #include <algorithm>
 #include <cmath>
@@ -229,6 +231,10 @@ bool CanvasState::isPickingEntities() const {
             prompt.asking == Asking::Selection);
 }
 
+std::vector<EntityId> CanvasState::entitiesAt(const Point3& place) const {
+    return shapes::entitiesAt(*drawing, space, place, kPickBox / 2 * ratio() / view.projection().scale());
+}
+
 void CanvasState::updateHover() {
     if (!hasCursor || !isShowing() || isPanning) {
         cycleList.clear();
@@ -237,17 +243,16 @@ void CanvasState::updateHover() {
     const EntityId before = cycleList.chosen();
     const bool asksPoint = prompt.asking == Asking::Point || prompt.asking == Asking::Angle;
     if (isPickingEntities() && !corner) {
-        cycleList.update(picture::HitFinder(*picture).at(space, view.projection(), device(cursor),
-                                                         kPickBox / 2 * ratio()));
+        cycleList.update(entitiesAt(view.projection().unproject(device(cursor))));
     } else {
         cycleList.clear();
     }
     if (picking && asksPoint && snapOn && !zoomsWindow) {
         const double reach = kSnapReach * ratio() / view.projection().scale();
-        snap = picture::findSnap(*picture, space, view.projection().unproject(device(cursor)), reach,
-                                 prompt.base, snap);
+        snap = shapes::findSnap(*drawing, space, view.projection().unproject(device(cursor)), reach,
+                                prompt.base, snap);
         // Any place of a line is less than the axis that the user keeps to.
-        if (orthoOn && prompt.base && snap && snap->kind == picture::SnapKind::Nearest) snap.reset();
+        if (orthoOn && prompt.base && snap && snap->kind == shapes::SnapKind::Nearest) snap.reset();
     } else {
         snap.reset();
     }
@@ -301,10 +306,8 @@ void CanvasState::updateRectangle() {
     if (!corner || zoomsWindow) return;
     const Point2 a = view.projection().apply(*corner);
     const Point2 b = device(cursor);
-    picture::Frame frame;
-    frame.add(a);
-    frame.add(b);
-    inRectangle = picture::HitFinder(*picture).within(space, view.projection(), frame, b.x < a.x);
+    const geometry::Rectangle area(*corner, view.projection().unproject(b));
+    inRectangle = shapes::entitiesIn(*drawing, space, area, b.x < a.x);
 }
 
 void CanvasState::finishRectangle(bool removing) {

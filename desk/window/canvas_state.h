@@ -2,9 +2,8 @@
 
 #include "desk/painter/glyphs.h"
 #include "desk/painter/inks.h"
-#include "desk/picture/hits.h"
 #include "desk/picture/picture.h"
-#include "desk/picture/snap.h"
+#include "desk/shapes/snap.h"
 #include "desk/window/canvas.h"
 #include "desk/window/canvas_lights.h"
 #include "desk/window/canvas_picture.h"
@@ -48,6 +47,8 @@ class CanvasState {
     // Prompts and picks.
     void ask(const CanvasPrompt& prompt);
     bool isPickingEntities() const;
+    /// What lies under the pick box about a place, the nearest first.
+    std::vector<drawing::EntityId> entitiesAt(const geometry::Point3& place) const;
     void updateHover();
     void updateRectangle();
     void selectAt(bool removing);
@@ -99,7 +100,7 @@ class CanvasState {
     bool hasCursor = false;
     QPointF cursor;  ///< logical
     PickCycle cycleList;
-    std::optional<picture::Snap> snap;
+    std::optional<shapes::Snap> snap;
     bool showsTip = false;
     QTimer tipTimer;
 

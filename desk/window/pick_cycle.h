@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desk/picture/hits.h"
+#include "desk/drawing/ids.h"
 
 #include <vector>
 
@@ -10,7 +10,7 @@ namespace window {
 /// other things starts anew, one that still has the chosen thing under it keeps it.
 class PickCycle {
   public:
-    void update(std::vector<picture::Hit> hits) {
+    void update(std::vector<drawing::EntityId> hits) {
         const drawing::EntityId before = chosen();
         const bool wasCycled = cycled_;
         hits_ = std::move(hits);
@@ -18,7 +18,7 @@ class PickCycle {
         cycled_ = false;
         if (!wasCycled) return;
         for (std::size_t i = 0; i < hits_.size(); ++i) {
-            if (hits_[i].entity != before) continue;
+            if (hits_[i] != before) continue;
             at_ = i;
             cycled_ = true;
         }
@@ -31,16 +31,16 @@ class PickCycle {
         cycled_ = true;
         return true;
     }
-    drawing::EntityId chosen() const { return hits_.empty() ? drawing::kNoEntity : hits_[at_].entity; }
+    drawing::EntityId chosen() const { return hits_.empty() ? drawing::kNoEntity : hits_[at_]; }
     /// The one that `next` would give; kNoEntity where there is none.
     drawing::EntityId following() const {
-        return hits_.size() < 2 ? drawing::kNoEntity : hits_[(at_ + 1) % hits_.size()].entity;
+        return hits_.size() < 2 ? drawing::kNoEntity : hits_[(at_ + 1) % hits_.size()];
     }
     std::size_t count() const { return hits_.size(); }
     std::size_t place() const { return at_; }
 
   private:
-    std::vector<picture::Hit> hits_;
+    std::vector<drawing::EntityId> hits_;
     std::size_t at_ = 0;
     bool cycled_ = false;
 };

@@ -60,7 +60,7 @@ inline std::vector<std::string> drawn(Picture& picture, BlockId space,
     options.frame = frame;
     options.smallest = 0;
     options.legible = 0;
-    Renderer(picture, notes, options).drawItems(space, plainProjection(), 0, [] { return false; });
+    Renderer(picture, notes, options).draw(space, plainProjection());
     return notes.lines;
 }
 inline std::vector<std::string> drawn(const Drawing& drawing) {

@@ -65,7 +65,7 @@ TEST(PictureTest, HatchPatternsAreClippedToTheirArea) {
     options.frame = {-100, -100, 100, 100};
     Projection far = plainProjection();
     far.toX.x = far.toY.y = 0.4;
-    Renderer(picture, notes, options).drawItems(drawing->modelSpace(), far, 0, [] { return false; });
+    Renderer(picture, notes, options).draw(drawing->modelSpace(), far);
     EXPECT_EQ(notes.lines, (Lines{"fill2 fore 0,0 4,0 4,4 0,4 1.6,1.6 2.4,1.6 2.4,2.4 1.6,2.4"}));
 }
 
@@ -79,10 +79,36 @@ TEST(PictureTest, ALayoutShowsTheModelThroughItsViewports) {
     const auto drawing = plain.make();
     Picture picture(*drawing);
     // At half size about 105,102; the layer WALLS (handle 11) is frozen in it.
-    EXPECT_EQ(drawn(picture, drawing->blocks().paperSpace()),
-              (Lines{"clip 000000 0,0 10,0 10,10 0,10", "fore 2.5,4 7.5,4", "end",
-                     "fore 0,0 10,0 10,10 0,10 0,0"}));
+    EXPECT_EQ(
+        drawn(picture, drawing->blocks().paperSpace()),
+        (Lines{"fore 0,0 10,0 10,10 0,10 0,0", "clip fore 0,0 10,0 10,10 0,10", "fore 2.5,4 7.5,4", "end"}));
     EXPECT_EQ(drawn(picture, drawing->modelSpace()).size(), 2u);
+}
+
+TEST(PictureTest, APictureDrawnInPortionsIsTheSame) {
+    PlainDrawing plain;
+    plain.block("ROW");
+    for (int i = 0; i < 90; ++i)
+        plain.inBlock("LINE 8 0 10 " + std::to_string(i) + " 20 0 11 " + std::to_string(i) + " 21 1");
+    plain.block("NEST").inBlock("INSERT 2 ROW 8 0 10 0 20 0 70 2 71 3 44 200 45 10");
+    plain.entity("INSERT 2 NEST 8 0 10 0 20 0").entity("INSERT 2 NEST 8 0 10 0 20 500 50 90");
+    const auto drawing = plain.entity("RAY 8 0 10 0 20 -50 11 1 21 0").make();
+    Picture picture(*drawing);
+    Notes notes;
+    RenderOptions options;
+    options.frame = {-1e4, -1e4, 1e4, 1e4};
+    options.smallest = 0;
+    Renderer renderer(picture, notes, options);
+    renderer.start(drawing->modelSpace(), plainProjection());
+    std::size_t portions = 1;
+    while (!renderer.resume([] { return true; })) ++portions;
+    EXPECT_GT(portions, 10u);
+    EXPECT_EQ(notes.lines, drawn(*drawing));
+    EXPECT_EQ(notes.lines.size(), 2u * 6 * 90 + 1);
+    // Of a part only what is near, whatever stands in an array; what has no end is never far.
+    EXPECT_EQ(drawn(picture, drawing->modelSpace(), {199.5, 9.5, 201.5, 10.5}),
+              (Lines{"fore 200,10 200,11", "fore 201,10 201,11"}));
+    EXPECT_EQ(drawn(picture, drawing->modelSpace(), {5000, -51, 5001, -49}).size(), 1u);
 }
 
 TEST(PictureTest, AnUpdateKeepsWhatDidNotChange) {

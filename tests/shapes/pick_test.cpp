@@ -148,6 +148,31 @@ TEST(PickTest, WindowsAndCrossings) {
     EXPECT_EQ(windowed(*drawing, {3.5, 3.5, 0}, {4, 4, 0}, true), (std::vector<int>{6}));
 }
 
+TEST(PickTest, EndlessLinesMeshesTolerancesAndFrames) {
+    PlainDrawing plain;
+    plain.block("AXIS").inBlock("XLINE 8 0 10 0 20 0 11 1 21 0");
+    plain.entity("RAY 8 0 10 0 20 0 11 0 21 1").entity("INSERT 8 0 2 AXIS 10 0 20 -10 50 45");
+    // A strip of two faces, the edge between them once.
+    plain.entity(
+        "MESH 8 0 71 2 72 0 91 0 92 6 10 20 20 0 10 30 20 0 10 40 20 0 10 40 20 10 10 30 20 10 10 20 20 10"
+        " 93 10 90 4 90 0 90 1 90 4 90 5 90 4 90 1 90 2 90 3 90 4 94 0 95 0 90 0");
+    plain.entity("VIEWPORT 8 0 10 70 20 5 40 20 41 10 68 0 69 2");
+    // Two rows, 0.36 high each; the symbol for concentricity in the first cell.
+    plain.entity("TOLERANCE 8 0 10 100 20 0 11 1 21 0 1 {\\Fgdt;r}%%v1%%v%%v%%v%%v^J10");
+    const auto drawing = plain.make();
+    expectPicks(*drawing, 0, {{0, 0}, {0.05, 5000}});
+    expectPicks(*drawing, 1, {{5000, 4990.05}, {-5000, -5010}});
+    expectPicks(*drawing, 2, {{30.05, 5}, {25, 10}});
+    expectPicks(*drawing, 3, {{60, 5}, {70, 0.05}});
+    expectPicks(*drawing, 4, {{100, 0}, {100.2, -0.55}, {100.3, 0}});
+    expectPicks(*drawing, -1, {{0, -1}, {1, 4990}, {25, 5}, {70, 5}, {100, -0.7}});
+    EXPECT_EQ(windowed(*drawing, {-1, 40, 0}, {1, 60, 0}, true), std::vector<int>{0});
+    EXPECT_EQ(windowed(*drawing, {-1, -20, 0}, {1, 60, 0}, false), std::vector<int>{});
+    const Box box = extentsOf(*drawing, drawing->modelSpace());
+    EXPECT_EQ(box.low.x, 0);
+    EXPECT_EQ(box.low.y, -10);
+}
+
 TEST(PickTest, ContoursComeBeforeTheirHatch) {
     const std::string hatch =
         "HATCH 8 0 10 0 20 0 30 0 2 SOLID 70 1 71 0 91 1 92 3 72 0 73 1 93 4 10 0 20 0 10 9 20 0 10 9 20 9 "
