@@ -1,11 +1,15 @@
 #!/usr/bin/env python3
-"""Runs the examples of README, docs and help in the console, so that a sentence that isn't true fails.
+"""Runs the examples of README, docs and help, so that a sentence that isn't true fails.
 
-    check_prose.py CONSOLE [FILE ...]     without files: README*.md, docs/*.md and the help
+    check_prose.py VORLANE [FILE ...]     without files: README*.md, docs/*.md and the help
+
+A recipe is a block of Markdown that a reader copies: ```sh recipe is run by the shell, ```vns recipe DRAWING by the console
+as a script, both where the samples lie. It has to end well and to say nothing on the error stream, and the drawings that it
+leaves have to pass ezdxf's audit.
 
 An example is a comment of HTML, which no reader sees, beside the sentence that it proves:
 
-    <!-- try samples/apartment.dxf [options of the console] [--language fr]
+    <!-- try samples/apartment.dxf [options of the console]
     = points.txt           a file for the folder that it runs in, up to a line "="; \\t is a tab
     ...
     =
@@ -13,8 +17,7 @@ An example is a comment of HTML, which no reader sees, beside the sentence that 
     ;= PORTE_90            the console has printed this since the text expected before
     -->
 
-In Markdown a fenced block that opens with ```console DRAWING [options] is shown and run; what it must print
-stands in a comment right behind it: <!-- prints: text --> ."""
+README.fr.md and the pages in help/fr run on a French desktop, all others on an English one."""
 
 import os
 import re
@@ -24,78 +27,88 @@ import sys
 import tempfile
 from pathlib import Path
 
+import ezdxf
+
 ROOT = Path(__file__).resolve().parent.parent
-HIDDEN = re.compile(r"<!-- try ([^\n]*)\n(.*?)-->", re.S)
-FENCED = re.compile(r"```console ([^\n]*)\n(.*?)```\s*((?:<!-- prints: [^\n]*? -->\s*)*)", re.S)
+RECIPE = re.compile(r"^```(sh|vns) recipe *([^\n]*)\n(.*?)^```$", re.M | re.S)
+EXAMPLE = re.compile(r"<!-- try ([^\n]*)\n(.*?)-->", re.S)
 FILE = re.compile(r"^= (\S+)\n(.*?)^=\n", re.S | re.M)
 
 
-def examples(path):
-    """Line, options and script of each example."""
-    text = path.read_text(encoding="utf-8")
-    for match in HIDDEN.finditer(text):
-        yield text[: match.start()].count("\n") + 1, match.group(1), match.group(2)
-    for match in FENCED.finditer(text):
-        expected = re.findall(r"<!-- prints: (.*?) -->", match.group(3))
-        script = match.group(2) + "".join(f";= {line}\n" for line in expected)
-        yield text[: match.start()].count("\n") + 1, match.group(1), script
+class Run:
+    """A folder with the program and the samples, as a reader has them."""
+
+    def __init__(self, vorlane, folder, language):
+        self.folder = folder
+        (folder / "bin").mkdir()
+        (folder / "bin/vorlane").symlink_to(vorlane)
+        locale = "fr_FR.UTF-8" if language == "fr" else "en_US.UTF-8"
+        self.environment = {"PATH": f"{folder}/bin:{os.environ['PATH']}", "LANG": locale,
+                            "XDG_DATA_HOME": f"{folder}/data", "XDG_STATE_HOME": f"{folder}/state"}
+
+    def __call__(self, command, text=""):
+        done = subprocess.run(command, cwd=self.folder, env=self.environment, input=text.encode(), capture_output=True,
+                              timeout=120)
+        return done.returncode, done.stdout.decode("utf-8", "replace"), done.stderr.decode("utf-8", "replace")
 
 
-def run(console, options, script, folder):
-    """What the console printed and its exit code."""
+def recipe_faults(run, kind, drawing, text):
+    shutil.copytree(ROOT / "samples", run.folder, dirs_exist_ok=True)
+    samples = set(run.folder.iterdir())
+    command = ["sh", "-ec", text] if kind == "sh" else [run.folder / "bin/vorlane", drawing, "--script", "-"]
+    code, told, errors = run(command, text)
+    if code or errors:
+        yield f"exit code {code}\n{told[-1500:]}{errors}"
+    for path in set(run.folder.rglob("*.dxf")) - samples:
+        yield from (f"{path.name}: audit: {error.message}" for error in ezdxf.readfile(path).audit().errors)
+
+
+def example_faults(run, options, script):
+    shutil.copytree(ROOT / "samples", run.folder / "samples")
     for name, content in FILE.findall(script):
-        text = content.replace("\\t", "\t").replace("\n", "\r\n")
-        (folder / name).write_bytes(text.encode("cp1252"))
+        (run.folder / name).write_bytes(content.replace("\\t", "\t").replace("\n", "\r\n").encode("cp1252"))
     lines = [line for line in FILE.sub("", script).splitlines(True) if not line.startswith(";=")]
-    (folder / "script.vns").write_text("".join(lines), encoding="utf-8")
     drawing, *rest = options.split()
-    language = "en"
-    if "--language" in rest:
-        at = rest.index("--language")
-        language = rest[at + 1]
-        del rest[at : at + 2]
-    if "--regional" not in rest:
-        rest += ["--regional", language]
-    locale = "fr_FR.UTF-8" if language == "fr" else "en_US.UTF-8"
-    environment = {"PATH": os.environ["PATH"], "LANG": locale, "XDG_DATA_HOME": str(folder / "data"),
-                   "XDG_STATE_HOME": str(folder / "state")}
-    done = subprocess.run([console, drawing, "--script", "script.vns", *rest], cwd=folder, env=environment,
-                          stdin=subprocess.DEVNULL, capture_output=True, timeout=120)
-    return done.stdout.decode("utf-8", "replace") + done.stderr.decode("utf-8", "replace"), done.returncode
+    code, told, errors = run([run.folder / "bin/vorlane", drawing, "--script", "-", *rest], "".join(lines))
+    if code:
+        yield f"exit code {code}\n{told[-1500:]}{errors}"
+        return
+    at = 0
+    for expected in re.findall(r"^;= (.*)$", script, re.M):
+        found = told.find(expected.strip(), at)
+        if found < 0:
+            yield f"\"{expected}\" isn't printed\n{told[-1500:]}"
+            return
+        at = found + 1
 
 
-def faults(console, path):
-    for line, options, script in examples(path):
-        where = f"{path.relative_to(ROOT)}:{line}"
-        with tempfile.TemporaryDirectory(prefix="vorlane-prose-") as name:
-            folder = Path(name)
-            shutil.copytree(ROOT / "samples", folder / "samples")
-            (folder / "out").mkdir()
-            told, code = run(console, options, script, folder)
-        if code != 0:
-            yield f"{where}: exit code {code}\n{told[-1500:]}"
-            continue
-        at = 0
-        for expected in re.findall(r"^;= (.*)$", script, re.M):
-            found = told.find(expected.strip(), at)
-            if found < 0:
-                yield f"{where}: \"{expected}\" isn't printed\n{told[-1500:]}"
-                break
-            at = found + 1
+def faults(vorlane, path):
+    """How often the examples of a file were run, and what is false."""
+    text = path.read_text(encoding="utf-8")
+    language = "fr" if path.name.endswith(".fr.md") or path.parent.name == "fr" else "en"
+    count, found = 0, []
+    for pattern, check in ((RECIPE, recipe_faults), (EXAMPLE, example_faults)):
+        for match in pattern.finditer(text):
+            if "vorlane picture" in match[0] and not (vorlane.parent / "vorlane-picture").exists():
+                continue  # built without what the window needs
+            count += 1
+            with tempfile.TemporaryDirectory(prefix="vorlane-prose-") as name:
+                where = f"{path.name}:{text[: match.start()].count(chr(10)) + 1}"
+                found += [f"{where}: {fault}" for fault in check(Run(vorlane, Path(name), language), *match.groups())]
+    return count, found
 
 
 def main():
-    console = Path(sys.argv[1]).resolve()
-    files = [Path(name).resolve() for name in sys.argv[2:]] or sorted(
+    vorlane = Path(sys.argv[1]).resolve()
+    files = [Path(name) for name in sys.argv[2:]] or sorted(
         [*ROOT.glob("README*.md"), *ROOT.glob("docs/*.md"), *ROOT.glob("resources/help/*/*.html")])
-    count, found = 0, []
+    total, failed = 0, 0
     for path in files:
-        count += sum(1 for _ in examples(path))
-        found += faults(console, path)
-    for fault in found:
-        print(fault)
-    print(f"{count} examples, {len(found)} false")
-    return 1 if found or not count else 0
+        count, found = faults(vorlane, path)
+        total, failed = total + count, failed + len(found)
+        print("\n".join(found), end="\n" if found else "")
+    print(f"{total} examples, {failed} false")
+    return 1 if failed or not total else 0
 
 
 if __name__ == "__main__":
