@@ -68,8 +68,9 @@ Desk::Desk(const DeskOptions& options, forms::Screen& screen, model::Prompter& p
     prepareInstallFolder(options.installFolder, options.resources,
                          languageByCode(options.frenchDesktop ? "fr" : "en"));
     if (!options.language.empty()) chooseLanguage(options.installFolder, options.language);
-    platform_ = std::make_unique<LinuxPlatform>(options.installFolder, options.regional,
-                                                [this](const std::string& text) { output_ << text << "\n"; });
+    platform_ = std::make_unique<LinuxPlatform>(
+        options.installFolder, options.regional, [this](const std::string& text) { output_ << text << "\n"; },
+        options.showPage);
     const auto watch = [this, also = options.watch] {
         if (break_ != nullptr) break_->check();
         if (also) also();

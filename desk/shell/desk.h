@@ -34,6 +34,7 @@ struct DeskOptions {
     std::function<void(const std::string& path, std::function<void()> reading)> aside;
     /// Called again and again while a command works; it may raise UserBreak. May be empty.
     std::function<void()> watch;
+    LinuxPlatform::ShowPage showPage;  ///< empty: the help tells its text
     std::string language;  ///< display name of a language to be chosen; empty: what the settings say
 };
 

@@ -16,8 +16,11 @@ namespace shell {
 
 namespace fs = std::filesystem;
 
-LinuxPlatform::LinuxPlatform(fs::path installFolder, basic::Regional regional, Tell tell)
-    : installFolder_(std::move(installFolder)), regional_(std::move(regional)), tell_(std::move(tell)) {}
+LinuxPlatform::LinuxPlatform(fs::path installFolder, basic::Regional regional, Tell tell, ShowPage showPage)
+    : installFolder_(std::move(installFolder)),
+      regional_(std::move(regional)),
+      tell_(std::move(tell)),
+      showPage_(std::move(showPage)) {}
 
 std::optional<platform::RegistryValue> LinuxPlatform::queryRegistry(platform::RegistryRoot root,
                                                                     std::string_view keyPath,
@@ -72,6 +75,7 @@ void LinuxPlatform::showHelp(const std::string& helpFile, std::optional<std::int
               " in " + (folder / "help").string());
         return;
     }
+    if (showPage_ && showPage_(*page)) return tell_("[help: " + page->string() + "]");
     std::ifstream file(*page, std::ios::binary);
     const std::string html{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     tell_("[help: " + page->parent_path().filename().string() + "/" + page->filename().string() + "]\n" +

@@ -13,8 +13,13 @@ class LinuxPlatform : public platform::Platform {
   public:
     using Tell = std::function<void(const std::string& text)>;
 
-    /// `tell` receives what can't be shown otherwise: an address where there is no desktop to open it.
-    LinuxPlatform(std::filesystem::path installFolder, basic::Regional regional, Tell tell);
+    /// Shows a help page with its pictures; false where it can't.
+    using ShowPage = std::function<bool(const std::filesystem::path& page)>;
+
+    /// `tell` receives what can't be shown otherwise: an address where there is no desktop to open it, a help
+    /// page without `showPage`.
+    LinuxPlatform(std::filesystem::path installFolder, basic::Regional regional, Tell tell,
+                  ShowPage showPage = {});
 
     std::optional<platform::RegistryValue> queryRegistry(platform::RegistryRoot root,
                                                          std::string_view keyPath,
@@ -27,8 +32,7 @@ class LinuxPlatform : public platform::Platform {
     /// With xdg-open where there is a display; parameters and folder serve nothing here.
     void openDocument(const std::string& document, const std::string& parameters,
                       const std::string& folder) override;
-    /// Tells the text of the page, from the folder "help" beside the help file, in the language that is
-    /// stored.
+    /// Shows or tells the page, from the folder "help" beside the help file, in the language that is stored.
     void showHelp(const std::string& helpFile, std::optional<std::int32_t> context) override;
     const basic::Regional& regional() override { return regional_; }
     void initCommonControls() override {}
@@ -37,6 +41,7 @@ class LinuxPlatform : public platform::Platform {
     std::filesystem::path installFolder_;
     basic::Regional regional_;
     Tell tell_;
+    ShowPage showPage_;
 };
 
 }  // namespace shell

@@ -5,10 +5,12 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDesktopServices>
 #include <QIcon>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStyleFactory>
+#include <QUrl>
 #include <csignal>
 #include <exception>
 #include <iostream>
@@ -24,6 +26,9 @@ shell::DeskOptions deskOptions(const QString& regional) {
     options.stateFolder = shell::stateFolder(shell::readEnvironment);
     options.autosave = true;
     options.frenchDesktop = shell::isFrenchDesktop(shell::readEnvironment);
+    options.showPage = [](const std::filesystem::path& page) {
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(page.string())));
+    };
     return options;
 }
 

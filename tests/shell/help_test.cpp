@@ -76,6 +76,22 @@ TEST_F(HelpPages, WhatTheChosenLanguageLacksComesInEnglish) {
     EXPECT_TRUE(told().starts_with("[help: de/start.html]\n"));
 }
 
+TEST_F(HelpPages, AProgramWithADisplayShowsThePageItself) {
+    const std::string page = folder.file("help/en/start.html");
+    fs::create_directories(folder.file("help/en"));
+    folder.write("help/en/start.html", "<p>Here");
+    folder.write("help/contexts.txt", "0 start\n");
+    bool hasBrowser = true;
+    LinuxPlatform shows{folder.path(), basic::Regional::english(),
+                        [this](const std::string& text) { told_ += text + "\n"; },
+                        [&](const fs::path& shown) { return hasBrowser && shown == page; }};
+    shows.showHelp(folder.file("Vorlane.chm"), std::nullopt);
+    EXPECT_EQ(told(), "[help: " + page + "]\n");
+    hasBrowser = false;
+    shows.showHelp(folder.file("Vorlane.chm"), std::nullopt);
+    EXPECT_EQ(told(), "[help: en/start.html]\nHere\n[end of help]\n");
+}
+
 TEST_F(HelpPages, OnlyFilesAreListed) {
     folder.write("English.LNG", "");
     fs::create_directory(folder.file("folder.LNG"));
