@@ -76,8 +76,8 @@ void writeOptions(std::ostream& page, Verb verb) {
 }
 
 constexpr const char* kExamples[][2] = {
-    {"Replace a door in a folder of drawings, with two of its attribute values:",
-     "vorlane replace --from PORTE_80 --to PORTE_90 --map REPERE=CODE --map LARGEUR=PASSAGE *.dxf --out new"},
+    {"Replace a door in a folder of drawings, with the value of an attribute:",
+     "vorlane replace --from PORTE_80 --to PORTE_90 --map REPERE=CODE *.dxf --out new"},
     {"One table of all terminals for a spreadsheet:", "vorlane extract --block BORNE *.dxf --out table.csv"},
     {"Values to the spreadsheet and back:",
      "vorlane extract --block BORNE --handles *.dxf --out table.csv\n"

@@ -31,6 +31,7 @@ constexpr std::string_view kHelp =
     "  Name = text      types into a text box or an edit field; chooses that entry of a list\n"
     "  Name : text      chooses the entry with that text in any list or combo, whatever the case\n"
     "  Name # n         chooses entry n: lists and combos from 0, rows of a table from 1\n"
+    "  Name # n = text  writes the first text of row n, where the table lets it be edited\n"
     "  key F1, key DOWN presses a key; Name key DOWN in that control; key F1 is the dialog's help\n"
     "  resize w h, move l t   in twips\n"
     "  show             prints the dialog\n"
