@@ -20,6 +20,7 @@ ROOT = Path(__file__).resolve().parent.parent
 SKIPPED = 77
 FORM = re.compile(r'(?:Form|Dialog)\((?:session, )?"(fm\w+)",\s*"(\d*)",\s*"[^"]*"(?:,\s*(\d+))?\)')
 LANGUAGE_FILES = {"fr": "Francais.LNG", "en": "English.LNG"}
+BESIDE = re.compile(r"<!--.*?-->|<code>.*?</code>|<[^>]*>", re.S)  # what isn't prose
 # Entries that no drafter reads: replaced as the dialog opens, or of a control that is never shown.
 UNSEEN = {"001_0", "001_1", "001_2", "001_3", "002_1", "002_3", "002_9", "004_0", "006_1", "009_7", "011_11", "012_35"}
 
@@ -69,6 +70,8 @@ def check_pages():
         text = page.read_text(encoding="utf-8")
         if f'<html lang="{page.parent.name}">' not in text or '<meta charset="utf-8">' not in text:
             yield f"{path}: wrong language or no charset"
+        if page.parent.name == "fr" and (sign := re.search("[^\n]{0,20}([ \n][;:!?»]|«[ \n])", BESIDE.sub("", text))):
+            yield f"{path}: a line may break at \"{sign[0]}\": a no-break space belongs there"
         for link in re.findall(r'(?:href|src)="([^"#]+)', text):
             if not (page.parent / link).is_file():
                 yield f"{path}: dead link {link}"

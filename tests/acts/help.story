@@ -96,8 +96,8 @@ Blocks to replace
   Select
       (beside Selection) select again
   Number of blocks to replace:
-      what the zone holds, dimensions included for a block *D…, which LIST
-      doesn't count
+      what the zone holds, dimensions included for a block *D…; Vorlane's
+      command LIST on Linux doesn't count them
 
 Replacement block
 -----------------
@@ -349,7 +349,10 @@ Label the rooms of a plan with their number and area:
 
 If you cancel
 -------------
-  Esc at the insertion point
+  Esc after Select...
+      a question comes, OK asks again, Cancel brings the dialog back with the
+      block of before
+  at the insertion point
       the series ends cleanly, the dialog comes back
   at the orientation
       nothing is inserted, and the attributes of the label before are asked
@@ -1043,73 +1046,73 @@ VNREPLACE.
 
 Avant de commencer
 ------------------
-  - Une référence sur un calque verrouillé ne peut pas être effacée : le
+  - Une référence sur un calque verrouillé ne peut pas être effacée : le
     remplacement s'arrête là, avec l'ancienne et la nouvelle au même endroit.
     Déverrouillez avant, ou annulez la commande après.
-  - Une référence invisible devient visible : pour la visibilité, Conserver ne
+  - Une référence invisible devient visible : pour la visibilité, Conserver ne
     reprend rien. Pour les échelles et la rotation, la valeur de l'ancienne
     référence est reprise.
-  - Le calque, la couleur et le type de ligne ne sont pas repris : la nouvelle
+  - Le calque, la couleur et le type de ligne ne sont pas repris : la nouvelle
     référence est sur le calque courant, dans l'espace objet, même si
     l'ancienne était dans une présentation. Rendez d'abord courant le calque
     voulu.
   - Une valeur source vide efface la valeur par défaut de l'attribut où elle
     est reportée.
-  - La rotation est en radians : pour un quart de tour tapez 1,5708, non 90.
+  - La rotation est en radians : pour un quart de tour tapez 1,5708, non 90.
   - Le message de succès vient aussi quand il n'y avait rien à remplacer.
     Regardez le nombre avant.
 
 Blocs à remplacer
 -----------------
   Nom de bloc
-      les blocs insérés dans le dessin ; celui qui est choisi sera remplacé.
+      les blocs insérés dans le dessin ; celui qui est choisi sera remplacé.
       Les listes montrent aussi les blocs sans nom, *D… des cotes et *U… des
-      blocs dynamiques ; comme la liste est triée, l'un d'eux peut être choisi
+      blocs dynamiques ; comme la liste est triée, l'un d'eux peut être choisi
       à l'ouverture
   Sélectionner
       (sous la liste) désigner une référence du bloc dans le dessin
-  Zone de référence : Tout le dessin
+  Zone de référence : Tout le dessin
       toutes les références du bloc, y compris celles des présentations
-  Zone de référence : Sélection
-      seulement celles que vous sélectionnez ; la sélection commence aussitôt
+  Zone de référence : Sélection
+      seulement celles que vous sélectionnez ; la sélection commence aussitôt
   Sélectionner
       (à côté de Sélection) refaire la sélection
-  Nombre de blocs à remplacer :
-      ce que la zone contient, cotes comprises pour un bloc *D…, que LIST ne
-      compte pas
+  Nombre de blocs à remplacer :
+      ce que la zone contient, cotes comprises pour un bloc *D… ; la commande
+      LIST de Vorlane sous Linux ne les compte pas
 
 Bloc de remplacement
 --------------------
   Nom du bloc
-      un bloc du dessin, à choisir ou à taper ; les deux commandes de la liste
+      un bloc du dessin, à choisir ou à taper ; les deux commandes de la liste
       sont <<< Sélectionner, qui le désigne dans le dessin, et Parcourir >>>,
       qui le prend dans un fichier de dessin
   Paramètres d'insertion ( Cocher pour modifier )
-      une case cochée remplace la valeur ; une case vide laisse Conserver
+      une case cochée remplace la valeur ; une case vide laisse Conserver
   Rotation
       en radians
   Visibilité
       Visible, Non visible, ou Conserver
   Echelle en X, Echelle en Y, Echelle en Z
-      les trois échelles ; une valeur négative donne le symétrique du bloc
+      les trois échelles ; une valeur négative donne le symétrique du bloc
   Transcription de valeurs d'attributs
-      reporter les valeurs des anciens attributs dans les nouveaux ; possible
+      reporter les valeurs des anciens attributs dans les nouveaux ; possible
       seulement quand les deux blocs ont des attributs et que le second a été
-      choisi dans la liste : après une frappe ou après <<< Sélectionner, la
+      choisi dans la liste : après une frappe ou après <<< Sélectionner, la
       case reste grisée
   Parametrer
       dire quel attribut alimente quel autre
   Remplacer
-      fait le travail ; la boîte reste ouverte
+      fait le travail ; la boîte reste ouverte
   Fermer
       termine la commande
 
 Exemple
 -------
 
-Remplacer toutes les portes PORTE_80 par PORTE_90, en gardant leur repère :
+Remplacer toutes les portes PORTE_80 par PORTE_90, en gardant leur repère :
   1. Choisir PORTE_80 dans Nom de bloc. Le nombre de références s'affiche en
-     bas : 16.
+     bas : 16.
   2. Choisir PORTE_90 dans la liste Nom du bloc.
   3. Cocher Transcription de valeurs d'attributs, cliquer Parametrer et
      associer REPERE à CODE.
@@ -1118,17 +1121,17 @@ Remplacer toutes les portes PORTE_80 par PORTE_90, en gardant leur repère :
 Si vous annulez
 ---------------
   Échap en désignant le bloc à remplacer
-      un objet qui n'est pas un bloc, ou rien : une question vient, OK
-      redemande, Annuler abandonne. Après l'abandon la commande est terminée :
+      un objet qui n'est pas un bloc, ou rien : une question vient, OK
+      redemande, Annuler abandonne. Après l'abandon la commande est terminée :
       relancez-la
   Échap pendant la sélection de la zone
-      la commande est terminée : relancez-la
+      la commande est terminée : relancez-la
   Abandon après <<< Sélectionner
       la boîte revient avec le nom d'avant
   Annuler Parcourir >>>
       la boîte revient, le nom du bloc est vide
   Décocher une case
-      fait perdre la valeur tapée ; la recocher repart de 1, ou de 0 pour la
+      fait perdre la valeur tapée ; la recocher repart de 1, ou de 0 pour la
       rotation
   Après Remplacer
       l'annulation du logiciel de dessin reprend toute la commande en une fois
@@ -1136,13 +1139,13 @@ Si vous annulez
 Limites
 -------
   - Plus de 32 767 références d'un coup sont refusées.
-  - Une cote ne peut pas être remplacée : pour un bloc *D… le remplacement
+  - Une cote ne peut pas être remplacée : pour un bloc *D… le remplacement
     échoue avec l'erreur 438.
   - Un second clic sur Remplacer échoue, puisque les références de la zone
     n'existent plus. Choisissez d'abord la zone, ou le bloc, à nouveau.
   - Changer de bloc à remplacer remet la zone à Tout le dessin.
-  - Le contrôle des nombres a lieu à chaque frappe : vider le champ, ou
-    commencer par un signe moins, affiche déjà le message ; cliquez OK et
+  - Le contrôle des nombres a lieu à chaque frappe : vider le champ, ou
+    commencer par un signe moins, affiche déjà le message ; cliquez OK et
     continuez.
   - Les références à l'intérieur d'autres blocs ne sont pas touchées.
 [end of help]
@@ -1175,45 +1178,45 @@ remplacement. Boîte ouverte par Parametrer dans le remplacement.
 Avant de commencer
 ------------------
   - Le tableau reste le même d'une commande à l'autre. Après un changement de
-    bloc, rouvrez cette boîte : elle refait le tableau, tandis que Remplacer
+    bloc, rouvrez cette boîte : elle refait le tableau, tandis que Remplacer
     sans l'ouvrir se sert de l'ancien.
   - Les valeurs sont prises d'après la place de l'attribut dans la référence,
     non d'après son nom.
-  - Une valeur source vide est reportée elle aussi : elle efface la valeur par
+  - Une valeur source vide est reportée elle aussi : elle efface la valeur par
     défaut de l'attribut de destination.
-  - Rien n'est proposé, même pour des attributs de même nom : une ligne vide
+  - Rien n'est proposé, même pour des attributs de même nom : une ligne vide
     ne reporte rien.
 
 Ce que montre la boîte
 ----------------------
   Tableau des correspondances
-      une ligne par attribut du bloc source ; à droite, l'attribut de
+      une ligne par attribut du bloc source ; à droite, l'attribut de
       destination, vide tant que rien n'est associé
-  Attribut dans le bloc de destination :
-      son étiquette d'attribut pour la ligne choisie ; le choix entre aussitôt
+  Attribut dans le bloc de destination :
+      son étiquette d'attribut pour la ligne choisie ; le choix entre aussitôt
       dans le tableau
   OK
-      ferme la boîte ; le tableau reste
+      ferme la boîte ; le tableau reste
 
 Exemple
 -------
 
 La porte à remplacer a REPERE, LARGEUR et FEU, la porte nouvelle CODE, PASSAGE
-et COUPE_FEU. Cliquez la ligne REPERE et choisissez CODE : chaque porte garde
+et COUPE_FEU. Cliquez la ligne REPERE et choisissez CODE : chaque porte garde
 son repère. LARGEUR reste sans correspondance, car la largeur de 80 serait
-fausse sur une porte de 90 ; FEU aussi, car ses valeurs vides effaceraient «
-néant ».
+fausse sur une porte de 90 ; FEU aussi, car ses valeurs vides effaceraient
+« néant ».
 
 Si vous annulez
 ---------------
 
 Il n'y a pas de bouton Annuler. Une association ne s'efface pas, elle se
 déplace seulement. Pour repartir de zéro, fermez la boîte par sa case de
-fermeture : le tableau est alors perdu, et refait vide la fois suivante.
+fermeture : le tableau est alors perdu, et refait vide la fois suivante.
 
 Limites
 -------
-  - Deux lignes vers le même attribut : c'est la plus haute qui l'emporte.
+  - Deux lignes vers le même attribut : c'est la plus haute qui l'emporte.
   - La boîte garde la langue de sa première ouverture jusqu'à la fermeture du
     logiciel de dessin.
 [end of help]
@@ -1269,10 +1272,10 @@ Avant de commencer
 ------------------
   - Une ligne de repérage est demandée à chaque étiquette tant qu'on ne la
     décoche pas dans Paramètre d'insertion.
-  - Échap pendant la désignation d'un point ou d'un objet à lire : l'étiquette
+  - Échap pendant la désignation d'un point ou d'un objet à lire : l'étiquette
     prend la valeur de la désignation précédente, sans message.
   - Un objet désigné sans longueur, périmètre ni circonférence, un texte ou un
-    arc par exemple, ne donne rien pour ces modes : il ne reste que le préfixe
+    arc par exemple, ne donne rien pour ces modes : il ne reste que le préfixe
     et le suffixe. Un arc a une aire, un texte non. Un objet qui a deux de ces
     mesures donne leur somme.
   - Passer à une ligne réglée sur Incrément Auto remet son compteur à la
@@ -1280,19 +1283,19 @@ Avant de commencer
 
 Ce que montre la boîte
 ----------------------
-  Nom du bloc à insérer :
+  Nom du bloc à insérer :
       le bloc qui sert d'étiquette, à choisir ou à taper
   Sélectionner...
       le désigner dans le dessin
   Parcourir...
       le prendre dans un fichier de dessin
   Valeurs des attributs
-      une ligne par attribut : son étiquette d'attribut, sa valeur, son mode ;
+      une ligne par attribut : son étiquette d'attribut, sa valeur, son mode ;
       sous la liste, la valeur et le mode de la ligne choisie
   ...
-      le format du mode choisi : préfixe, suffixe, décimales ou compteur
+      le format du mode choisi : préfixe, suffixe, décimales ou compteur
   Paramètres
-      échelles, rotation et ligne de repérage : Paramètre d'insertion
+      échelles, rotation et ligne de repérage : Paramètre d'insertion
   Insérer
       commence à placer les étiquettes
   Fermer
@@ -1303,9 +1306,9 @@ Les modes
   Saisie manuel
       la valeur tapée
   Abscisse X Auto, Ordonnée Y Auto, Cote Z Auto
-      une coordonnée d'un point ; un seul clic sert aux trois
+      une coordonnée d'un point ; un seul clic sert aux trois
   Longueur Auto Monoclic, Périmètre Auto Monoclic, Aire Auto Monoclic
-      la mesure d'un objet désigné ; un seul clic sert aux trois, ainsi qu'au
+      la mesure d'un objet désigné ; un seul clic sert aux trois, ainsi qu'au
       calque et à la couleur
   Longueur Auto Polyclic, Périmètre Auto Polyclic, Aire Auto Polyclic
       la mesure d'un contour cliqué point par point, terminé par Entrée ou
@@ -1320,50 +1323,53 @@ Les modes
 Exemple
 -------
 
-Étiqueter les pièces d'un plan avec leur numéro et leur aire :
+Étiqueter les pièces d'un plan avec leur numéro et leur aire :
   1. Choisir le bloc d'étiquette.
-  2. Cliquer la ligne du numéro, choisir Incrément Auto, puis ... : valeur
+  2. Cliquer la ligne du numéro, choisir Incrément Auto, puis ... : valeur
      initiale 1, pas 1.
-  3. Cliquer la ligne de la surface, choisir Aire Auto Polyclic, puis ... :
-     suffixe « m² » précédé d'une espace, 2 décimales.
-  4. Cliquer Insérer. Pour chaque pièce : le point d'insertion, les coins de
+  3. Cliquer la ligne de la surface, choisir Aire Auto Polyclic, puis ... :
+     suffixe « m² » précédé d'une espace, 2 décimales.
+  4. Cliquer Insérer. Pour chaque pièce : le point d'insertion, les coins de
      la pièce puis Entrée, et la ligne de repérage si elle est demandée.
   5. Échap au point d'insertion ramène la boîte.
 
 Si vous annulez
 ---------------
-  Échap au point d'insertion
+  Échap après Sélectionner...
+      une question vient, OK redemande, Annuler ramène la boîte avec le bloc
+      d'avant
+  au point d'insertion
       la série se termine proprement, la boîte revient
   à l'orientation
       rien n'est inséré, et les attributs de l'étiquette précédente sont
       redemandés et récrits
   à un point ou un objet à lire
-      l'étiquette prend la valeur de la désignation précédente ; sans
+      l'étiquette prend la valeur de la désignation précédente ; sans
       précédente, une valeur vide
   dans un contour cliqué
       le contour se termine, comme par Entrée
   au 1er point de la ligne de repérage
-      le 2e point est encore demandé, puis la série s'arrête ; l'étiquette
+      le 2e point est encore demandé, puis la série s'arrête ; l'étiquette
       reste
   au 2e point de la ligne de repérage
-      une ligne est tracée jusqu'au bout de celle d'avant, s'il y en a une ;
+      une ligne est tracée jusqu'au bout de celle d'avant, s'il y en a une ;
       la série s'arrête, l'étiquette reste
 
-Les étiquettes déjà placées restent dans le dessin ; l'annulation du logiciel
+Les étiquettes déjà placées restent dans le dessin ; l'annulation du logiciel
 de dessin reprend toute la commande en une fois.
 
 Limites
 -------
   - Deux séries d'Insérer à la suite continuent le compte. La première
     étiquette d'un compteur montre la valeur initiale telle que tapée, 001 par
-    exemple ; les suivantes sont 2, 3, et ainsi de suite.
+    exemple ; les suivantes sont 2, 3, et ainsi de suite.
   - Avec les flèches du clavier, les champs sous la liste ont une ligne de
     retard. Cliquez plutôt.
-  - Le format est retenu par mode, d'une séance à l'autre ; les valeurs et les
+  - Le format est retenu par mode, d'une séance à l'autre ; les valeurs et les
     modes des attributs ne le sont pas.
   - Choisir un autre bloc remet les échelles à 1 et la rotation à 0.
   - Après Parcourir annulé, le nom est vide mais les lignes restent, et
-    Insérer aussi : il ne place rien.
+    Insérer aussi : il ne place rien.
 [end of help]
 > Combo1 = Aire Auto Monoclic
 (typed only; "Combo1 : Aire Auto Monoclic" chooses the entry)
@@ -1404,31 +1410,31 @@ sauf la saisie manuelle.
 Avant de commencer
 ------------------
   - La valeur initiale et le pas se lisent avec un point décimal, quels que
-    soient vos réglages : 0.5, non 0,5. Un texte qui n'est pas un nombre
+    soient vos réglages : 0.5, non 0,5. Un texte qui n'est pas un nombre
     compte pour 0, sans message.
   - OK sur un compteur le remet à sa valeur initiale.
-  - Le format appartient au mode : un attribut qui prendra ce mode plus tard
+  - Le format appartient au mode : un attribut qui prendra ce mode plus tard
     le reçoit. Un autre attribut qui l'a déjà garde le sien tant que sa ligne
     n'est pas choisie à nouveau.
 
 Ce que montre la boîte
 ----------------------
-  Attribut 1 :
-      son étiquette d'attribut ; le texte dit toujours 1
-  Mode de détermination :
+  Attribut 1 :
+      son étiquette d'attribut ; le texte dit toujours 1
+  Mode de détermination :
       le mode de la ligne
   Valeur
       le cadre des réglages, selon le mode
   Préfixe, Suffixe
       écrits avant et après la valeur, espaces compris
   Nombre de décimaux
-      de 0 à 9, pour les coordonnées et les mesures ; la valeur est arrondie.
-      La liste montre des masques, 0.00 pour deux décimales ; la valeur
+      de 0 à 9, pour les coordonnées et les mesures ; la valeur est arrondie.
+      La liste montre des masques, 0.00 pour deux décimales ; la valeur
       s'écrit avec le séparateur décimal de votre système
   Valeur initiale
       à la place des décimales, pour un compteur
   Pas d'incrémentation
-      ce que le compteur ajoute à chaque étiquette ; négatif ou fractionnaire
+      ce que le compteur ajoute à chaque étiquette ; négatif ou fractionnaire
       si l'on veut
   OK
       garde le format pour cet attribut et pour le mode
@@ -1438,8 +1444,8 @@ Ce que montre la boîte
 Exemple
 -------
 
-Préfixe « L= », suffixe « m » précédé d'une espace, deux décimales : une
-longueur de 12,346 s'écrit « L=12,35 m ».
+Préfixe « L= », suffixe « m » précédé d'une espace, deux décimales : une
+longueur de 12,346 s'écrit « L=12,35 m ».
 [end of help]
 > CancelButton
 [fmAttFormat] hidden
@@ -1474,7 +1480,7 @@ l'étiquetage.
 Avant de commencer
 ------------------
   - Un champ qui n'est pas un nombre, avec le séparateur de votre système,
-    compte pour 0. Une échelle de 0 n'insère rien, sans message : les points
+    compte pour 0. Une échelle de 0 n'insère rien, sans message : les points
     de la ligne de repérage sont demandés et la ligne est tracée tout de même.
   - La ligne de repérage est cochée au départ.
   - Le départ au point de sélection ne vaut que pour une seule valeur
@@ -1489,22 +1495,22 @@ Ce que montre la boîte
   Rotation
       Angle de rotation (°), en degrés
   Spécifier à l'écran
-      demander l'orientation de chaque étiquette dans le dessin ; l'angle tapé
+      demander l'orientation de chaque étiquette dans le dessin ; l'angle tapé
       est alors ignoré
   Ligne de repérage
-      Tracer une ligne de repérage : une ligne simple par étiquette
+      Tracer une ligne de repérage : une ligne simple par étiquette
   A partir d'un nouveau point
       les deux extrémités sont demandées
   A partir du point de sélection monoclic
-      la ligne part du clic qui a servi à lire la valeur ; seule la seconde
+      la ligne part du clic qui a servi à lire la valeur ; seule la seconde
       extrémité est demandée
   OK
-      revient à l'étiquetage ; il n'y a pas de bouton Annuler
+      revient à l'étiquetage ; il n'y a pas de bouton Annuler
 
 Exemple
 -------
 
-Pour coter l'altitude d'un point : mode Cote Z Auto sur l'attribut, A partir
+Pour coter l'altitude d'un point : mode Cote Z Auto sur l'attribut, A partir
 du point de sélection monoclic ici. La ligne part du point relevé, vous
 cliquez l'autre extrémité.
 
@@ -1540,8 +1546,8 @@ fichier texte que lisent un tableur et la réinsertion. Commande VNEXTRACT.
 Avant de commencer
 ------------------
   - Un fichier du même nom est remplacé sans question, et une écriture qui
-    échoue n'est pas signalée : vérifiez que le fichier est là.
-  - Effacer laisse le tableau non enregistré : répondre Oui à la question de
+    échoue n'est pas signalée : vérifiez que le fichier est là.
+  - Effacer laisse le tableau non enregistré : répondre Oui à la question de
     fermeture écrit alors un fichier vide.
   - Après un premier enregistrement, annuler la boîte des fichiers récrit le
     même fichier.
@@ -1549,11 +1555,11 @@ Avant de commencer
     décimal de votre système, dans le tableau comme dans le fichier.
   - Les valeurs se rangent d'après la place de l'attribut. Une référence qui a
     moins d'attributs que le modèle voit son calque et sa couleur glisser vers
-    la gauche ; une qui en a plus arrête l'extraction.
+    la gauche ; une qui en a plus arrête l'extraction.
 
 Ce que montre la boîte
 ----------------------
-  Nom du bloc :
+  Nom du bloc :
       le bloc du tableau
   Données extraites
       une ligne par référence
@@ -1564,8 +1570,8 @@ Ce que montre la boîte
   Effacer
       vider le tableau
   Fermer
-      terminer ; une question vient si le tableau n'est pas enregistré.
-      Répondre Oui enregistre et ramène la boîte : cliquez encore Fermer
+      terminer ; une question vient si le tableau n'est pas enregistré.
+      Répondre Oui enregistre et ramène la boîte : cliquez encore Fermer
 
 Les colonnes
 ------------
@@ -1578,9 +1584,9 @@ Les colonnes
   Rotation
       en radians
   une par attribut
-      la valeur ; le titre est l'étiquette d'attribut du modèle
+      la valeur ; le titre est l'étiquette d'attribut du modèle
   Calque, Couleur
-      le calque ; le numéro de couleur, 256 pour « DuCalque »
+      le calque ; le numéro de couleur, 256 pour « DuCalque »
 
 Exemple
 -------
@@ -1598,7 +1604,7 @@ Si vous annulez
   Échap pendant la sélection de la zone
       la commande est terminée, le tableau perdu
   Annuler la boîte des fichiers
-      rien n'est écrit la première fois ; ensuite le dernier fichier est
+      rien n'est écrit la première fois ; ensuite le dernier fichier est
       récrit
 
 Limites
@@ -1626,9 +1632,9 @@ continuer.
 
 Avant de commencer
 ------------------
-  - Annuler ne ramène pas le tableau d'avant : ses colonnes sont déjà celles
+  - Annuler ne ramène pas le tableau d'avant : ses colonnes sont déjà celles
     du bloc désigné, et ses lignes sont parties.
-  - Fermer la boîte par sa case de fermeture n'annule pas : la sélection de la
+  - Fermer la boîte par sa case de fermeture n'annule pas : la sélection de la
     zone suit.
 
 Ce que montre la boîte
@@ -1643,7 +1649,7 @@ Ce que montre la boîte
 Exemple
 -------
 
-Vous avez touché un poteau au lieu de la table : Recommencer, puis cliquez la
+Vous avez touché un poteau au lieu de la table : Recommencer, puis cliquez la
 table.
 [end of help]
 > CancelButton
@@ -1702,7 +1708,7 @@ Avant de commencer
   - Un second fichier dans la même boîte garde les colonnes du premier, et sa
     ligne de titres devient une ligne de données. Fermez et relancez la
     commande.
-  - Un fichier qui n'est pas là ne donne aucun message : regardez si les
+  - Un fichier qui n'est pas là ne donne aucun message : regardez si les
     lignes sont arrivées.
   - Un second clic sur Insérer insère tout une seconde fois.
   - Les deltas ne font rien tant que le trait de repérage n'est pas coché.
@@ -1711,45 +1717,45 @@ Avant de commencer
 Ce que montre la boîte
 ----------------------
   Nom du bloc
-      le bloc à insérer ; les deux commandes de la liste, <<< Sélectionner et
+      le bloc à insérer ; les deux commandes de la liste, <<< Sélectionner et
       Parcourir >>>, le désignent dans le dessin ou le prennent dans un
       fichier de dessin. Dans un dessin sans aucun bloc la liste est vide, ces
       deux commandes comprises
   Données d'insertion
       choisir le fichier, fait par l'extraction ou par un tableur
   Attributs de ''
-      la correspondance : un paramètre par ligne, et la colonne ou la
+      la correspondance : un paramètre par ligne, et la colonne ou la
       constante qui le donne
   Valeur
-      ce que vaut le paramètre de la ligne choisie : un nom de colonne de la
+      ce que vaut le paramètre de la ligne choisie : un nom de colonne de la
       liste, ou un texte tapé qui vaut pour toutes les lignes
-  Données d'insertion : ''
+  Données d'insertion : ''
       les lignes du fichier
   Ajouter un trait de repérage
       décaler chaque bloc de DeltaX, DeltaY, DeltaZ et tracer une ligne depuis
-      sa position d'origine ; possible dès qu'un delta n'est pas 0
+      sa position d'origine ; possible dès qu'un delta n'est pas 0
   Insérer
-      insère ; possible avec un bloc et un fichier
+      insère ; possible avec un bloc et un fichier
   Fermer
       termine la commande
 
 Le fichier
 ----------
 
-Un texte séparé par des tabulations : une ligne de titre, une ligne de noms de
+Un texte séparé par des tabulations : une ligne de titre, une ligne de noms de
 colonnes, puis une ligne par bloc. Sans réglage, les colonnes sont reconnues à
-leur place, qui est celle de l'extraction : numéro, X, Y, Z, trois échelles,
+leur place, qui est celle de l'extraction : numéro, X, Y, Z, trois échelles,
 rotation, attributs.
 
 Exemple
 -------
 
-Placer les points d'un levé dont les colonnes sont « Point », « Est », « Nord
-», « Alti » :
+Placer les points d'un levé dont les colonnes sont « Point », « Est »,
+« Nord », « Alti » :
   1. Choisir le bloc, puis Données d'insertion et le fichier.
-  2. Ligne X_ : choisir Est. Ligne Y_ : Nord. Ligne Z_ : Alti.
-  3. Lignes Ech.X, Ech.Y, Ech.Z : taper 1. Ligne Rotation(rd) : taper 0.
-  4. Ligne de l'attribut du numéro : choisir Point. Cliquer Insérer.
+  2. Ligne X_ : choisir Est. Ligne Y_ : Nord. Ligne Z_ : Alti.
+  3. Lignes Ech.X, Ech.Y, Ech.Z : taper 1. Ligne Rotation(rd) : taper 0.
+  4. Ligne de l'attribut du numéro : choisir Point. Cliquer Insérer.
 
 Si vous annulez
 ---------------
@@ -1762,21 +1768,21 @@ Si vous annulez
       relit le fichier d'avant, et ses lignes viennent alors sans ligne de
       titres
   Case de fermeture
-      la boîte revient, vidée : seul Fermer ferme
+      la boîte revient, vidée : seul Fermer ferme
 
 Limites
 -------
   - Le message final commence par le succès, même quand des lignes ont échoué.
     Seules les lignes dont un nombre ne se lit pas sont nommées, par leur rang
-    dans le tableau ; la ligne du fichier est ce rang plus 2. Un bloc inconnu
+    dans le tableau ; la ligne du fichier est ce rang plus 2. Un bloc inconnu
     ne donne rien du tout, sans un mot.
   - Une ligne qui échoue peut laisser son trait de repérage.
   - Les deux commandes de la liste comptent par leur place, première et
     deuxième. Un bloc dont le nom passe avant elles, comme ceux qui commencent
-    par une étoile, prend cette place : le choisir lance alors la commande.
+    par une étoile, prend cette place : le choisir lance alors la commande.
   - Changer de bloc, ou charger le premier fichier, remet toute la
     correspondance à son ordre de départ.
-  - Calque et couleur du fichier n'agissent pas : le bloc va sur le calque
+  - Calque et couleur du fichier n'agissent pas : le bloc va sur le calque
     courant.
 [end of help]
 > BtnClose
@@ -1802,7 +1808,7 @@ Ce qu'est Vorlane, sa version, sa langue. Commande VNABOUT.
 
 Avant de commencer
 ------------------
-  - Il n'y a rien à valider : le choix de la langue est enregistré dès qu'il
+  - Il n'y a rien à valider : le choix de la langue est enregistré dès qu'il
     est fait, et fermer la boîte ne l'annule pas.
   - La liste accepte la frappe. Un nom qui n'est pas celui d'une langue
     installée, même commencé, donne la première langue de la liste.
@@ -1812,12 +1818,12 @@ Ce que montre la boîte
   Les trois premières lignes
       le produit et sa version, les droits, l'adresse du site
   Le texte
-      ce que fait Vorlane et où trouver l'aide ; il se lit, il ne se modifie
+      ce que fait Vorlane et où trouver l'aide ; il se lit, il ne se modifie
       pas
   Go Web
       ouvre la page du produit dans le navigateur
   Select language
-      la liste des langues installées ; l'invite est en anglais pour qui se
+      la liste des langues installées ; l'invite est en anglais pour qui se
       serait perdu
   OK
       ferme la boîte
@@ -1825,14 +1831,14 @@ Ce que montre la boîte
 Exemple
 -------
 
-Choisissez English dans la liste : la boîte passe aussitôt en anglais et le
+Choisissez English dans la liste : la boîte passe aussitôt en anglais et le
 choix est enregistré. La commande suivante montre ses boîtes en anglais.
 
 Limites
 -------
-  - Les autres boîtes changent de langue à la commande suivante ; celle de la
+  - Les autres boîtes changent de langue à la commande suivante ; celle de la
     transcription la garde jusqu'à la fermeture du logiciel de dessin.
-  - Quelques textes restent français dans toutes les langues ; le sommaire en
+  - Quelques textes restent français dans toutes les langues ; le sommaire en
     donne la liste.
   - Une langue de plus s'ajoute en déposant son fichier dans le dossier
     d'installation.
@@ -1850,24 +1856,24 @@ référence à la fois, Vorlane les traite toutes d'un coup.
 Les commandes
 -------------
   Remplacement de blocs
-      VNREPLACE : remplacer toutes les références d'un bloc par un autre bloc,
+      VNREPLACE : remplacer toutes les références d'un bloc par un autre bloc,
       avec ou sans reprise des échelles, de la rotation et des attributs.
   Etiquetage
-      VNLABEL : insérer un bloc autant de fois que l'on clique et remplir ses
-      attributs avec des valeurs lues dans le dessin : coordonnées, longueur,
+      VNLABEL : insérer un bloc autant de fois que l'on clique et remplir ses
+      attributs avec des valeurs lues dans le dessin : coordonnées, longueur,
       aire, calque, compteur.
   Extraction des données des blocs
-      VNEXTRACT : mettre les références d'un bloc en tableau, puis dans un
+      VNEXTRACT : mettre les références d'un bloc en tableau, puis dans un
       fichier texte.
   Réinsertion des blocs
-      VNINSERT : insérer un bloc pour chaque ligne d'un tel fichier.
+      VNINSERT : insérer un bloc pour chaque ligne d'un tel fichier.
   A propos de Vorlane
-      VNABOUT : la version et le choix de la langue.
+      VNABOUT : la version et le choix de la langue.
   Aide de Vorlane
-      VNHELP : cette page. F1 dans une boîte de dialogue ouvre la page de
+      VNHELP : cette page. F1 dans une boîte de dialogue ouvre la page de
       cette boîte.
 
-Un message inattendu, une erreur avec un numéro, rien du tout ? Quand Vorlane
+Un message inattendu, une erreur avec un numéro, rien du tout ? Quand Vorlane
 dit…
 
 Les autres boîtes de dialogue
@@ -1879,18 +1885,18 @@ Les autres boîtes de dialogue
 
 Ce qui vaut partout
 -------------------
-  - Décimales. Un nombre s'écrit avec le séparateur décimal de votre système :
+  - Décimales. Un nombre s'écrit avec le séparateur décimal de votre système :
     la virgule sous des réglages français, le point sous des réglages anglais.
     Un fichier de données créé sur un poste réglé sur la virgule décimale ne
-    se relit pas tel quel sur un poste à point : 12,5 y devient 125, sans
+    se relit pas tel quel sur un poste à point : 12,5 y devient 125, sans
     avertissement. Dans l'autre sens, les lignes sont refusées.
   - Calque. Les références et les lignes nouvelles vont sur le calque courant,
     dans l'espace objet.
   - Radians. La rotation est en radians dans le remplacement, l'extraction et
-    la réinsertion ; en degrés dans l'étiquetage seulement. Un quart de tour
+    la réinsertion ; en degrés dans l'étiquetage seulement. Un quart de tour
     vaut 1,5708 radian, un demi-tour 3,1416.
   - Échap. Échap pendant une désignation l'abandonne. Selon la commande, la
-    boîte revient ou la commande s'arrête : chaque page le dit. Ce qui est
+    boîte revient ou la commande s'arrête : chaque page le dit. Ce qui est
     déjà inséré reste dans le dessin.
   - Annuler. Une commande entière s'annule en une fois, par U ou Ctrl+Z.
 
@@ -1904,7 +1910,7 @@ Glossaire
       insertion point, scale, rotation
       attribut, étiquette d'attribut, valeur
       attribute, tag, value
-      désigner ; sélectionner
+      désigner ; sélectionner
       pick; select
       zone
       zone: the part of the drawing that is treated
@@ -1922,15 +1928,15 @@ Glossaire
 Ce qui reste français, ou anglais, dans toutes les langues
 ----------------------------------------------------------
 
-Ces textes ne viennent d'aucun fichier de langue ; la page anglaise en donne
+Ces textes ne viennent d'aucun fichier de langue ; la page anglaise en donne
 la traduction.
   - Les modes de l'étiquetage, les colonnes des tableaux et du fichier de
     données, les questions posées dans le dessin par l'étiquetage et la
     réinsertion.
-  - « Vorlane : Erreur », la boîte de la ligne de repérage ; « Erreur » et un
-    numéro au lancement d'une commande ; « L'objet selectionné n'est pas un
-    bloc. » dans la réinsertion ; les titres et les types de fichiers des
+  - « Vorlane : Erreur », la boîte de la ligne de repérage ; « Erreur » et un
+    numéro au lancement d'une commande ; « L'objet selectionné n'est pas un
+    bloc. » dans la réinsertion ; les titres et les types de fichiers des
     boîtes de fichiers.
-  - En anglais : « The following error has occurred trying to replace a block:
-    ».
+  - En anglais : « The following error has occurred trying to replace a
+    block: ».
 [end of help]

@@ -32,7 +32,6 @@ class PlayedScreen : public text_face::TextScreen {
         const int depth = ++depth_;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&] { step(form, depth); });
-        if (form.timesDrawn() == 1) QTimer::singleShot(0, [&] { paint(form); });
         timer.start(0);
         try {
             qt_.runModal(form);
@@ -45,6 +44,7 @@ class PlayedScreen : public text_face::TextScreen {
     void hidden(forms::Form& form) override {
         TextScreen::hidden(form);
         mirror_.hidden(form);
+        paint(form);
         qt_.hidden(form);
     }
     void changed(forms::Form& form, forms::Change change) override {
@@ -98,7 +98,7 @@ class PlayedScreen : public text_face::TextScreen {
             QTest::mouseClick(qt_.top()->findChild<QPushButton*>(button), Qt::LeftButton);
         });
     }
-    /// With VORLANE_PICTURES naming a folder, each dialog is painted there.
+    /// With VORLANE_PICTURES naming a folder, each dialog is painted there as it was last.
     void paint(const forms::Form& form) {
         const QString folder = qEnvironmentVariable("VORLANE_PICTURES");
         if (!folder.isEmpty() && qt_.windowOf(form) != nullptr)
