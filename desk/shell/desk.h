@@ -86,6 +86,10 @@ class Desk {
     /// Why the last line failed or was unknown.
     const std::string& failure() const { return failure_; }
 
+    /// Keeps the copy of what isn't saved up to date, where the options ask for one. Each line does so at its
+    /// end; a program does besides after changes of its own, and while a line waits for its user.
+    void keepCopy();
+
     /// What F1 in a dialog does.
     std::ostream& output() { return output_; }
     model::Prompter& prompter() { return prompter_; }
@@ -99,7 +103,6 @@ class Desk {
     std::unique_ptr<drawing::Drawing> readAside(const std::string& path, Read read) const;
     void requireOverwriting(const std::string& path, Overwriting overwriting) const;
     std::string backupFolder() const;
-    void keepCopy();
     Outcome takeBack(const model::ContextPtr& context, std::uint64_t revision);
     void removeRecovered();
 

@@ -4,6 +4,7 @@
 // the dialogs speak to the canvas through this header alone.
 
 #include "desk/drawing/drawing.h"
+#include "desk/drawing/placement.h"
 #include "desk/geometry/vector.h"
 #include "desk/window/theme.h"
 
@@ -40,9 +41,10 @@ struct CanvasMarks {
     std::vector<drawing::EntityId> lit;               ///< as selected; hidden ones are drawn dotted
     bool stepsBack = false;                           ///< all else at 42 %
     drawing::BlockId toCome = drawing::kNoBlock;      ///< drawn dashed in the place of each lit reference
+    std::vector<drawing::Placement> toComeAt;         ///< and in these places of model space
     drawing::EntityId shownRow = drawing::kNoEntity;  ///< in corner brackets
     QString shownRowText;                             ///< "Row 4 of 16, P-A05"
-    std::vector<drawing::EntityId> failed;            ///< in the error's colour, with a cross
+    std::vector<geometry::Point3> failed;             ///< a cross in the error's colour, in model space
     QString legend;        ///< "PORTE_80, 16 lit", at the lower edge; empty for none
     QString legendToCome;  ///< "PORTE_90 to come"
 };

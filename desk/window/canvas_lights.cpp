@@ -135,23 +135,30 @@ void CanvasLights::drawHidden(QPainter& painter, const std::vector<EntityId>& en
 
 void CanvasLights::drawInPlaceOf(QPainter& painter, const std::vector<EntityId>& references,
                                  drawing::BlockId block, const Light& light) {
-    constexpr std::size_t kMostShapes = 2'000;
     const drawing::Drawing& drawing = picture_.drawing();
-    if (references.size() <= kMostShapes) {
-        const geometry::Point3& base = drawing.blocks()[block].basePoint;
+    std::vector<drawing::Placement> places;
+    for (const EntityId id : references) {
+        if (!drawing.isErased(id) && drawing.type(id) == "INSERT") places.push_back(drawing.placement(id));
+    }
+    drawAt(painter, places, block, light);
+}
+
+void CanvasLights::drawAt(QPainter& painter, const std::vector<drawing::Placement>& places,
+                          drawing::BlockId block, const Light& light) {
+    constexpr std::size_t kMostShapes = 2'000;
+    if (places.size() <= kMostShapes) {
+        const geometry::Point3& base = picture_.drawing().blocks()[block].basePoint;
         drawWith(painter, view_.frame(), light, [&](picture::Renderer& renderer) {
-            for (const EntityId id : references) {
-                if (drawing.isErased(id) || drawing.type(id) != "INSERT") continue;
-                const geometry::Transform place = drawing::referenceTransform(drawing.placement(id), base);
-                renderer.drawBlock(block, view_.projection() * place);
+            for (const drawing::Placement& place : places) {
+                renderer.drawBlock(block, view_.projection() * drawing::referenceTransform(place, base));
             }
         });
         return;
     }
     // Too many shapes to tell apart: the base points alone.
-    for (const EntityId id : references) {
-        const auto at = insertionOf(id);
-        if (at && view_.frame().contains(*at)) drawBasePoint(painter, *at, light.color);
+    for (const drawing::Placement& place : places) {
+        const Point2 at = view_.projection().apply(geometry::ocsToWcs(place.insertion, place.extrusion));
+        if (view_.frame().contains(at)) drawBasePoint(painter, at, light.color);
     }
 }
 

@@ -37,6 +37,8 @@ class CanvasLights {
     /// A block in the place of each reference, which keep scale, rotation and place.
     void drawInPlaceOf(QPainter& painter, const std::vector<drawing::EntityId>& references,
                        drawing::BlockId block, const Light& light);
+    void drawAt(QPainter& painter, const std::vector<drawing::Placement>& places, drawing::BlockId block,
+                const Light& light);
     /// A block by itself, with values for its attributes by tag.
     void drawBlock(QPainter& painter, drawing::BlockId block, const drawing::Placement& placement,
                    const std::vector<std::pair<QString, QString>>& values, const Light& light);

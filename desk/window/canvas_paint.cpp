@@ -55,7 +55,8 @@ void CanvasState::paint(QPainter& painter) {
 /// Selection, marks and flash: they stay while the cursor moves, so their layer is kept.
 void CanvasState::paintLit(QPainter& painter) {
     const QSize size(static_cast<int>(view.width()), static_cast<int>(view.height()));
-    const bool nothing = selection.empty() && marks.lit.empty() && marks.failed.empty() && flashing.empty();
+    const bool nothing = selection.empty() && marks.lit.empty() && marks.toComeAt.empty() &&
+                         marks.failed.empty() && flashing.empty();
     if (nothing) {
         litLayer_ = {};
         litIsOld_ = true;
@@ -79,19 +80,19 @@ void CanvasState::paintLit(QPainter& painter) {
         light.draw(on, shown, {select, {}, 2, 7, 0.3, false, false, 7});
         light.drawHidden(on, hidden, {select, {}, 1.5, 0, 0, true, false, 7});
         if (marks.toCome != drawing::kNoBlock) {
-            light.drawInPlaceOf(on, marks.lit, marks.toCome,
-                                {tone(Token::Preview), {}, 1.2, 0, 0, false, true, 0});
+            const Light toCome{tone(Token::Preview), {}, 1.2, 0, 0, false, true, 0};
+            light.drawInPlaceOf(on, marks.lit, marks.toCome, toCome);
+            if (space == drawing->modelSpace()) light.drawAt(on, marks.toComeAt, marks.toCome, toCome);
         }
         light.draw(on, selection, {select, {}, 2, 7, 0.3, false, false, 9});
-        light.draw(on, marks.failed, {tone(Token::Error), {}, 2, 7, 0.22, false, false, 0});
         on.setRenderHint(QPainter::Antialiasing);
         on.setPen(QPen(tone(Token::Error), 2 * ratio()));
-        for (const EntityId id : marks.failed) {
-            const auto at = light.insertionOf(id);
-            if (!at) continue;
+        for (const geometry::Point3& point : marks.failed) {
+            if (space != drawing->modelSpace()) break;
+            const Point2 at = view.projection().apply(point);
             const double arm = 5 * ratio();
-            on.drawLine(QPointF(at->x - arm, at->y - arm), QPointF(at->x + arm, at->y + arm));
-            on.drawLine(QPointF(at->x - arm, at->y + arm), QPointF(at->x + arm, at->y - arm));
+            on.drawLine(QPointF(at.x - arm, at.y - arm), QPointF(at.x + arm, at.y + arm));
+            on.drawLine(QPointF(at.x - arm, at.y + arm), QPointF(at.x + arm, at.y - arm));
         }
         if (flashSteps % 2 == 0 && !flashing.empty()) {
             light.draw(on, flashing, {select, {}, 3, 9, 0.5, false, false, 9});

@@ -139,11 +139,11 @@ void CanvasPrompter::wait() {
     answer_ = Answer::BrokenOff;
     entity_ = drawing::kNoEntity;
     emit told(prompt_.text);
-    emit asked();
-    showPrompt();
     QEventLoop loop;
     QEventLoop* const outer = loop_;
-    loop_ = &loop;
+    loop_ = &loop;  // from here on it is asking: whoever hears of it may look
+    emit asked();
+    showPrompt();
     loop.exec();
     loop_ = outer;
     canvas_.ask({});

@@ -98,7 +98,6 @@ void CanvasState::forgetErased() {
     const std::size_t before = selection.size();
     std::erase_if(selection, isGone);
     std::erase_if(marks.lit, isGone);
-    std::erase_if(marks.failed, isGone);
     std::erase_if(flashing, isGone);
     if (marks.shownRow != drawing::kNoEntity && isGone(marks.shownRow)) marks.shownRow = drawing::kNoEntity;
     selected = {selection.begin(), selection.end()};

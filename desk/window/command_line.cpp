@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <cmath>
 
 namespace window {
 
@@ -132,8 +133,9 @@ void CommandLine::focusInput() { input_->setFocus(Qt::OtherFocusReason); }
 bool CommandLine::hasInputFocus() const { return input_->hasFocus(); }
 
 void CommandLine::setHistoryLines(int lines) {
-    const int line = qMax(18, QFontMetrics(history_->font()).lineSpacing());
-    history_->setFixedHeight(lines * line + 2);
+    // Whole lines, so that none is cut.
+    const double height = lines * QFontMetricsF(history_->font()).lineSpacing();
+    history_->setFixedHeight(static_cast<int>(std::ceil(height)) + 2);
 }
 
 QString CommandLine::historyText() const { return history_->toPlainText(); }

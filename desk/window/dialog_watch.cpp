@@ -36,7 +36,7 @@ void DialogWatch::changed(forms::Control& control, forms::Change change) {
 }
 
 forms::Answer DialogWatch::messageBox(const forms::MessageDialog& box) {
-    emit boxShown();
+    emit boxShown(box.text);
     return face_.messageBox(box);
 }
 

@@ -37,8 +37,8 @@ class DialogWatch : public QObject, public forms::Screen {
   signals:
     /// A dialog or box comes up, or goes.
     void shownChanged();
-    /// A message box comes up.
-    void boxShown();
+    /// A message box comes up with this text.
+    void boxShown(const std::string& text);
     /// Something of a dialog of the command changed.
     void formChanged();
 

@@ -7,6 +7,7 @@
 #include "desk/window/status_line.h"
 #include "desk/window/work.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -146,6 +147,14 @@ bool Files::write(const QString& path) {
     watch();
     status_.showResult(tr("Saved"), StatusLine::Tone::Done);
     return true;
+}
+
+bool Files::confirm(const QString& question) {
+    QMessageBox box(QMessageBox::Question, tr("Vorlane"), question, QMessageBox::NoButton, &window_);
+    auto* yes = box.addButton(QCoreApplication::translate("window", "Yes"), QMessageBox::YesRole);
+    box.setEscapeButton(box.addButton(QCoreApplication::translate("window", "No"), QMessageBox::NoRole));
+    box.exec();
+    return box.clickedButton() == yes;
 }
 
 bool Files::mayLeave() {

@@ -35,6 +35,8 @@ class Files : public QObject {
     /// Asks what to do with unsaved changes: save, discard, or stay (false).
     bool mayLeave();
 
+    /// A question of the desk's, yes or no.
+    bool confirm(const QString& question);
     /// Runs a reading with the window alive; raises shell::UserBreak when the user gives up.
     void readAside(const QString& path, std::function<void()> reading);
 

@@ -8,7 +8,7 @@
 
 namespace window {
 
-ReplacementPage::ReplacementPage(QWidget* parent)
+JobPage::JobPage(QWidget* parent)
     : QWidget(parent),
       head_(new PanelHead(this)),
       fromPicture_(new QLabel(this)),
@@ -18,14 +18,18 @@ ReplacementPage::ReplacementPage(QWidget* parent)
       fromCount_(new QLabel(this)),
       toCount_(new QLabel(this)),
       arrow_(new QLabel(QString::fromUtf8("↓"), this)),
+      second_(new QWidget(this)),
       body_(new QWidget(this)),
       rows_(new QVBoxLayout(body_)) {
     head_->setCount(-1);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* secondColumn = new QVBoxLayout(second_);
+    for (QVBoxLayout* each : {column, secondColumn}) {
+        each->setContentsMargins(0, 0, 0, 0);
+        each->setSpacing(0);
+    }
     column->addWidget(head_);
-    const auto add = [&](QLabel* picture, QLabel* name, QLabel* count) {
+    const auto add = [&](QVBoxLayout* into, QLabel* picture, QLabel* name, QLabel* count) {
         picture->setObjectName("blockPicture");
         picture->setFixedHeight(pictureBox().height() + 2);
         picture->setAlignment(Qt::AlignCenter);
@@ -38,33 +42,33 @@ ReplacementPage::ReplacementPage(QWidget* parent)
         auto* pictureRow = new QHBoxLayout;
         pictureRow->setContentsMargins(12, 0, 12, 0);
         pictureRow->addWidget(picture);
-        column->addLayout(pictureRow);
+        into->addLayout(pictureRow);
         auto* row = new QHBoxLayout;
         row->setContentsMargins(12, 6, 12, 4);
         row->addWidget(name, 1);
         row->addWidget(count);
-        column->addLayout(row);
+        into->addLayout(row);
     };
-    add(fromPicture_, from_, fromCount_);
+    add(column, fromPicture_, from_, fromCount_);
     arrow_->setAlignment(Qt::AlignCenter);
     arrow_->setObjectName("secondText");
-    column->addWidget(arrow_);
-    add(toPicture_, to_, toCount_);
+    secondColumn->addWidget(arrow_);
+    add(secondColumn, toPicture_, to_, toCount_);
+    column->addWidget(second_);
     rows_->setContentsMargins(0, 4, 0, 8);
     rows_->setSpacing(0);
     column->addWidget(body_);
     column->addStretch(1);
 }
 
-void ReplacementPage::setScheme(Scheme) { update(); }
+void JobPage::setScheme(Scheme) { update(); }
 
-void ReplacementPage::addRows(QVBoxLayout* into, const QString& title,
-                              const std::vector<std::pair<QString, QString>>& rows, bool arrows) {
+void JobPage::addRows(const QString& title, const std::vector<std::pair<QString, QString>>& rows, Rows kind) {
     if (rows.empty()) return;
     auto* head = new QLabel(title, body_);
     head->setObjectName("groupTitle");
     head->setContentsMargins(12, 8, 12, 4);
-    into->addWidget(head);
+    rows_->addWidget(head);
     for (const auto& [name, value] : rows) {
         auto* row = new QHBoxLayout;
         row->setContentsMargins(14, 0, 12, 0);
@@ -76,27 +80,38 @@ void ReplacementPage::addRows(QVBoxLayout* into, const QString& title,
             row->addWidget(made);
             return made;
         };
-        label(name, arrows ? nullptr : "secondText")->setFixedWidth(96);
-        if (arrows) label(QString::fromUtf8("→"), "secondText")->setFixedWidth(28);
-        const bool dropped = arrows && value.isEmpty();
-        QLabel* last = label(dropped ? tr("dropped") : value, dropped ? "warnText" : nullptr);
-        if (!arrows) last->setFont(fixedFont(font()));
-        row->addStretch(1);
+        const bool feeds = kind == Rows::Feeding;
+        label(name, feeds ? nullptr : "secondText")->setFixedWidth(kind == Rows::Faults ? 44 : 96);
+        if (feeds) label(QString::fromUtf8("→"), "secondText")->setFixedWidth(28);
+        const bool dropped = feeds && value.isEmpty();
+        QLabel* last = label(dropped ? tr("dropped") : value, kind == Rows::Faults ? "errorText"
+                                                              : dropped            ? "warnText"
+                                                                                   : nullptr);
+        if (kind == Rows::Counts) last->setFont(fixedFont(font()));
         auto* line = new QWidget(body_);
-        line->setFixedHeight(25);
         line->setLayout(row);
-        into->addWidget(line);
+        if (kind == Rows::Faults) {
+            last->setWordWrap(true);
+            row->setStretchFactor(last, 1);
+            row->setContentsMargins(14, 3, 12, 3);
+        } else {
+            row->addStretch(1);
+            line->setFixedHeight(25);
+        }
+        rows_->addWidget(line);
     }
 }
 
-void ReplacementPage::show(const ReplacementView& view) {
-    head_->setTitle(tr("Replacement"));
-    fromPicture_->setPixmap(view.fromPicture);
-    toPicture_->setPixmap(view.toPicture);
-    from_->setText(view.from.isEmpty() ? QString::fromUtf8("—") : view.from);
-    to_->setText(view.to.isEmpty() ? QString::fromUtf8("—") : view.to);
-    fromCount_->setText(tr("%1 references").arg(view.fromReferences));
-    toCount_->setText(view.to.isEmpty() ? QString() : tr("%1 references").arg(view.toReferences));
+void JobPage::addNote(const QString& text) {
+    auto* note = new QLabel(text, body_);
+    note->setObjectName("secondText");
+    note->setFont(smallFont(font()));
+    note->setWordWrap(true);
+    note->setContentsMargins(14, 8, 12, 0);
+    rows_->addWidget(note);
+}
+
+void JobPage::clearRows() {
     while (QLayoutItem* item = rows_->takeAt(0)) {
         if (item->widget() != nullptr) {
             item->widget()->hide();  // at once: in a dialog's own loop the deletion waits for its end
@@ -104,14 +119,33 @@ void ReplacementPage::show(const ReplacementView& view) {
         }
         delete item;
     }
-    addRows(rows_, tr("Attribute values"), view.values, true);
-    addRows(rows_, tr("References"), view.counts, false);
-    auto* note = new QLabel(view.note, body_);
-    note->setObjectName("secondText");
-    note->setFont(smallFont(font()));
-    note->setWordWrap(true);
-    note->setContentsMargins(14, 8, 12, 0);
-    rows_->addWidget(note);
+}
+
+void JobPage::show(const ReplacementView& view) {
+    head_->setTitle(tr("Replacement"));
+    second_->show();
+    fromPicture_->setPixmap(view.fromPicture);
+    toPicture_->setPixmap(view.toPicture);
+    from_->setText(view.from.isEmpty() ? QString::fromUtf8("—") : view.from);
+    to_->setText(view.to.isEmpty() ? QString::fromUtf8("—") : view.to);
+    fromCount_->setText(tr("%1 references").arg(view.fromReferences));
+    toCount_->setText(view.to.isEmpty() ? QString() : tr("%1 references").arg(view.toReferences));
+    clearRows();
+    addRows(tr("Attribute values"), view.values, Rows::Feeding);
+    addRows(tr("References"), view.counts, Rows::Counts);
+    addNote(view.note);
+}
+
+void JobPage::show(const InsertionView& view) {
+    head_->setTitle(tr("Insertion"));
+    second_->hide();
+    fromPicture_->setPixmap(view.picture);
+    from_->setText(view.block.isEmpty() ? QString::fromUtf8("—") : view.block);
+    fromCount_->clear();
+    clearRows();
+    addRows(tr("Rows"), view.counts, Rows::Counts);
+    addRows(tr("Failed rows"), view.faults, Rows::Faults);
+    if (!view.note.isEmpty()) addNote(view.note);
 }
 
 }  // namespace window

@@ -31,20 +31,32 @@ struct ReplacementView {
     QString note;
 };
 
-/// The right dock's page while a replacement is prepared.
-class ReplacementPage : public QWidget {
+/// What the page of an insertion tells.
+struct InsertionView {
+    QString block;
+    QPixmap picture;
+    std::vector<std::pair<QString, QString>> counts;
+    std::vector<std::pair<QString, QString>> faults;  ///< row and reason
+    QString note;
+};
+
+/// The right dock's page while a replacement or an insertion is prepared.
+class JobPage : public QWidget {
     Q_OBJECT
 
   public:
-    explicit ReplacementPage(QWidget* parent = nullptr);
+    explicit JobPage(QWidget* parent = nullptr);
     void show(const ReplacementView& view);
+    void show(const InsertionView& view);
     void setScheme(Scheme scheme);
     /// The box of a block's picture.
     static QSize pictureBox() { return {252, 128}; }
 
   private:
-    void addRows(QVBoxLayout* into, const QString& title,
-                 const std::vector<std::pair<QString, QString>>& rows, bool arrows);
+    enum class Rows { Feeding, Counts, Faults };
+    void addRows(const QString& title, const std::vector<std::pair<QString, QString>>& rows, Rows kind);
+    void addNote(const QString& text);
+    void clearRows();
 
     PanelHead* head_;
     QLabel* fromPicture_;
@@ -54,6 +66,7 @@ class ReplacementPage : public QWidget {
     QLabel* fromCount_;
     QLabel* toCount_;
     QLabel* arrow_;
+    QWidget* second_;  ///< arrow and the block that comes
     QWidget* body_;
     QVBoxLayout* rows_;
 };

@@ -42,20 +42,25 @@ constexpr const char* kInsertionPrompt = "point d'insertion du bloc";
 }  // namespace
 
 JobView::JobView(Session& session, DialogWatch& watch, Canvas& canvas, CanvasPrompter& prompter,
-                 QObject* parent)
-    : QObject(parent), session_(session), watch_(watch), canvas_(canvas), prompter_(prompter) {
+                 const basic::Regional& regional, QObject* parent)
+    : QObject(parent),
+      session_(session),
+      watch_(watch),
+      canvas_(canvas),
+      prompter_(prompter),
+      regional_(regional) {
     connect(&watch_, &DialogWatch::formChanged, this, &JobView::update);
     connect(&watch_, &DialogWatch::shownChanged, this, [this] {
         choosePrefilled();
         update();
     });
-    connect(&watch_, &DialogWatch::boxShown, this, [this] {
+    connect(&watch_, &DialogWatch::boxShown, this, [this](const std::string& text) {
         // The box tells the end of a run: by then it is known what the step did.
         if (watch_.shown().empty()) return;
         forms::Form* form = watch_.shown().back();
         if (form->name() == "fmReplace")
             nameStep(tr("Replacement of %1"), chosenText(form, "lstDestination"));
-        if (form->name() == "fmReInsert") nameStep(tr("Insertion of %1"), chosenText(form, "Combo1"));
+        if (form->name() == "fmReInsert") noteRun(*form, text);
     });
     prompter_.setPreparation([this](CanvasPrompt& prompt) { prepare(prompt); });
 }
@@ -101,10 +106,25 @@ void JobView::hold(bool on) {
 
 void JobView::end() {
     prefillForm_.clear();
+    const std::vector<geometry::Point3> failed = std::move(marks_.failed);
+    marks_ = {};
+    marks_.failed = failed;
+    canvas_.setMarks(marks_);
+    ranKey_.clear();
+    failedRows_.clear();
+    if (pageShown_) emit pageGone();
+    pageShown_ = false;
+}
+
+void JobView::begin() {
     marks_ = {};
     canvas_.setMarks(marks_);
-    if (pageShown_) emit replacementGone();
-    pageShown_ = false;
+}
+
+QString JobView::faultOf(const forms::Control& table, int row) const {
+    if (failedRows_.empty() || table.name() != "ListView2" || table.form().name() != "fmReInsert") return {};
+    const auto found = failedRows_.find(row);
+    return found == failedRows_.end() ? QString() : found->second;
 }
 
 void JobView::showNow() {
@@ -116,6 +136,7 @@ void JobView::showNow() {
     if (name == "fmAttSet" && watch_.find("fmReplace") != nullptr)
         return showReplacement(*watch_.find("fmReplace"));
     if (name == "fmExtract") return showExtraction(*form);
+    if (name == "fmReInsert") return showInsertion(*form);
     if (form == nullptr) {
         marks_ = {};
         canvas_.setMarks(marks_);
@@ -169,7 +190,7 @@ ReplacementView JobView::replacementView(forms::Form& form, const QString& from,
     ReplacementView view;
     view.from = from;
     view.to = to;
-    const QSize box = ReplacementPage::pictureBox();
+    const QSize box = JobPage::pictureBox();
     double scale = 0;  // both at one scale, so that they can be compared
     for (const drawing::BlockId block : {fromBlock, toBlock}) {
         if (block != drawing::kNoBlock) scale = std::max(scale, canvas_.fittingScale(block, box));
@@ -248,6 +269,67 @@ void JobView::showExtraction(forms::Form& form) {
     if (marks_.shownRow != drawing::kNoEntity) canvas_.reveal(marks_.shownRow);
     emit rowShown(marks_.shownRow);
     emit marksChanged(rows == 0 ? QString() : shown);
+}
+
+/// Which rows failed is what the run itself reports; why, the plan knows.
+void JobView::noteRun(forms::Form& form, const std::string& report) {
+    const InsertionPlan plan = insertionPlan(form, regional_);
+    if (plan.rows == 0) return;
+    nameStep(tr("Insertion of %1"), plan.block);
+    failedRows_.clear();
+    ranKey_ = plan.key;
+    for (const int row : reportedRows(report)) {
+        const auto fault = plan.faults.find(row);
+        failedRows_[row] =
+            fault != plan.faults.end() ? fault->second.reason : tr("This row was not inserted");
+    }
+    showNow();
+}
+
+/// Before the run what would come, after it what failed.
+void JobView::showInsertion(forms::Form& form) {
+    constexpr int kMostFaults = 12;
+    const drawing::BlockTable& blocks = session_.drawing().blocks();
+    InsertionPlan plan = insertionPlan(form, regional_);
+    const bool hasRun = !plan.key.isEmpty() && plan.key == ranKey_;
+    if (!hasRun) ranKey_.clear(), failedRows_.clear();
+    const drawing::BlockId block = blocks.find(plan.block.toStdString());
+    marks_ = {};
+    InsertionView view;
+    if (block != drawing::kNoBlock) {
+        view.block = plan.block;
+        const QColor pen = color(hasRun ? Token::Select : Token::Preview, schemeOf(canvas_.palette()));
+        view.picture = canvas_.blockPicture(block, JobPage::pictureBox(), pen, true);
+    }
+    const auto readable = plan.places.size();
+    view.counts.emplace_back(tr("In the file"), QString::number(plan.rows));
+    if (hasRun) {
+        view.counts.emplace_back(tr("Inserted"),
+                                 QString::number(plan.rows - static_cast<int>(failedRows_.size())));
+        view.counts.emplace_back(tr("Failed"), QString::number(failedRows_.size()));
+        for (const auto& [row, reason] : failedRows_) {
+            if (static_cast<int>(view.faults.size()) == kMostFaults) {
+                view.note = tr("and %1 more, marked in the table")
+                                .arg(failedRows_.size() - static_cast<std::size_t>(kMostFaults));
+                break;
+            }
+            view.faults.emplace_back(QString::number(row), reason);
+        }
+        for (const auto& [row, fault] : plan.faults) {
+            if (failedRows_.count(row) != 0)
+                marks_.failed.insert(marks_.failed.end(), fault.at.begin(), fault.at.end());
+        }
+    } else if (block != drawing::kNoBlock && plan.rows > 0) {
+        view.counts.emplace_back(tr("Can be read"), QString::number(readable));
+        marks_.toCome = block;
+        marks_.toComeAt = std::move(plan.places);
+        marks_.stepsBack = true;
+        if (readable > 0) marks_.legendToCome = tr("%1, %2 to come").arg(plan.block).arg(readable);
+    }
+    canvas_.setMarks(marks_);
+    emit insertionShown(view);
+    pageShown_ = true;
+    emit marksChanged({});
 }
 
 void JobView::nameStep(const QString& name, const QString& block) {

@@ -2,6 +2,7 @@
 
 #include "desk/window/canvas.h"
 #include "desk/window/dialog_watch.h"
+#include "desk/window/insertion_plan.h"
 #include "desk/window/job_page.h"
 #include "desk/window/session.h"
 
@@ -21,7 +22,8 @@ class JobView : public QObject {
     Q_OBJECT
 
   public:
-    JobView(Session& session, DialogWatch& watch, Canvas& canvas, CanvasPrompter& prompter, QObject* parent);
+    JobView(Session& session, DialogWatch& watch, Canvas& canvas, CanvasPrompter& prompter,
+            const basic::Regional& regional, QObject* parent);
 
     /// The next dialog of the command is to open with this block chosen.
     void prefill(const QString& command, const QString& block);
@@ -33,13 +35,17 @@ class JobView : public QObject {
     const std::vector<drawing::EntityId>& lit() const { return marks_.lit; }
     /// Adds what the command in hand wants shown with a prompt.
     void prepare(CanvasPrompt& prompt);
-    /// A command ends: the marks go.
+    /// A command ends: the marks go, but for those of what failed, which stay until the next one begins.
     void end();
+    void begin();
+    /// Why a row of a dialog's table, from 1, failed in its last run; empty for one that didn't.
+    QString faultOf(const forms::Control& table, int row) const;
 
   signals:
     /// The page of a replacement is to be shown; with nothing, the properties again.
     void replacementShown(const window::ReplacementView& view);
-    void replacementGone();
+    void insertionShown(const window::InsertionView& view);
+    void pageGone();
     /// The extraction's chosen row stands for this entity.
     void rowShown(drawing::EntityId entity);
     void marksChanged(const QString& text);
@@ -50,6 +56,7 @@ class JobView : public QObject {
     void showExtraction(forms::Form& form);
     void showInsertion(forms::Form& form);
     void choosePrefilled();
+    void noteRun(forms::Form& form, const std::string& report);
     void nameStep(const QString& name, const QString& block);
     std::vector<drawing::EntityId> replaced(const QString& block, bool wholeDrawing) const;
     ReplacementView replacementView(forms::Form& form, const QString& from, const QString& to);
@@ -59,7 +66,12 @@ class JobView : public QObject {
     DialogWatch& watch_;
     Canvas& canvas_;
     CanvasPrompter& prompter_;
+    const basic::Regional& regional_;
     CanvasMarks marks_;
+    InsertionPlan plan_;
+    /// Rows that the last run of an insertion reported, and the key of the plan that it ran.
+    std::map<int, QString> failedRows_;
+    QString ranKey_;
     bool scheduled_ = false;
     bool held_ = false;
     bool pageShown_ = false;

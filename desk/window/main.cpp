@@ -48,6 +48,9 @@ qt_face::QtHooks hooks(QWidget& owner) {
     hooks.place = [&owner](const forms::Form&, QSize size) -> std::optional<QPoint> {
         return owner.mapToGlobal(QPoint(14, qMax(40, owner.height() - kBelowDialog - size.height())));
     };
+    hooks.rowFault = [&owner](const forms::Control& table, int row) {
+        return static_cast<window::MainWindow&>(owner).faultOf(table, row);
+    };
     hooks.icon = [](const std::string&) { return QApplication::windowIcon(); };
     return hooks;
 }
@@ -60,7 +63,6 @@ int main(int argc, char** argv) {
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     QApplication::setApplicationName("vorlane");
-    QApplication::setApplicationDisplayName("Vorlane");
     QApplication::setDesktopFileName("vorlane");
     QCommandLineParser parser;
     parser.setApplicationDescription("Manages block references in a CAD drawing.");

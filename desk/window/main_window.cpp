@@ -3,6 +3,7 @@
 #include "basic/error.h"
 #include "desk/window/blocks_panel.h"
 #include "desk/window/command_line.h"
+#include "desk/window/desk_texts.h"
 #include "desk/window/files.h"
 #include "desk/window/job_page.h"
 #include "desk/window/job_view.h"
@@ -19,8 +20,15 @@
 #include <QMimeData>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QTimer>
 
 namespace window {
+
+namespace {
+
+constexpr int kKeepCopyEvery = 5'000;  // ms
+
+}  // namespace
 
 MainWindow::MainWindow(const shell::DeskOptions& options, const MakeFace& face, QSettings& settings,
                        Scheme desktop)
@@ -39,13 +47,19 @@ MainWindow::MainWindow(const shell::DeskOptions& options, const MakeFace& face, 
         files_->readAside(QString::fromStdString(path), std::move(reading));
     };
     options_.confirm = [this](const std::string& question) {
-        return QMessageBox::question(this, "Vorlane", QString::fromStdString(question)) == QMessageBox::Yes;
+        return files_->confirm(deskText(QString::fromStdString(question)));
     };
     session_ = new Session(options_, *watch_, *prompter_, this);
     files_ = new Files(*this, *session_, *busy_, *status_, *notice_, settings_);
-    jobs_ = new JobView(*session_, *watch_, *canvas_, *prompter_, this);
+    jobs_ = new JobView(*session_, *watch_, *canvas_, *prompter_, options_.regional, this);
     connectParts();
     connectSession();
+    // What a command that waits for its user has done so far must survive too.
+    auto* keeping = new QTimer(this);
+    connect(keeping, &QTimer::timeout, this, [this] {
+        if (!work_->isInside()) session_->keepCopy();
+    });
+    keeping->start(kKeepCopyEvery);
     restoreState();
     applyLanguage();
     applyScheme();
@@ -60,6 +74,8 @@ MainWindow::~MainWindow() {
 const drawing::Drawing* MainWindow::drawing() const {
     return session_->hasDrawing() ? &session_->drawing() : nullptr;
 }
+
+QString MainWindow::faultOf(const forms::Control& table, int row) const { return jobs_->faultOf(table, row); }
 
 bool MainWindow::isBlocked() const { return session_->isRunning(); }
 

@@ -8,6 +8,7 @@
 
 #include <QMainWindow>
 #include <QMap>
+#include <QTranslator>
 #include <memory>
 
 class QAction;
@@ -27,7 +28,7 @@ class JobView;
 class LayersPanel;
 class NoticeBar;
 class PropertiesPanel;
-class ReplacementPage;
+class JobPage;
 class RunWatch;
 class StatusLine;
 class Veil;
@@ -61,6 +62,8 @@ class MainWindow : public QMainWindow {
     /// The action of the command table with this id.
     QAction* action(const QString& id) const { return actions_.value(id); }
     void enterLine(const QString& line);
+    /// Why a row of a dialog's table, from 1, failed; empty for one that didn't.
+    QString faultOf(const forms::Control& table, int row) const;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -121,7 +124,8 @@ class MainWindow : public QMainWindow {
     Scheme scheme_ = Scheme::Dark;
     Scheme canvasScheme_ = Scheme::Dark;
     Translation translation_;
-    QString language_;  ///< file of the texts in use, empty for English
+    QTranslator toolkitTranslation_;  ///< of file dialogs, where Debian's package of it is installed
+    QString language_;                ///< file of the texts in use, empty for English
 
     QMap<QString, QAction*> actions_;
     QToolBar* tools_ = nullptr;
@@ -138,7 +142,7 @@ class MainWindow : public QMainWindow {
     BlocksPanel* blocks_ = nullptr;
     LayersPanel* layers_ = nullptr;
     PropertiesPanel* properties_ = nullptr;
-    ReplacementPage* page_ = nullptr;
+    JobPage* page_ = nullptr;
     Canvas* canvas_ = nullptr;
     CommandLine* commandLine_ = nullptr;
     StatusLine* status_ = nullptr;

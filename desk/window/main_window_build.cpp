@@ -110,7 +110,7 @@ QWidget* MainWindow::buildRightDock() {
         session_->edit(name, change);
     };
     properties_ = new PropertiesPanel(picture, edit, this);
-    page_ = new ReplacementPage(this);
+    page_ = new JobPage(this);
     right_ = new QStackedWidget(this);
     right_->setObjectName("rightDock");
     right_->addWidget(properties_);
@@ -269,6 +269,7 @@ void MainWindow::connectSession() {
     connect(session_, &Session::began, this, [this] {
         work_->reset();
         status_->showResult({});
+        jobs_->begin();
         // A job brings marks of its own.
         if (session_->runningName().startsWith("VN")) canvas_->setSelection({});
         updateBlocking();
@@ -290,7 +291,12 @@ void MainWindow::connectSession() {
         right_->setCurrentWidget(page_);
         rightVeil_->setOn(false);
     });
-    connect(jobs_, &JobView::replacementGone, this, [this] { right_->setCurrentWidget(properties_); });
+    connect(jobs_, &JobView::insertionShown, this, [this](const InsertionView& view) {
+        page_->show(view);
+        right_->setCurrentWidget(page_);
+        rightVeil_->setOn(false);
+    });
+    connect(jobs_, &JobView::pageGone, this, [this] { right_->setCurrentWidget(properties_); });
     connect(jobs_, &JobView::rowShown, this, [this](drawing::EntityId id) {
         std::vector<drawing::EntityId> shown;
         if (id != drawing::kNoEntity) shown.push_back(id);

@@ -12,6 +12,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSettings>
@@ -62,7 +64,13 @@ void MainWindow::applyLanguage() {
     language_ = file;
     QCoreApplication::removeTranslator(&translation_);
     translation_.read(file);
-    if (!translation_.isEmpty()) QCoreApplication::installTranslator(&translation_);
+    QCoreApplication::removeTranslator(&toolkitTranslation_);
+    if (!translation_.isEmpty()) {
+        QCoreApplication::installTranslator(&translation_);
+        if (toolkitTranslation_.load(QLocale::French, "qtbase", "_",
+                                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QCoreApplication::installTranslator(&toolkitTranslation_);
+    }
     retranslate();
 }
 

@@ -21,6 +21,8 @@ class RunWatch : public QObject {
     void breathe();
     /// A command begins or ends.
     void reset();
+    /// Whether work goes on around what the event loop does now: the drawing is not to be read.
+    bool isInside() const { return inside_; }
 
   signals:
     /// Between the two nothing but this class may draw or ask the drawing.

@@ -1,6 +1,7 @@
 #include "desk/window/session.h"
 
 #include "basic/error.h"
+#include "desk/window/desk_texts.h"
 
 #include <exception>
 
@@ -11,7 +12,7 @@ using Outcome = shell::Desk::Outcome;
 Session::Session(const shell::DeskOptions& options, DialogWatch& screen, model::Prompter& prompter,
                  QObject* parent)
     : QObject(parent),
-      lines_([this](const std::string& line) { emit told(QString::fromStdString(line)); }),
+      lines_([this](const std::string& line) { emit told(deskText(QString::fromStdString(line))); }),
       output_(&lines_) {
     desk_ = std::make_unique<shell::Desk>(options, screen, prompter, output_);
 }
@@ -83,6 +84,8 @@ void Session::save(const QString& path) {
     emit changed();
 }
 
+void Session::keepCopy() { desk_->keepCopy(); }
+
 bool Session::edit(const QString& name, const std::function<void(drawing::Drawing&)>& change) {
     if (!hasDrawing() || running_) return false;
     bool done = true;
@@ -98,6 +101,7 @@ bool Session::edit(const QString& name, const std::function<void(drawing::Drawin
     }
     // What a failed edit had done to the entities before is taken back.
     if (!done && drawing().revision() != before) desk_->document().undo();
+    desk_->keepCopy();
     emit changed();
     return done;
 }
@@ -108,6 +112,7 @@ bool Session::undo() {
     const bool done = desk_->document().undo();
     emit told(done ? tr("Undone: %1").arg(name) : tr("Nothing to undo"));
     fresh_.clear();
+    desk_->keepCopy();
     emit changed();
     return done;
 }
@@ -118,6 +123,7 @@ bool Session::redo() {
     const bool done = desk_->document().redo();
     emit told(done ? tr("Redone: %1").arg(name) : tr("Nothing to redo"));
     fresh_.clear();
+    desk_->keepCopy();
     emit changed();
     return done;
 }

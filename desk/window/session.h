@@ -39,6 +39,8 @@ class Session : public QObject {
     void open(const QString& path);
     void save(const QString& path);
     QStringList commandNames() const;
+    /// Keeps the copy for the next session up to date, at a moment when no work is going on.
+    void keepCopy();
     /// Edits of the panels: one undo step of that name. Gives false, and tells why, where an edit was
     /// refused.
     bool edit(const QString& name, const std::function<void(drawing::Drawing&)>& change);

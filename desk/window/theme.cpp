@@ -74,7 +74,7 @@ QLineEdit[refused="true"] { border: 2px solid @error; padding: 0px 4px; }
 QAbstractScrollArea { background: @base; border: none; }
 QListView, QTreeView, QTableView, QListWidget { outline: none; }
 QHeaderView::section { background: @raised; color: @text-2; border: none; border-right: 1px solid @hairline;
-    border-bottom: 1px solid @hairline; padding: 3px 6px; }
+    border-bottom: 1px solid @hairline; padding: 4px 6px; }
 QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 10px; margin: 0; }
 QScrollBar::handle { background: @hairline; border-radius: 3px; margin: 2px; }
@@ -96,6 +96,7 @@ QSplitter::handle { background: transparent; }
 #offeredWords::item:selected { background: @accent-quiet; color: @text; }
 #secondText { color: @text-2; }
 #warnText { color: @warn; }
+#errorText { color: @error; }
 #statusLine { background: @raised; border-top: 1px solid @hairline; }
 #statusSeparator { background: @hairline; }
 #resultText[tone="done"] { color: @ok; }
@@ -150,9 +151,14 @@ QComboBox QAbstractItemView { background: @raised; color: @text; border: 1px sol
     selection-background-color: @accent; selection-color: @on-accent; }
 QComboBox QLineEdit, QComboBox QLineEdit:focus { border: none; background: transparent; padding: 0; }
 QListWidget, QTableWidget, QTreeWidget, QTableView { background: @field; border: 1px solid @border; border-radius: 3px; }
+QListWidget::item { min-height: 21px; padding: 0 5px; border: none; }
+QTreeView::item { min-height: 22px; padding: 0 5px; border: none; }
+QListWidget::item:selected, QTreeView::item:selected { background: @accent; color: @on-accent; }
 QListWidget:focus, QTableWidget:focus, QTreeWidget:focus, QTableView:focus { border: 2px solid @accent; }
 
 QGroupBox { border: 1px solid @hairline; border-radius: 3px; margin-top: 9px; font-weight: 600; }
+QGroupBox * { font-weight: 400; }
+QGroupBox QGroupBox { font-weight: 600; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; }
 )";
 

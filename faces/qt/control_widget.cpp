@@ -80,7 +80,12 @@ class FrameWidget : public ControlWidget {
   protected:
     void drawOwn(Changes changes) override {
         if (!changes.has(Change::Caption) && !changes.has(Change::Bounds)) return;
-        box_->setTitle(window_.captionOf(control_, box_->width() - 20, 1, true, &isCaptionCut_));
+        // The title's font may be wider than the one that captions are measured in.
+        const QString whole = toQt(control_.caption());
+        const double plain = window_.fontMetrics().horizontalAdvance(whole);
+        const double drawn = box_->fontMetrics().horizontalAdvance(whole);
+        const double room = (box_->width() - 24) * (drawn > plain ? plain / drawn : 1);
+        box_->setTitle(window_.captionOf(control_, static_cast<int>(room), 1, true, &isCaptionCut_));
         setTip();
     }
 

@@ -56,6 +56,20 @@ bool isEnterOfText(const Control* control, int key) {
     return box.multiLine() && !box.locked();
 }
 
+/// The controls of some forms reach their frame at the right, which a flat frame shows: what is missing there
+/// to the margin at the left.
+forms::Twips missingEdge(const Form& form) {
+    forms::Twips left = form.width();
+    forms::Twips right = 0;
+    for (const Control* control : form.controls()) {
+        if (control->container() != nullptr || !control->has(forms::Property::Bounds) || !control->visible())
+            continue;
+        left = std::min(left, control->bounds().left);
+        right = std::max(right, control->bounds().left + control->bounds().width);
+    }
+    return std::clamp(left - (form.width() - Form::kFrameWidth - right), 0.0f, left);
+}
+
 /// What a widget may have changed by itself while its user acted on it.
 void addOwnChanges(Changes& changes) {
     for (const Change change : {Change::Value, Change::Text, Change::Selection, Change::Columns})
@@ -72,6 +86,7 @@ FormWindow::FormWindow(Form& form, QWidget* parent, const QtHooks& hooks)
       hooks_(hooks) {
     setObjectName(toQt(form.name()));
     makeWidgets();
+    edge_ = missingEdge(form_);
 }
 
 FormWindow::~FormWindow() {
@@ -127,7 +142,7 @@ QRect FormWindow::placeOf(const forms::Bounds& bounds) const {
 }
 
 QSize FormWindow::insideOf(forms::Twips width, forms::Twips height) const {
-    return {std::max(1, toPixels(width - Form::kFrameWidth)),
+    return {std::max(1, toPixels(width - Form::kFrameWidth + edge_)),
             std::max(1, toPixels(height - Form::kFrameHeight))};
 }
 
@@ -321,7 +336,8 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 void FormWindow::resizeEvent(QResizeEvent*) {
     if (!form_.resizable() || isQuiet() || size() == insideOf(form_.width(), form_.height())) return;
     act(nullptr, [&] {
-        acts::resize(form_, toTwips(width()) + Form::kFrameWidth, toTwips(height()) + Form::kFrameHeight);
+        acts::resize(form_, toTwips(width()) - edge_ + Form::kFrameWidth,
+                     toTwips(height()) + Form::kFrameHeight);
     });
 }
 

@@ -27,6 +27,7 @@ class FormWindow : public QWidget {
     ~FormWindow() override;
 
     forms::Form& form() const { return form_; }
+    const QtHooks& hooks() const { return hooks_; }
 
     /// Comes up, drawn whole, until leave is called or an act raises what no guard takes, which comes out
     /// here.
@@ -93,6 +94,7 @@ class FormWindow : public QWidget {
     std::pair<forms::Twips, forms::Twips> place_;  ///< the model's, as last drawn or told
     float scale_ = 0.08f;                          ///< pixels to the twip
     float growth_ = 1;
+    forms::Twips edge_ = 0;  ///< added at the right, where the controls reach the frame
     int quiet_ = 0;
     bool isFlushPosted_ = false;
     bool hasWaitCursor_ = false;

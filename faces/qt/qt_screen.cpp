@@ -5,6 +5,7 @@
 #include "forms/file_dialog.h"
 #include "forms/form.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
@@ -214,6 +215,9 @@ void QtScreen::runBox(QDialog& box) {
     box.show();
     box.raise();
     box.activateWindow();
+    // What the program says of rows may have changed with the box.
+    for (FormWindow* window : stack_)
+        for (auto* view : window->findChildren<QAbstractItemView*>()) view->viewport()->update();
     loop.exec();
     boxes_.pop_back();
     QGuiApplication::restoreOverrideCursor();

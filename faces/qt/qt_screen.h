@@ -34,6 +34,9 @@ struct QtHooks {
     /// Where a dialog of that size opens when it has no place of its own yet; else over the middle of the
     /// parent.
     std::function<std::optional<QPoint>(const forms::Form&, QSize)> place;
+    /// Why a row of a table, from 1, stands out as failed; empty for one that doesn't. Asked when a row is
+    /// drawn; after a message box all rows are.
+    std::function<QString(const forms::Control& table, int row)> rowFault;
     /// The icon of a resource's name.
     std::function<QIcon(const std::string& name)> icon;
     /// The face's own few words ("OK", "Cancel", "Yes", "No", "Open", "Save as", "Error") in the user's

@@ -1,14 +1,18 @@
 // List views.
 #include "faces/qt/control_widget.h"
 #include "faces/qt/form_window.h"
+#include "faces/qt/qt_screen.h"
 #include "faces/qt/qt_text.h"
 #include "forms/controls.h"
 
 #include <QAbstractTableModel>
 #include <QFontDatabase>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QTreeView>
 #include <algorithm>
 #include <optional>
@@ -98,7 +102,8 @@ class RowModel : public QAbstractTableModel {
     int alignmentOf(int column) const {
         return static_cast<int>(Qt::AlignVCenter | (isNumeric(column) ? Qt::AlignRight : Qt::AlignLeft));
     }
-    /// Whether every cell of a column that says something is a number, read once for each drawing.
+    /// Whether more than half of the cells that say something are numbers, read once for each drawing: one
+    /// that is none stands out in its column.
     bool isNumeric(int column) const {
         if (numeric_.empty()) numeric_.resize(static_cast<std::size_t>(columns_));
         if (column < 0 || column >= columns_) return false;
@@ -107,15 +112,15 @@ class RowModel : public QAbstractTableModel {
         return *known;
     }
     bool readsAsNumbers(int column) const {
-        bool hasNumber = false;
+        int numbers = 0;
+        int others = 0;
         for (int row = 0; row < rows_; ++row) {
             const QString text = cell(row, column).trimmed();
             if (text.isEmpty()) continue;
             const auto isDigit = [](QChar c) { return c.isDigit() || QStringLiteral(".,+-eE").contains(c); };
-            if (!std::all_of(text.begin(), text.end(), isDigit)) return false;
-            hasNumber = true;
+            ++(std::all_of(text.begin(), text.end(), isDigit) ? numbers : others);
         }
-        return hasNumber;
+        return numbers > others;
     }
 
     ListView& view_;
@@ -128,8 +133,31 @@ class RowModel : public QAbstractTableModel {
 /// Draws no selection while the list has no focus, where the form wants it so.
 class RowDelegate : public QStyledItemDelegate {
   public:
-    RowDelegate(const ListView& view, QWidget& drawn)
-        : QStyledItemDelegate(&drawn), view_(view), drawn_(drawn) {}
+    RowDelegate(const ListView& view, QWidget& drawn, const QtHooks& hooks)
+        : QStyledItemDelegate(&drawn), view_(view), drawn_(drawn), hooks_(hooks) {}
+
+    /// A row that failed has the error's ground, and a bar of 3 pixels at its start.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const bool failed = !faultOf(index).isEmpty();
+        const QColor error = drawn_.palette().color(QPalette::BrightText);
+        if (failed && (option.state & QStyle::State_Selected) == 0) {
+            QColor ground = error;
+            ground.setAlphaF(0.12F);
+            painter->fillRect(option.rect, ground);
+        }
+        QStyledItemDelegate::paint(painter, option, index);
+        if (failed && index.column() == 0)
+            painter->fillRect(QRect(option.rect.topLeft(), QSize(3, option.rect.height())), error);
+    }
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        const QString fault = faultOf(index);
+        if (event->type() != QEvent::ToolTip || fault.isEmpty())
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        QToolTip::showText(event->globalPos(), plainTip(fault), view);
+        return true;
+    }
 
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
@@ -138,8 +166,13 @@ class RowDelegate : public QStyledItemDelegate {
     }
 
   private:
+    QString faultOf(const QModelIndex& index) const {
+        return hooks_.rowFault && index.isValid() ? hooks_.rowFault(view_, index.row() + 1) : QString();
+    }
+
     const ListView& view_;
     QWidget& drawn_;
+    const QtHooks& hooks_;
 };
 
 /// A table that tells a click when the button is let go, and asks before a row is edited.
@@ -211,7 +244,7 @@ class TableWidget : public ControlWidget {
             window_.act(&control_, [&] { acts::endEdit(control_, fromQt(text)); });
         });
         table_->setModel(rows_);
-        table_->setItemDelegate(new RowDelegate(view(), *table_));
+        table_->setItemDelegate(new RowDelegate(view(), *table_, window.hooks()));
         table_->setRootIsDecorated(false);
         table_->setItemsExpandable(false);
         table_->setUniformRowHeights(true);

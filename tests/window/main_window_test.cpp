@@ -111,6 +111,33 @@ TEST_F(MainWindowTest, AReplacementBlocksTheWindowTellsItsResultAndGoesBack) {
     EXPECT_EQ(drawing().savedBytes(), before);
 }
 
+TEST_F(MainWindowTest, RowsThatAnInsertionRefusesStandOutWithTheirReason) {
+    face_->file = folder_.file("rows.txt");
+    QFile file(QString::fromStdString(*face_->file));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("x\tT\r\nN\tX\tY\tZ\tEX\tEY\tEZ\tR\r\n1\t1\t1\t0\t1\t1\t1\t0\r\n2\t5\t1\t0\tbig\t1\t1\t0\r\n");
+    file.close();
+    const auto press = [](const char* button) {
+        return [button](forms::Form& form) { forms::acts::click(forms::acts::controlNamed(form, button)); };
+    };
+    face_->acts = {[](forms::Form& form) {
+                       forms::acts::chooseText(forms::acts::controlNamed(form, "Combo1"), "PORTE_90");
+                   },
+                   press("BtnData"),
+                   [this, press](forms::Form& form) {
+                       const forms::Control& table = forms::acts::controlNamed(form, "ListView2");
+                       EXPECT_EQ(window_->faultOf(table, 2), "") << "nothing failed before the run";
+                       press("BtnInsert")(form);
+                       EXPECT_EQ(window_->faultOf(table, 1), "");
+                       EXPECT_EQ(window_->faultOf(table, 2), "Ech.X: \"big\" is no number");
+                   },
+                   press("BtnClose")};
+    type("vninsert");
+    EXPECT_TRUE(face_->acts.empty());
+    EXPECT_EQ(window_->status().resultText(), "1 inserted");
+    EXPECT_TRUE(window_->action("undo")->text().endsWith("Insertion of PORTE_90"));
+}
+
 TEST_F(MainWindowTest, AnotherProgramsChangeIsOfferedAndNeverTakenSilently) {
     QSignalSpy opened(&window_->session(), &Session::opened);
     QFile file(QString::fromStdString(folder_.file("apartment.dxf")));

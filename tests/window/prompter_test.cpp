@@ -35,6 +35,22 @@ TEST_F(PrompterTest, ClickedAndTypedAnswersMix) {
     EXPECT_EQ(prompter().getPoint(std::nullopt, "More:").answer, Answer::BrokenOff);
 }
 
+TEST_F(PrompterTest, WhileACommandAsksTheMousePicksAndTheLineTakesText) {
+    whenAsked([this] {
+        Canvas& canvas = window_->canvas();
+        for (const QPoint& corner : {QPoint(4, 4), QPoint(canvas.width() - 4, canvas.height() - 4)}) {
+            QTest::mouseMove(&canvas, corner);
+            QTest::mouseClick(&canvas, Qt::LeftButton, {}, corner);
+        }
+        EXPECT_GT(canvas.selection().size(), 100u);
+        window_->commandLine().type("r");
+        EXPECT_EQ(window_->commandLine().text(), "r");
+        emit canvas.finished();
+    });
+    type("select");
+    EXPECT_TRUE(window_->commandLine().historyText().endsWith(" selected"));
+}
+
 TEST_F(PrompterTest, APolygonGivesUpItsLastCornerOnDemand) {
     whenAsked([this] {
         for (const Point3& corner : {Point3{0, 0, 0}, Point3{1, 0, 0}, Point3{9, 9, 0}}) click(corner);

@@ -1,5 +1,9 @@
 #include "desk/window/theme.h"
 
+#include "desk/window/desk_texts.h"
+#include "desk/window/translation.h"
+
+#include <QCoreApplication>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -38,6 +42,18 @@ TEST(Theme, TextsAndMarksStandOutFromTheirGround) {
         EXPECT_FALSE(themeStyleSheet(scheme).contains('@')) << "each name of the sheet is one of the table";
         EXPECT_EQ(schemeOf(themePalette(scheme)), scheme);
     }
+}
+
+TEST(TranslationTest, LinesOfTheDeskSpeakTheWindowsLanguage) {
+    EXPECT_EQ(deskText("Opened plan.dxf"), "Opened plan.dxf");
+    Translation french;
+    french.read(translationFile("Fran\u00E7ais"));
+    QCoreApplication::installTranslator(&french);
+    EXPECT_EQ(deskText("Opened plan.dxf"), "plan.dxf ouvert");
+    EXPECT_EQ(deskText("p.dxf is open elsewhere: Anne. Write over it?"),
+              QString::fromUtf8("p.dxf est ouvert ailleurs : Anne. L'écraser ?"));
+    EXPECT_EQ(deskText("(1 2)"), "(1 2)");
+    QCoreApplication::removeTranslator(&french);
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ class ScriptedFace : public forms::Screen {
   public:
     std::deque<std::function<void(forms::Form&)>> acts;
     std::vector<std::string> boxes;
+    std::optional<std::string> file;  ///< what a file dialog answers
 
     void runModal(forms::Form& form) override {
         while (form.visible()) {
@@ -45,7 +46,7 @@ class ScriptedFace : public forms::Screen {
         return forms::Answer::Ok;
     }
     std::optional<std::string> fileDialog(const forms::FileDialog&, forms::FileDialogMode) override {
-        return {};
+        return file;
     }
     void reportFailure(std::int32_t, const std::string& description) override {
         boxes.push_back(description);
