@@ -24,6 +24,27 @@ FONTS = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontcon
 <edit name="family" mode="prepend" binding="strong"><string>Inter</string></edit></match>
 <match target="pattern"><test name="family"><string>monospace</string></test>
 <edit name="family" mode="prepend" binding="strong"><string>JetBrains Mono</string></edit></match></fontconfig>"""
+# A frame as plain as the window, so that the pictures show no other program's taste.
+FRAME = """border.width: 1
+padding.width: 8
+padding.height: 6
+window.handle.width: 0
+window.client.padding.width: 0
+window.*.title.bg: flat solid
+window.*.title.bg.color: {title}
+window.*.label.bg: parentrelative
+window.*.button.*.bg: parentrelative
+window.active.label.text.color: {text}
+window.inactive.label.text.color: {faint}
+window.active.button.*.image.color: {text}
+window.inactive.button.*.image.color: {faint}
+window.*.border.color: {edge}
+window.active.title.separator.color: {title}
+window.inactive.title.separator.color: {title}
+"""
+FRAME_COLORS = {"dark": {"title": "#242A30", "text": "#E3E7EA", "faint": "#A9B3BC", "edge": "#343C44"},
+                "light": {"title": "#FFFFFF", "text": "#1A2126", "faint": "#53606A", "edge": "#D3D9DD"}}
+TITLE_HEIGHT = 29
 LANGUAGES = {"en": "English", "fr": "Français"}
 
 
@@ -55,8 +76,8 @@ def plain(text):
 class Desktop:
     """X server, window manager and bus; to be used in a `with`."""
 
-    def __init__(self, width=1600, height=1030):
-        self.size = (width, height)
+    def __init__(self, width=1600, height=1030, scheme="dark"):
+        self.size, self.scheme = (width, height), scheme
         self.folder = Path(tempfile.mkdtemp(prefix="vorlane-desktop-"))
         self.processes = []
 
@@ -69,9 +90,10 @@ class Desktop:
         os.environ["FONTCONFIG_FILE"] = str(self.folder / "home/.config/fontconfig/fonts.conf")
         for name in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "WAYLAND_DISPLAY", "AT_SPI_BUS_ADDRESS"):
             os.environ.pop(name, None)
+        self._write_frame()
         reading, writing = os.pipe()
         width, height = self.size
-        self._start("Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
+        self._start("Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset",
                     pass_fds=(writing,))
         os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
         address = self._start("dbus-daemon", "--session", "--nofork", "--print-address", stdout=subprocess.PIPE)
@@ -81,6 +103,17 @@ class Desktop:
         self._start("xsetroot", "-solid", "#3a4048") if shutil.which("xsetroot") else None
         time.sleep(1)
         return self
+
+    def _write_frame(self):
+        theme = self.folder / "home/.themes/Plain/openbox-3"
+        theme.mkdir(parents=True)
+        (theme / "themerc").write_text(FRAME.format(**FRAME_COLORS[self.scheme]))
+        settings = Path("/etc/xdg/openbox/rc.xml").read_text("utf-8")
+        settings = re.sub(r"(<theme>\s*<name>)[^<]*", r"\1Plain", settings)
+        settings = re.sub(r"(<font place=[^>]*>\s*<name>)[^<]*(</name>\s*<size>)\d+(</size>.*?<weight>)[^<]*", r"\1Inter\g<2>9\3Normal",
+                          settings, flags=re.S)
+        (self.folder / "home/.config/openbox").mkdir(parents=True)
+        (self.folder / "home/.config/openbox/rc.xml").write_text(settings, "utf-8")
 
     def keep_manager(self):
         """A window manager that died with a window that was killed comes back."""
@@ -114,7 +147,7 @@ class Window:
     """The program on a drawing. Sizes of the screen are in its pixels; points of the drawing in its units."""
 
     def __init__(self, desktop, drawing=None, language="en", scheme="dark", scale=1, program=None, settings=(),
-                 environment=None, before=None, keep=False):
+                 environment=None, before=None, keep=False, size=None):
         self.desktop, self.language, self.scale = desktop, language, scale
         desktop.keep_manager()
         self.captions, self.texts = captions(language), window_texts(language)
@@ -137,6 +170,11 @@ class Window:
         self.map = None
         self.application = None
         self.main = self._await_main()
+        if size:
+            ours = self.until(self._ids, "the window's id")[-1]
+            x("windowsize", "--sync", ours, *size)
+            x("windowmove", ours, 1, TITLE_HEIGHT + 1)
+            time.sleep(0.5)
 
     # Finding.
 
@@ -175,6 +213,10 @@ class Window:
             if time.monotonic() > end:
                 raise Failure(f"not found or not so: {what}")
             time.sleep(0.04)
+
+    def _ids(self):
+        command = ["xdotool", "search", "--all", "--pid", str(self.process.pid), "--onlyvisible", "--name", "Vorlane"]
+        return subprocess.run(command, capture_output=True, text=True).stdout.split()
 
     def children(self, node):
         for i in range(node.get_child_count()):
@@ -339,9 +381,8 @@ class Window:
         command = ["import", "-silent", "-window", "root"]
         if node is not None:
             left, top, width, height = self.box(node)
-            frame = 22
-            command += ["-crop", f"{width + 2 + 2 * margin}x{height + frame + 2 + 2 * margin}"
-                                 f"+{max(0, left - 1 - margin)}+{max(0, top - frame - margin)}", "+repage"]
+            command += ["-crop", f"{width + 2 + 2 * margin}x{height + TITLE_HEIGHT + 1 + 2 * margin}"
+                                 f"+{max(0, left - 1 - margin)}+{max(0, top - TITLE_HEIGHT - margin)}", "+repage"]
         subprocess.run([*command, str(path)], check=True)
 
     def close(self):

@@ -381,7 +381,7 @@ JOBS = ("replace", "label", "extract", "insert", "about")
 def play(options, language, scheme, scale):
     out = options.out / f"{options.drawing.stem}-{language}-{scheme}-{scale}"
     failures = 0
-    with Desktop(1600 * scale, 1030 * scale) as desktop:
+    with Desktop(1600 * scale, 1030 * scale, scheme) as desktop:
         drawing = desktop.folder / options.drawing.name
         shutil.copy(options.drawing, drawing)
         drawing.chmod(0o644)

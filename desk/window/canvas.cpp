@@ -20,6 +20,23 @@ constexpr double kFreeEdge = 0.03;
 constexpr double kHalf = 0.25;
 constexpr double kPictureEdge = 3;  ///< of a block's picture, logical pixels
 
+/// The largest of the stripes that a covered part leaves free.
+QRect freePart(const QRect& all, const QRect& covered) {
+    if (covered.isEmpty()) return all;
+    const QRect stripes[] = {{QPoint(covered.right() + 1, all.top()), all.bottomRight()},
+                             {all.topLeft(), QPoint(covered.left() - 1, all.bottom())},
+                             {all.topLeft(), QPoint(all.right(), covered.top() - 1)},
+                             {QPoint(all.left(), covered.bottom() + 1), all.bottomRight()}};
+    const auto room = [](const QRect& stripe) {
+        return stripe.isValid() ? static_cast<qint64>(stripe.width()) * stripe.height() : 0;
+    };
+    const QRect* best = &stripes[0];
+    for (const QRect& stripe : stripes) {
+        if (room(stripe) > room(*best)) best = &stripe;
+    }
+    return room(*best) > 0 ? *best : all;
+}
+
 }  // namespace
 
 Canvas::Canvas(QWidget* parent) : QWidget(parent), state_(std::make_unique<CanvasState>(*this)) {
@@ -183,16 +200,23 @@ void Canvas::zoomTo(const std::vector<EntityId>& entities) {
     state_->zoomTo(box, kHalf);
 }
 
-void Canvas::reveal(EntityId entity) {
+void Canvas::reveal(EntityId entity, const QRect& covered) {
     if (!state_->isShowing()) return;
     const geometry::Box box = state_->boundsOf({entity});
     if (box.empty()) return;
     const picture::Frame frame = state_->view.projection().apply(box);
-    if (state_->view.frame().holds(frame)) return;
-    // It comes to the middle; the scale changes only where it wouldn't fit.
+    const double ratio = state_->ratio();
+    const QRectF there(frame.left / ratio, frame.top / ratio, frame.width() / ratio, frame.height() / ratio);
+    if (state_->view.frame().holds(frame) && !there.intersects(covered)) return;
+    // It comes to the middle of what is free; the scale changes only where it wouldn't fit.
+    const QRectF free = freePart(rect(), covered & rect());
     CanvasView::Look look = state_->view.look();
-    look.center = {(box.low.x + box.high.x) / 2, (box.low.y + box.high.y) / 2, 0};
-    look.scale = std::min(look.scale, state_->view.fitting(box, 0.1).scale);
+    const double fitting =
+        state_->view.fitting(box, 0.1).scale * std::min(free.width() / width(), free.height() / height());
+    look.scale = std::min(look.scale, fitting);
+    const QPointF off = (free.center() - QRectF(rect()).center()) * ratio;
+    look.center = {(box.low.x + box.high.x) / 2 - off.x() / look.scale,
+                   (box.low.y + box.high.y) / 2 + off.y() / look.scale, 0};
     state_->view.remember();
     state_->glideTo(look);
 }
@@ -222,9 +246,12 @@ void Canvas::paintEvent(QPaintEvent*) {
 void Canvas::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     CanvasState& state = *state_;
-    const bool wasFitted = state.wasFitted;
+    // A view that showed all goes on doing so.
+    const bool showsAll =
+        state.isShowing() && state.view.width() > 0 &&
+        state.view.look() == state.view.fitting(state.picture->extents(state.space), kFreeEdge);
     state.view.resize(std::round(width() * state.ratio()), std::round(height() * state.ratio()));
-    if (!wasFitted && state.isShowing()) {
+    if (state.isShowing() && (showsAll || !state.wasFitted)) {
         state.view.setLook(state.view.fitting(state.picture->extents(state.space), kFreeEdge));
         state.wasFitted = isVisible();
     }

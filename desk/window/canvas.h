@@ -117,8 +117,9 @@ class Canvas : public QWidget {
     void zoomPrevious();
     /// Glides to entities; they fill about half of the view.
     void zoomTo(const std::vector<drawing::EntityId>& entities);
-    /// Moves the view, only if the entity is out of sight.
-    void reveal(drawing::EntityId entity);
+    /// Moves the view, only if the entity is out of sight: also behind `covered`, a part of the canvas that a
+    /// dialog hides.
+    void reveal(drawing::EntityId entity, const QRect& covered = {});
 
   signals:
     /// Asked for a point or an angle: snapped, with ortho, in world coordinates.

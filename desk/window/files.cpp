@@ -70,6 +70,9 @@ bool Files::openAsked() {
 bool Files::open(const QString& path) {
     const QString full = QFileInfo(path).absoluteFilePath();
     const QString name = QFileInfo(full).fileName();
+    const QFileInfo before(full);
+    const QDateTime stampBefore = before.lastModified();
+    const qint64 sizeBefore = before.size();
     try {
         session_.open(full);
     } catch (const shell::UserBreak&) {
@@ -87,6 +90,12 @@ bool Files::open(const QString& path) {
     isConverted_ = isDwg(full);
     remember(full);
     watch();
+    if (!isConverted_ && (stamp_ != stampBefore || size_ != sizeBefore)) {
+        // Another program wrote it while it was read.
+        stamp_ = stampBefore;
+        size_ = sizeBefore;
+        fileChanged();
+    }
     return true;
 }
 

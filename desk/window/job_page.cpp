@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace window {
@@ -22,13 +23,21 @@ JobPage::JobPage(QWidget* parent)
       body_(new QWidget(this)),
       rows_(new QVBoxLayout(body_)) {
     head_->setCount(-1);
-    auto* column = new QVBoxLayout(this);
+    auto* outer = new QVBoxLayout(this);
+    auto* area = new QScrollArea(this);
+    auto* inside = new QWidget;
+    auto* column = new QVBoxLayout(inside);
     auto* secondColumn = new QVBoxLayout(second_);
-    for (QVBoxLayout* each : {column, secondColumn}) {
+    for (QVBoxLayout* each : {outer, column, secondColumn}) {
         each->setContentsMargins(0, 0, 0, 0);
         each->setSpacing(0);
     }
-    column->addWidget(head_);
+    outer->addWidget(head_);
+    outer->addWidget(area, 1);
+    area->setWidget(inside);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
     const auto add = [&](QVBoxLayout* into, QLabel* picture, QLabel* name, QLabel* count) {
         picture->setObjectName("blockPicture");
         picture->setFixedHeight(pictureBox().height() + 2);

@@ -6,7 +6,9 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 
+#include <QApplication>
 #include <QTimer>
+#include <QWidget>
 #include <algorithm>
 #include <unordered_set>
 
@@ -34,6 +36,17 @@ bool isOn(forms::Form* form, const char* name) {
     if (auto* check = find<forms::CheckBox>(form, name)) return check->value() == 1;
     if (auto* option = find<forms::OptionButton>(form, name)) return option->value();
     return false;
+}
+
+/// What dialogs hide of the canvas.
+QRect coveredPart(const Canvas& canvas) {
+    QRect covered;
+    for (const QWidget* each : QApplication::topLevelWidgets()) {
+        if (!each->isVisible() || each == canvas.window() || (each->windowFlags() & Qt::Dialog) != Qt::Dialog)
+            continue;
+        covered |= each->frameGeometry().translated(-canvas.mapToGlobal(QPoint()));
+    }
+    return covered;
 }
 
 /// Above this number only base points are drawn of what is to come; the canvas knows, the legend stays.
@@ -266,7 +279,7 @@ void JobView::showExtraction(forms::Form& form) {
         shown += "   " + tr("row %1 shown").arg(row);
     }
     canvas_.setMarks(marks_);
-    if (marks_.shownRow != drawing::kNoEntity) canvas_.reveal(marks_.shownRow);
+    if (marks_.shownRow != drawing::kNoEntity) canvas_.reveal(marks_.shownRow, coveredPart(canvas_));
     emit rowShown(marks_.shownRow);
     emit marksChanged(rows == 0 ? QString() : shown);
 }

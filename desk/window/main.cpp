@@ -5,12 +5,10 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDesktopServices>
 #include <QIcon>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStyleFactory>
-#include <QUrl>
 #include <csignal>
 #include <exception>
 #include <iostream>
@@ -26,9 +24,6 @@ shell::DeskOptions deskOptions(const QString& regional) {
     options.stateFolder = shell::stateFolder(shell::readEnvironment);
     options.autosave = true;
     options.frenchDesktop = shell::isFrenchDesktop(shell::readEnvironment);
-    options.showPage = [](const std::filesystem::path& page) {
-        return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(page.string())));
-    };
     return options;
 }
 

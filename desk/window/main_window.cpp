@@ -5,6 +5,7 @@
 #include "desk/window/command_line.h"
 #include "desk/window/desk_texts.h"
 #include "desk/window/files.h"
+#include "desk/window/help_window.h"
 #include "desk/window/job_page.h"
 #include "desk/window/job_view.h"
 #include "desk/window/layers_panel.h"
@@ -18,6 +19,7 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTimer>
@@ -27,6 +29,7 @@ namespace window {
 namespace {
 
 constexpr int kKeepCopyEvery = 5'000;  // ms
+constexpr QSize kRoomForFrame{8, 40};
 
 }  // namespace
 
@@ -36,7 +39,7 @@ MainWindow::MainWindow(const shell::DeskOptions& options, const MakeFace& face, 
     setObjectName("mainWindow");
     setAcceptDrops(true);
     setMinimumSize(640, 420);
-    resize(1600, 1000);
+    resize(QSize(1600, 1000).boundedTo(screen()->availableSize() - kRoomForFrame));
     build();
     face_ = face(*this);
     watch_ = new DialogWatch(*face_, this);
@@ -45,6 +48,10 @@ MainWindow::MainWindow(const shell::DeskOptions& options, const MakeFace& face, 
     options_.watch = [this] { work_->breathe(); };
     options_.aside = [this](const std::string& path, std::function<void()> reading) {
         files_->readAside(QString::fromStdString(path), std::move(reading));
+    };
+    options_.showPage = [this](const std::filesystem::path& page) {
+        showHelp(page);
+        return true;
     };
     options_.confirm = [this](const std::string& question) {
         return files_->confirm(deskText(QString::fromStdString(question)));
@@ -76,6 +83,11 @@ const drawing::Drawing* MainWindow::drawing() const {
 }
 
 QString MainWindow::faultOf(const forms::Control& table, int row) const { return jobs_->faultOf(table, row); }
+
+void MainWindow::showHelp(const std::filesystem::path& page) {
+    if (help_ == nullptr) help_ = new HelpWindow(this);
+    help_->showPage(QString::fromStdString(page.string()));
+}
 
 bool MainWindow::isBlocked() const { return session_->isRunning(); }
 
@@ -259,7 +271,7 @@ void MainWindow::commandEnded(shell::Desk::Outcome outcome) {
 
 void MainWindow::resultLink(int index) {
     if (isBlocked()) {
-        canvas_->zoomTo(jobs_->lit());
+        index == 0 ? canvas_->zoomTo(jobs_->lit()) : canvas_->zoomPrevious();
         return;
     }
     if (index == 0) {

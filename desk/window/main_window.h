@@ -24,6 +24,7 @@ class BusyBar;
 class CommandLine;
 class EdgeTab;
 class Files;
+class HelpWindow;
 class JobView;
 class LayersPanel;
 class NoticeBar;
@@ -115,6 +116,7 @@ class MainWindow : public QMainWindow {
     void commandEnded(shell::Desk::Outcome outcome);
     void resultLink(int index);
     void chooseSpace(int tab);
+    void showHelp(const std::filesystem::path& page);
     bool isBlocked() const;
     const drawing::Drawing* drawing() const;
 
@@ -153,6 +155,7 @@ class MainWindow : public QMainWindow {
     Session* session_ = nullptr;
     Files* files_ = nullptr;
     JobView* jobs_ = nullptr;
+    HelpWindow* help_ = nullptr;  ///< from its first page on
     RunWatch* work_ = nullptr;
 
     std::vector<drawing::BlockId> spaces_;  ///< of the tabs

@@ -304,8 +304,9 @@ void MainWindow::connectSession() {
         rightVeil_->setOn(false);
     });
     connect(jobs_, &JobView::marksChanged, this, [this](const QString& text) {
-        status_->showResult(text, StatusLine::Tone::Plain,
-                            text.isEmpty() ? QStringList() : QStringList{tr("Show all")});
+        status_->showResult(
+            text, StatusLine::Tone::Plain,
+            text.isEmpty() ? QStringList() : QStringList{tr("Show all"), tr("Previous view")});
     });
     connect(files_, &Files::recentChanged, this, [this] {
         QMenu* menu = actions_["recent"]->menu();

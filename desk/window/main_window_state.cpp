@@ -2,6 +2,7 @@
 #include "desk/window/blocks_panel.h"
 #include "desk/window/command_line.h"
 #include "desk/window/files.h"
+#include "desk/window/help_window.h"
 #include "desk/window/job_page.h"
 #include "desk/window/layers_panel.h"
 #include "desk/window/main_window.h"
@@ -49,6 +50,7 @@ void MainWindow::applyScheme() {
     layers_->setScheme(scheme_);
     properties_->setScheme(scheme_);
     page_->setScheme(scheme_);
+    if (help_ != nullptr) help_->setScheme(scheme_);
     blocks_->forgetPictures();
     status_->showCounts(canvas_->notDrawn(), canvas_->hidden());
 }
