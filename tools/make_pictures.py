@@ -47,7 +47,7 @@ class Pictures(Tour):
         w = self.w
         w.measure()
         w.pick(*self.plan.point_on(self.plan.old, 3))
-        w.point_to(13, -4)
+        w.point_to(16.2, -3.2)
         time.sleep(0.4)
         self.take("window")
         w.key("ctrl+l")
@@ -194,8 +194,9 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("scenes", nargs="*", help=", ".join(SCENES))
     parser.add_argument("--out", type=Path, default=ROOT / "docs/pictures")
+    parser.add_argument("--language", choices=("en", "fr"))
     options = parser.parse_args()
-    for language in ("en", "fr"):
+    for language in [options.language] if options.language else ("en", "fr"):
         with Desktop(WIDTH, HEIGHT + 60) as desktop:
             for scene in options.scenes or SCENES:
                 drawing = desktop.folder / SAMPLE.name

@@ -163,7 +163,8 @@ class Window:
             ini.write_bytes(f"Lng={LANGUAGES[language]}\r\n".encode("cp1252"))
         variables = {**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_SCALE_FACTOR": str(scale),
                      "LC_NUMERIC": "fr_FR.UTF-8" if language == "fr" else "C", **(environment or {})}
-        command = [str(program or ROOT / "build/test/vorlane-window"), *([str(drawing)] if drawing else [])]
+        program = program or os.environ.get("VORLANE_WINDOW", ROOT / "build/test/vorlane-window")
+        command = [str(program), *([str(drawing)] if drawing else [])]
         self.log = open(desktop.folder / "window.log", "a+")
         self.process = subprocess.Popen(command, env=variables, stdout=self.log, stderr=self.log, preexec_fn=before,
                                         cwd=ROOT)

@@ -27,7 +27,8 @@ struct CanvasPrompt {
     QString text;                          ///< shown at the cursor
     std::optional<geometry::Point3> base;  ///< a rubber band runs from here to the cursor
     bool isPolygon = false;  ///< the point is a corner; length, circumference and area are shown
-    std::vector<geometry::Point3> corners;     ///< those of the polygon so far
+    bool isFence = false;    ///< the point is a corner of a line that selects what it crosses
+    std::vector<geometry::Point3> corners;     ///< those of the polygon or the fence so far
     drawing::BlockId job = drawing::kNoBlock;  ///< counted first in what a rectangle would take
     /// A reference of this block hangs at the cursor, with the values of its attributes known so far.
     drawing::BlockId hanging = drawing::kNoBlock;

@@ -155,7 +155,7 @@ bool CanvasState::key(QKeyEvent& event) {
             emit canvas.finished();
             return true;
         case Qt::Key_Backspace:
-            if (prompt.isPolygon && typed.isEmpty()) {
+            if ((prompt.isPolygon || prompt.isFence) && typed.isEmpty()) {
                 emit canvas.cornerTakenBack();
                 return true;
             }

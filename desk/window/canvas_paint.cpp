@@ -196,14 +196,25 @@ void CanvasState::paintRectangle(QPainter& painter) {
 /// The rubber band from a base point.
 void CanvasState::paintBands(QPainter& painter) {
     const bool asksPoint = prompt.asking == Asking::Point || prompt.asking == Asking::Angle;
-    if (!asksPoint || !prompt.base || !hasCursor || prompt.isPolygon) return;
+    if (!asksPoint || !prompt.base || !hasCursor || prompt.isPolygon || prompt.isFence) return;
     QPen pen(tone(Token::Text2), 1);
     pen.setDashPattern({6, 4});
     painter.setPen(pen);
     painter.drawLine(logical(*prompt.base), logical(point()));
 }
 
+void CanvasState::paintFence(QPainter& painter) {
+    QPolygonF line;
+    for (const geometry::Point3& at : prompt.corners) line.append(logical(at));
+    if (hasCursor) line.append(logical(point()));
+    QPen pen(tone(Token::Crossing), 1.5);
+    pen.setDashPattern({7 / 1.5, 4 / 1.5});
+    painter.setPen(pen);
+    painter.drawPolyline(line);
+}
+
 void CanvasState::paintPolygon(QPainter& painter) {
+    if (prompt.isFence) return paintFence(painter);
     if (!prompt.isPolygon || prompt.corners.empty()) return;
     QPolygonF polygon;
     for (const geometry::Point3& at : prompt.corners) polygon.append(logical(at));

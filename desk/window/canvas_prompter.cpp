@@ -129,7 +129,7 @@ void CanvasPrompter::showPrompt() {
         hint = removing_ ? tr("Picks take out of the selection, A adds again, Enter ends")
                          : tr("W C ALL P L R F, Shift takes out, Enter ends");
     }
-    if (prompt_.isPolygon) hint = tr("Backspace takes the last corner, Enter ends");
+    if (prompt_.isPolygon || prompt_.isFence) hint = tr("Backspace takes the last corner, Enter ends");
     line_.setPrompt(prompt_.text, hint);
 }
 
@@ -159,18 +159,16 @@ void CanvasPrompter::give(Answer answer) {
 
 void CanvasPrompter::breakOff() {
     if (!isAsking()) return;
-    if (area_ != Area::None) {  // one level back: the rectangle that was begun
-        area_ = Area::None;
-        prompt_.asking = Asking::Selection;
-        prompt_.base.reset();
-        showPrompt();
-        return;
+    if (area_ != Area::None) {  // one level back: the rectangle or fence that was begun
+        leaveArea();
+        return showPrompt();
     }
     emit told(tr("*Cancel*"));
     give(Answer::BrokenOff);
 }
 
 void CanvasPrompter::finish() {
+    if (area_ == Area::Fence && areaCorners_.size() > 1) return finishArea();
     if (area_ != Area::None) return breakOff();
     give(Answer::Nothing);
 }
@@ -196,6 +194,10 @@ void CanvasPrompter::pointGiven(const Point3& point) {
 }
 
 void CanvasPrompter::takeBackCorner() {
+    if (isAsking() && area_ == Area::Fence && !areaCorners_.empty()) {
+        areaCorners_.pop_back();
+        return askAreaCorner();
+    }
     if (!isAsking() || !prompt_.isPolygon || polygon_.corners.empty()) return;
     polygon_.corners.pop_back();
     prompt_.corners = polygon_.corners;
@@ -261,16 +263,9 @@ void CanvasPrompter::answerAngle(const QString& line) {
 
 void CanvasPrompter::answerSelection(const QString& line) {
     const QString word = line.toUpper();
-    if (word == "W" || word == "C") {
-        area_ = word == "W" ? Area::Window : Area::Crossing;
-        areaFirst_.reset();
-        prompt_.asking = Asking::Point;
-        const QString asked = prompt_.text;
-        prompt_.text = tr("First corner:");
-        showPrompt();
-        prompt_.text = asked;
-        return;
-    }
+    if (word == "W") return beginArea(Area::Window);
+    if (word == "C") return beginArea(Area::Crossing);
+    if (word == "F") return beginArea(Area::Fence);
     if (word == "R" || word == "A") {
         removing_ = word == "R";
         return showPrompt();
@@ -288,27 +283,53 @@ void CanvasPrompter::answerSelection(const QString& line) {
     }
 }
 
-void CanvasPrompter::areaCorner(const Point3& corner) {
-    if (!areaFirst_) {
-        areaFirst_ = corner;
-        prompt_.base = corner;
-        const QString asked = prompt_.text;
-        prompt_.text = tr("Opposite corner:");
-        showPrompt();
-        prompt_.text = asked;
-        return;
-    }
-    answers::Selection found(*drawing_);
-    const auto text = [](const Point3& p) {
-        return QString::number(p.x, 'g', 17) + "," + QString::number(p.y, 'g', 17);
-    };
-    const QString kind = area_ == Area::Window ? "w " : "c ";
-    found.add((kind + text(*areaFirst_) + " " + text(corner)).toStdString());
-    area_ = Area::None;
-    prompt_.asking = Asking::Selection;
+void CanvasPrompter::beginArea(Area area) {
+    area_ = area;
+    areaCorners_.clear();
+    prompt_.asking = Asking::Point;
+    prompt_.isFence = area == Area::Fence;
+    askAreaCorner();
+}
+
+void CanvasPrompter::askAreaCorner() {
     prompt_.base.reset();
+    if (!areaCorners_.empty()) prompt_.base = areaCorners_.back();
+    prompt_.corners = areaCorners_;
+    const QString asked = prompt_.text;
+    if (area_ == Area::Fence) {
+        prompt_.text =
+            areaCorners_.empty() ? tr("First point of the fence:") : tr("Next point of the fence:");
+    } else {
+        prompt_.text = areaCorners_.empty() ? tr("First corner:") : tr("Opposite corner:");
+    }
+    showPrompt();
+    prompt_.text = asked;
+}
+
+void CanvasPrompter::areaCorner(const Point3& corner) {
+    areaCorners_.push_back(corner);
+    const bool complete = area_ != Area::Fence && areaCorners_.size() == 2;
+    complete ? finishArea() : askAreaCorner();
+}
+
+void CanvasPrompter::finishArea() {
+    QString answer = area_ == Area::Window ? "w" : area_ == Area::Crossing ? "c" : "f";
+    for (const Point3& p : areaCorners_)
+        answer += " " + QString::number(p.x, 'g', 17) + "," + QString::number(p.y, 'g', 17);
+    answers::Selection found(*drawing_);
+    found.add(answer.toStdString());
+    leaveArea();
     select(found.entities());
     showPrompt();
+}
+
+void CanvasPrompter::leaveArea() {
+    area_ = Area::None;
+    areaCorners_.clear();
+    prompt_.asking = Asking::Selection;
+    prompt_.isFence = false;
+    prompt_.corners.clear();
+    prompt_.base.reset();
 }
 
 void CanvasPrompter::select(const std::vector<EntityId>& found) {

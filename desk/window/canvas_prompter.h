@@ -49,7 +49,7 @@ class CanvasPrompter : public QObject, public model::Prompter {
     void told(const QString& line);
 
   private:
-    enum class Area { None, Window, Crossing };
+    enum class Area { None, Window, Crossing, Fence };
     struct Polygon {
         std::vector<geometry::Point3> corners;
         std::size_t given = 0;  ///< corners handed on so far
@@ -68,7 +68,11 @@ class CanvasPrompter : public QObject, public model::Prompter {
     void answerEntity(const QString& line);
     void answerAngle(const QString& line);
     void answerSelection(const QString& line);
+    void beginArea(Area area);
+    void askAreaCorner();
     void areaCorner(const geometry::Point3& corner);
+    void finishArea();
+    void leaveArea();
     void select(const std::vector<drawing::EntityId>& found);
     void refuse(const QString& line, const QString& why);
     std::optional<geometry::Point3> typedPoint(const QString& line) const;
@@ -82,8 +86,8 @@ class CanvasPrompter : public QObject, public model::Prompter {
     Polygon polygon_;
     std::optional<geometry::Point3> lastPoint_;  ///< "@" counts from it where there is no base point
     std::vector<drawing::EntityId> previous_;
-    Area area_ = Area::None;  ///< a typed W or C waits for its corners
-    std::optional<geometry::Point3> areaFirst_;
+    Area area_ = Area::None;  ///< a typed W, C or F waits for its corners
+    std::vector<geometry::Point3> areaCorners_;
     bool removing_ = false;  ///< R: what is picked goes out of the selection
 
     model::Answer answer_ = model::Answer::BrokenOff;

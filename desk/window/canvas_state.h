@@ -132,6 +132,7 @@ class CanvasState {
     void paintRectangle(QPainter& painter);
     void paintBands(QPainter& painter);
     void paintPolygon(QPainter& painter);
+    void paintFence(QPainter& painter);
     void paintSnap(QPainter& painter);
     void paintSnapName(QPainter& painter, const QPointF& at);
     void paintCross(QPainter& painter);

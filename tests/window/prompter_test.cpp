@@ -51,6 +51,25 @@ TEST_F(PrompterTest, WhileACommandAsksTheMousePicksAndTheLineTakesText) {
     EXPECT_TRUE(window_->commandLine().historyText().endsWith(" selected"));
 }
 
+TEST_F(PrompterTest, AFenceTakesWhatItCrosses) {
+    const auto crossed = shapes::selectWindow(drawing(), {2, 7, 0}, {2, 7.001, 0}, true);
+    whenAsked([&] {
+        prompter().answer("f");
+        for (const Point3& corner : {Point3{2, 7, 0}, Point3{9, 9, 0}}) click(corner);
+        emit window_->canvas().cornerTakenBack();
+        prompter().answer("14,7");
+        emit window_->canvas().finished();
+        EXPECT_GT(window_->canvas().selection().size(), 5u);
+        prompter().answer("f");
+        emit window_->canvas().brokenOff();  // one level back: the selection goes on
+        emit window_->canvas().finished();
+    });
+    const model::SelectionPick pick = prompter().selectEntities(drawing(), "");
+    EXPECT_EQ(pick.answer, Answer::Given);
+    for (const drawing::EntityId id : crossed)
+        EXPECT_NE(std::find(pick.entities.begin(), pick.entities.end(), id), pick.entities.end());
+}
+
 TEST_F(PrompterTest, APolygonGivesUpItsLastCornerOnDemand) {
     whenAsked([this] {
         for (const Point3& corner : {Point3{0, 0, 0}, Point3{1, 0, 0}, Point3{9, 9, 0}}) click(corner);
