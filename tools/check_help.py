@@ -82,7 +82,7 @@ def check_compiled():
         made, unpacked = Path(name) / "made", Path(name) / "unpacked"
         subprocess.run([sys.executable, ROOT / "tools/make_help_file.py", made], check=True)
         chm_contexts.extract(made / "Vorlane.chm", unpacked)
-        files = [path for pattern in ("*.html", "*.css") for path in maker.HELP.rglob(pattern)]
+        files = [path for pattern in ("*.html", "*.css", "*.png") for path in maker.HELP.rglob(pattern)]
         for path in files:
             inside = unpacked / path.relative_to(maker.HELP)
             if not inside.is_file() or inside.read_bytes() != path.read_bytes():

@@ -53,7 +53,8 @@ def title(path):
 
 def project():
     start = f"{languages()[0][0]}/start.html"
-    files = ["style.css"] + [f"{folder}/{page}.html" for folder, _ in languages() for _, page in contexts()]
+    files = ["style.css"] + [f"{folder}/{page}{kind}" for folder, _ in languages() for _, page in contexts()
+                             for kind in (".html", ".png") if (HELP / folder / f"{page}{kind}").exists()]
     numbers = list(mapped_pages())
     lines = ["[OPTIONS]", "Compatibility=1.1 or later", "Compiled file=Vorlane.chm", "Contents file=Vorlane.hhc",
              f"Default topic={start}", "Title=Vorlane", "Language=0x040c French", "Full-text search=Yes", "Auto Index=No"]

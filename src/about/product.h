@@ -14,7 +14,7 @@ inline constexpr std::string_view kSite = VORLANE_SITE;
 
 /// The product notice of fmAbout: one text for every language, so it speaks both.
 inline constexpr std::string_view kNotice =
-    "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et "
+    "Vorlane gère les références de bloc d'un dessin : remplacement, étiquetage, extraction et "
     "réinsertion.\r\n"
     "Logiciel libre sous licence MIT, livré sans aucune garantie.\r\n"
     "\r\n"

@@ -44,7 +44,6 @@ class PlayedScreen : public text_face::TextScreen {
     void hidden(forms::Form& form) override {
         TextScreen::hidden(form);
         mirror_.hidden(form);
-        paint(form);
         qt_.hidden(form);
     }
     void changed(forms::Form& form, forms::Change change) override {
@@ -98,7 +97,7 @@ class PlayedScreen : public text_face::TextScreen {
             QTest::mouseClick(qt_.top()->findChild<QPushButton*>(button), Qt::LeftButton);
         });
     }
-    /// With VORLANE_PICTURES naming a folder, each dialog is painted there as it was last.
+    /// With VORLANE_PICTURES naming a folder, each dialog is painted there as it was before its last act.
     void paint(const forms::Form& form) {
         const QString folder = qEnvironmentVariable("VORLANE_PICTURES");
         if (!folder.isEmpty() && qt_.windowOf(form) != nullptr)
@@ -107,6 +106,7 @@ class PlayedScreen : public text_face::TextScreen {
     void step(forms::Form& form, int depth) {
         if (depth != depth_ || isBusy_[depth] || !form.visible()) return;
         isBusy_[depth] = true;
+        paint(form);
         hand_.window(form).act(nullptr, [&] {
             performNext(form, hand_);
             std::string missed;
