@@ -797,7 +797,7 @@ Command: VNABOUT
   Label2: Copyright © 2026 Merovane
   BtnWeb: [Website]
   Label3: https://www.merovane.example
-  Text1: "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
+  Text1: "Vorlane gère les références de bloc d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
   Combo1: "English"
     > 0 English
       1 Français
@@ -823,8 +823,8 @@ What the dialog shows
   The first three lines
       the product and its version, the copyright, the address of the site
   The text
-      what Vorlane does and where to find help; it is there to be read, not to
-      be changed
+      what Vorlane does and its licence, in both languages; it is there to be
+      read, not to be changed
   Website
       opens the product's page in the browser
   Choisir la langue
@@ -1793,7 +1793,7 @@ Command: VNABOUT
   Label2: Copyright © 2026 Merovane
   BtnWeb: [Go Web]
   Label3: https://www.merovane.example
-  Text1: "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
+  Text1: "Vorlane gère les références de bloc d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
   Combo1: "Français"
       0 English
     > 1 Français
@@ -1818,8 +1818,8 @@ Ce que montre la boîte
   Les trois premières lignes
       le produit et sa version, les droits, l'adresse du site
   Le texte
-      ce que fait Vorlane et où trouver l'aide ; il se lit, il ne se modifie
-      pas
+      ce que fait Vorlane et sa licence, dans les deux langues ; il se lit, il
+      ne se modifie pas
   Go Web
       ouvre la page du produit dans le navigateur
   Select language
