@@ -1,9 +1,12 @@
 #!/usr/bin/env python3
 """Makes the pictures of the dialogs on the help's pages, without a display, from the samples:
 
-    make_help_pictures.py [PLAY_ACTS]     (build/test/play-acts, which paints its dialogs)"""
+    make_help_pictures.py [PLAY_ACTS]     (build/test/play-acts, which paints its dialogs)
+
+ImageMagick makes them small: each user's install folder gets them."""
 
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -82,7 +85,10 @@ def main():
             subprocess.run([play_acts, "projects/site_survey/apartment.dxf", "--script", "dialogs.vns"], cwd=folder, env=environment,
                            check=True, stdout=subprocess.DEVNULL)
             for picture in (folder / "pictures").iterdir():
-                (maker.HELP / language / f"{pages[picture.stem]}.png").write_bytes(picture.read_bytes())
+                made = maker.HELP / language / f"{pages[picture.stem]}.png"
+                subprocess.run(["convert", picture, "-strip", "+dither", "-colors", "48", f"PNG8:{made}"], check=True)
+                if shutil.which("optipng"):
+                    subprocess.run(["optipng", "-quiet", "-o2", made], check=True)
 
 
 if __name__ == "__main__":

@@ -23,7 +23,7 @@ inline constexpr std::string_view kNotice =
     "Free software under the MIT licence, without any warranty.";
 
 inline std::string copyrightLine() {
-    return std::string(platform::kVersion.legalCopyright) + " " + std::string(platform::kVersion.companyName);
+    return std::string(platform::kVersion.legalCopyright).append(" ").append(platform::kVersion.companyName);
 }
 
 }  // namespace about
