@@ -70,12 +70,15 @@ std::vector<std::string> commandCompletions(const shell::Desk& desk, std::string
     if (blank == std::string_view::npos) return desk.commandNames();
     const std::string command = basic::toUpper(beginning.substr(0, blank));
     const std::string before(beginning.substr(0, blank + 1));
-    if (command == "OPEN" || command == "SAVE")
+    if (command == "OPEN" || command == "SAVE" || command == "SAVE!" || command == "PICTURE")
         return text_face::fileCompletions(before, beginning.substr(blank + 1), {".dxf", ".dwg"});
     std::vector<std::string> lines;
     if (command == "LIST" && desk.hasDrawing()) {
-        for (const shell::BlockLine& line : shell::listBlocks(desk.document().drawing()))
+        for (const shell::BlockLine& line : shell::listBlocks(desk.document().drawing()).lines)
             lines.push_back(before + line.name);
+    } else if (command == "LAYER" && desk.hasDrawing()) {
+        for (const drawing::Layer& layer : desk.document().drawing().layers().all())
+            lines.push_back(before + layer.name);
     }
     return lines;
 }

@@ -44,4 +44,11 @@ void BlockTable::setErased(BlockId id, bool erased) {
     enterName(block.nameKey, kNoBlock);
 }
 
+void BlockTable::restore(BlockId id, Block state) {
+    const bool wasErased = blocks_[id].isErased;
+    const bool isErased = state.isErased;
+    blocks_[id] = std::move(state);
+    if (wasErased != isErased) setErased(id, isErased);
+}
+
 }  // namespace drawing

@@ -23,7 +23,7 @@ struct Block {
     bool isModelSpace = false;
     bool isPaperSpace = false;   ///< any layout's space
     bool isActiveSpace = false;  ///< its entities stand in the ENTITIES section
-    bool isErased = false;       ///< brought in by a step that was undone
+    bool isErased = false;       ///< purged, or brought in by a step that was undone
 
     EntityId record = kNoEntity;  ///< its BLOCK_RECORD; R12 has none
     EntityId begin = kNoEntity;   ///< its BLOCK; a space of R12 may have none
@@ -68,8 +68,10 @@ class BlockTable {
     /// Adds a definition at the end; the first of a name is the one that `find` gives.
     BlockId add(Block block);
     void setSpaces(BlockId model, BlockId paper);
-    /// Takes a definition out of the names for good (undone) or puts it back.
+    /// Takes a definition out of the names or puts it back.
     void setErased(BlockId id, bool erased);
+    /// Gives a definition an earlier or later state of its own back.
+    void restore(BlockId id, Block state);
 
   private:
     void enterName(NameKey name, BlockId id);

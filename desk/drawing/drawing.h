@@ -177,6 +177,11 @@ class Drawing {
     /// Deletes an entity with its parts and what it hard-owns (extension dictionary).
     void erase(EntityId id);
 
+    /// The definitions that nothing uses, see BlockUses.
+    std::vector<BlockId> unusedBlocks() const;
+    /// Deletes them; their names.
+    std::vector<std::string> purgeBlocks();
+
     // New entities. They go to the end of model space with the current layer, colour, linetype and so on.
 
     /// A reference of a block, with attribute references made from the block's attribute definitions that
@@ -184,6 +189,9 @@ class Drawing {
     /// for an erased one.
     EntityId insertBlock(BlockId block, const Point3& point, const Vector3& scale, double rotation);
     EntityId addLine(const Point3& start, const Point3& end);
+    /// Puts an entity that was made since the drawing was opened at the end of another space. Raises
+    /// kNotApplicable for one of the file.
+    void moveToSpace(EntityId id, BlockId space);
 
     // Selection.
 
@@ -234,11 +242,14 @@ class Drawing {
     void refreshRecord(EntityId id);
     void eraseOwned(EntityId id);
     void eraseObject(EntityId id);
+    void eraseDefinition(BlockId id);
     /// Group 330 outside of braces, 0 where there is none.
     Handle ownerHandle(EntityId id) const;
     /// The first of the handles that stand for objects without one.
     Handle standInBase() const;
     EntityId addToModelSpace(EntityId id);
+    /// Takes a new entity from the list of its space to that of another.
+    void changeSpace(EntityId id, BlockId space);
     void undoRecords(const StepLog& log);
     /// The state that a step led to, as it stands before the step is undone.
     UndoneStep undoneStep(const StepLog& log) const;

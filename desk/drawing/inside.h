@@ -19,6 +19,8 @@ class Inside {
     static void forgetDefinitions(Drawing& drawing);
     /// Brings a record in line with its groups.
     static void refreshRecord(Drawing& drawing, EntityId id) { drawing.refreshRecord(id); }
+    /// The handle of an object's owner, 0 where there is none.
+    static Handle ownerHandle(const Drawing& drawing, EntityId id) { return drawing.ownerHandle(id); }
     /// Deletes what an entity hard-owns.
     static void eraseOwned(Drawing& drawing, EntityId id) { drawing.eraseOwned(id); }
 };

@@ -2,6 +2,8 @@
 #include "desk/drawing/drawing.h"
 #include "desk/drawing/store.h"
 
+#include <algorithm>
+
 namespace drawing {
 
 bool Drawing::canRedo() const { return store_->depth_ == 0 && !store_->undone_.empty(); }
@@ -23,8 +25,10 @@ UndoneStep Drawing::undoneStep(const StepLog& log) const {
     for (const NameKey name : log.layers) undone.layers.emplace_back(name, layers_[name]);
     undone.additions.assign(store_->additions.begin() + static_cast<std::ptrdiff_t>(log.additions),
                             store_->additions.end());
-    for (const EntityId id : blocks_[modelSpace()].entities) {
-        if (id >= log.firstNew) undone.entities.push_back(id);
+    for (const Block& space : blocks_.all()) {
+        if (!space.isLayout()) continue;
+        const auto first = std::lower_bound(space.entities.begin(), space.entities.end(), log.firstNew);
+        undone.entities.insert(undone.entities.end(), first, space.entities.end());
     }
     undone.nextHandle = store_->nextHandle();
     undone.state = state_;
@@ -36,7 +40,7 @@ bool Drawing::redo() {
     UndoneStep undone = std::move(store_->undone_.back());
     store_->undone_.pop_back();
     redoRecords(undone);
-    for (auto& [id, block] : undone.blocks) blocks_[id] = std::move(block);
+    for (auto& [id, block] : undone.blocks) blocks_.restore(id, std::move(block));
     for (BlockId block = static_cast<BlockId>(undone.log.blockCount); block < blocks_.size(); ++block) {
         blocks_.setErased(block, false);
     }
@@ -44,8 +48,7 @@ bool Drawing::redo() {
     refreshLayers(undone.log);
     for (auto value = undone.variables.rbegin(); value != undone.variables.rend(); ++value)
         header_.set(value->first, value->second);
-    std::vector<EntityId>& entities = blocks_[modelSpace()].entities;
-    entities.insert(entities.end(), undone.entities.begin(), undone.entities.end());
+    for (const EntityId id : undone.entities) blocks_[store_->record(id).owner].entities.push_back(id);
     store_->additions.insert(store_->additions.end(), undone.additions.begin(), undone.additions.end());
     store_->setNextHandle(undone.nextHandle);
     creator_->forget();
@@ -64,6 +67,7 @@ void Drawing::redoRecords(UndoneStep& undone) {
         const bool isMain = !after.record.has(kPart) && after.record.owner != kNoBlock;
         const bool renamed = !isNew && isMain && record.name != after.record.name;
         if (renamed) store_->unindexName(after.id);
+        if (!isNew && isMain && record.owner != after.record.owner) changeSpace(after.id, after.record.owner);
         record = after.record;
         if (after.ownsBytes) record.bytes = after.bytes.empty() ? nullptr : store_->arena_.store(after.bytes);
         const bool appears = isNew && isMain && blocks_[record.owner].isLayout() && !record.has(kErased);

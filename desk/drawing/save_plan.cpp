@@ -198,15 +198,36 @@ void SavePlan::endSection() {
 }
 
 void SavePlan::addEntities() {
-    // New entities are those of model space with numbers behind the file's. They rise in drawing order.
-    const std::vector<EntityId>& entities = drawing_.blocks()[drawing_.modelSpace()].entities;
-    const auto first = std::find_if(std::lower_bound(entities.begin(), entities.end(), store_.fileCount()),
-                                    entities.end(), [this](EntityId id) { return !store_.isErased(id); });
-    if (first == entities.end()) return;
-    const bool isNew = beginAddition(dxf::SectionKind::Entities, "ENTITIES");
     newPieces_.reserve(newPieces_.size() + (store_.count() - store_.fileCount()));
-    for (auto id = first; id != entities.end(); ++id) addRecord(*id);
-    if (isNew) endSection();
+    const std::vector<EntityId> model = newEntities(drawing_.modelSpace());
+    const std::vector<EntityId> paper = newEntities(drawing_.blocks().paperSpace());
+    if (!model.empty() || !paper.empty()) {
+        const bool isNew = beginAddition(dxf::SectionKind::Entities, "ENTITIES");
+        for (const EntityId id : model) addRecord(id);
+        for (const EntityId id : paper) addRecord(id);
+        if (isNew) endSection();
+    }
+    // Those of the other layouts stand in BLOCKS.
+    const BlockTable& blocks = drawing_.blocks();
+    for (BlockId space = 0; space < blocks.size(); ++space) {
+        if (!blocks[space].isLayout() || space == blocks.modelSpace() || space == blocks.paperSpace())
+            continue;
+        const std::vector<EntityId> added = newEntities(space);
+        if (added.empty()) continue;
+        const std::size_t end = store_.fileRange(blocks[space].end).begin;
+        beginPatch(end, end);
+        for (const EntityId id : added) addRecord(id);
+    }
+}
+
+std::vector<EntityId> SavePlan::newEntities(BlockId space) const {
+    // They have numbers behind the file's, which rise in drawing order.
+    std::vector<EntityId> added;
+    if (space == kNoBlock) return added;
+    const std::vector<EntityId>& entities = drawing_.blocks()[space].entities;
+    std::copy_if(std::lower_bound(entities.begin(), entities.end(), store_.fileCount()), entities.end(),
+                 std::back_inserter(added), [this](EntityId id) { return !store_.isErased(id); });
+    return added;
 }
 
 void SavePlan::joinPieces() {

@@ -32,6 +32,8 @@ class SavePlan {
     void patchRecords();
     void patchGroup(EntityId id);
     void addEntities();
+    /// Those of a space that the file doesn't have.
+    std::vector<EntityId> newEntities(BlockId space) const;
     void addOthers();
     void addTables();
     /// Begins a patch at the end of a section; true where the file lacks it and it was opened.

@@ -65,7 +65,7 @@ struct UndoneStep {
     std::vector<std::pair<NameKey, Layer>> layers;
     std::vector<std::pair<std::string, HeaderVariables::Value>> variables;  ///< the last change first
     std::vector<Addition> additions;
-    std::vector<EntityId> entities;  ///< new ones of model space
+    std::vector<EntityId> entities;  ///< new ones of the spaces
     Handle nextHandle = 0;
     std::uint64_t state = 0;
 };

@@ -27,6 +27,12 @@ void TagEdit::integer(int code, std::string_view subclass, std::int64_t value) {
     note(code, subclass, begin);
 }
 
+void TagEdit::handle(int code, std::string_view subclass, Handle value) {
+    const std::size_t begin = values_.size();
+    writer_.handle(code, value);
+    note(code, subclass, begin);
+}
+
 void TagEdit::point(int code, std::string_view subclass, const Point3& value) {
     number(code, subclass, value.x);
     number(code + 10, subclass, value.y);

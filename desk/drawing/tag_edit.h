@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/drawing/ids.h"
 #include "desk/drawing/placement.h"
 #include "desk/dxf/tag_reader.h"
 #include "desk/dxf/tag_writer.h"
@@ -23,6 +24,7 @@ class TagEdit {
     void text(int code, std::string_view subclass, std::string_view utf8);
     void number(int code, std::string_view subclass, double value);
     void integer(int code, std::string_view subclass, std::int64_t value);
+    void handle(int code, std::string_view subclass, Handle value);
     /// Groups `code`, `code` + 10 and `code` + 20.
     void point(int code, std::string_view subclass, const Point3& value);
     /// Takes the group away where it is.

@@ -3,6 +3,7 @@
 #include "desk/drawing/store.h"
 
 #include <algorithm>
+#include <set>
 
 namespace drawing {
 
@@ -73,11 +74,12 @@ void Drawing::unwind(UndoneStep& undone) {
     const StepLog& log = undone.log;
     store_->steps_.pop_back();
     undoRecords(log);
-    for (auto changed = log.blocks.rbegin(); changed != log.blocks.rend(); ++changed) {
-        blocks_[changed->first] = changed->second;
-    }
+    // New ones first: they may have the name of one that comes back.
     for (BlockId block = static_cast<BlockId>(log.blockCount); block < blocks_.size(); ++block) {
         blocks_.setErased(block, true);
+    }
+    for (auto changed = log.blocks.rbegin(); changed != log.blocks.rend(); ++changed) {
+        blocks_.restore(changed->first, changed->second);
     }
     for (NameKey layer : log.layers) layers_.remove(layer);
     refreshLayers(log);
@@ -92,19 +94,23 @@ void Drawing::unwind(UndoneStep& undone) {
 }
 
 void Drawing::undoRecords(const StepLog& log) {
+    std::set<BlockId> spaces{modelSpace()};
     for (EntityId id = store_->count(); id-- > log.firstNew;) {
         store_->journal.note(id);
         Record& record = store_->records_[id];
         const bool inSpace =
             !record.has(kPart) && record.owner != kNoBlock && blocks_[record.owner].isLayout();
+        if (inSpace) spaces.insert(record.owner);
         if (inSpace && !record.has(kErased)) {
             store_->unindexName(id);
         }
         record.set(kErased);
         store_->dropBytes(id);
     }
-    std::vector<EntityId>& entities = blocks_[modelSpace()].entities;
-    while (!entities.empty() && entities.back() >= log.firstNew) entities.pop_back();
+    for (const BlockId space : spaces) {
+        std::vector<EntityId>& entities = blocks_[space].entities;
+        while (!entities.empty() && entities.back() >= log.firstNew) entities.pop_back();
+    }
     for (auto changed = log.records.rbegin(); changed != log.records.rend(); ++changed) {
         const auto& [id, before] = *changed;
         store_->journal.note(id);
@@ -112,6 +118,7 @@ void Drawing::undoRecords(const StepLog& log) {
         const bool renamed = record.name != before.name && !before.has(kPart) && before.owner != kNoBlock;
         if (renamed) store_->unindexName(id);
         if (record.bytes != before.bytes) store_->dropBytes(id);
+        if (record.owner != before.owner) changeSpace(id, before.owner);
         record = before;
         if (renamed) store_->indexName(id);
     }

@@ -23,10 +23,12 @@ void listBlocks(Job& job) {
         return;
     }
     job.result.table.headers = {"references", "block", "kind"};
-    for (const shell::BlockLine& line : shell::listBlocks(drawing))
+    const shell::BlockListing listing = shell::listBlocks(drawing);
+    for (const shell::BlockLine& line : listing.lines)
         job.result.table.rows.push_back(
             {std::to_string(line.references), line.name, line.isXRef ? "external reference" : "block"});
     job.result.count("blocks", job.result.table.rows.size());
+    if (listing.anonymous > 0) job.result.count("withoutNameOrReferences", listing.anonymous);
 }
 
 void checkDrawing(Job& job) {

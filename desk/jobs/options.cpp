@@ -42,7 +42,8 @@ const std::vector<Option>& allOptions() {
         {"--scale", "X[,Y,Z]", kReplace, "Scale factors of the new references, or one for all three axes."},
         {"--visible", "on|off", kReplace, "Shows or hides the new references.", false, "on off"},
         {"--keep", "LIST", kReplace,
-         "What the new references take over from the old ones: layer, colour, linetype, parted by commas."},
+         "What the new references take over from the old ones: layer, colour, linetype, space (the layout), "
+         "parted by commas."},
         {"--zone", "ZONE", kReplace | kExtract,
          "Takes only the references of a zone of model space: \"w X,Y X,Y\" those wholly inside the window, "
          "\"c X,Y X,Y\" also those that reach into it. Several zones add up.",

@@ -18,7 +18,8 @@ struct Keep {
     bool layer = false;
     bool color = false;
     bool lineType = false;
-    bool any() const { return layer || color || lineType; }
+    bool space = false;  ///< the layout that it stands in
+    bool any() const { return layer || color || lineType || space; }
 };
 
 /// What the program that embeds the model gives it.

@@ -13,7 +13,10 @@ struct Word {
     std::string_view name;
     bool Keep::*member;
 };
-constexpr Word kWords[] = {{"layer", &Keep::layer}, {"colour", &Keep::color}, {"linetype", &Keep::lineType}};
+constexpr Word kWords[] = {{"layer", &Keep::layer},
+                           {"colour", &Keep::color},
+                           {"linetype", &Keep::lineType},
+                           {"space", &Keep::space}};
 
 constexpr std::string_view kCommonPart = "AcDbEntity";
 constexpr int kLineType = 6;
@@ -49,7 +52,7 @@ Keep parseKeep(std::string_view text) {
         });
         if (word == std::end(kWords))
             drawing::raise(drawing::kInvalidInput,
-                           "\"" + std::string(name) + "\" is none of layer, colour, linetype");
+                           "\"" + std::string(name) + "\" is none of layer, colour, linetype, space");
         keep.*word->member = true;
         text.remove_prefix(std::min(comma + 1, text.size()));
     }
@@ -69,6 +72,7 @@ void handOver(const Context& context, drawing::EntityId old) {
     if (keep.color) drawing.setInteger(next, kColor, kCommonPart, common.color);
     const std::string lineType = lineTypeOf(drawing, old);
     if (keep.lineType) drawing.setText(next, kLineType, kCommonPart, lineType.empty() ? "ByLayer" : lineType);
+    if (keep.space) drawing.moveToSpace(next, drawing.owner(old));
     // The layer comes last: on a locked one nothing else could be set.
     if (keep.layer) drawing.setText(next, kLayer, kCommonPart, common.layer);
 }

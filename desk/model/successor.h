@@ -8,7 +8,7 @@
 
 namespace model {
 
-/// "layer,colour,linetype": what is kept, in the writing of the variable VNKEEP; empty for nothing.
+/// "layer,colour,linetype,space": what is kept, in the writing of the variable VNKEEP; empty for nothing.
 std::string toText(const Keep& keep);
 /// The same read, parted by commas, without regard to case. Raises kInvalidInput for any other word.
 Keep parseKeep(std::string_view text);

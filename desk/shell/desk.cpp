@@ -196,6 +196,14 @@ void Desk::requireOverwriting(const std::string& path, Overwriting overwriting) 
     if (!confirm_(reason + ". Write over it?")) throw basic::Error(basic::kPermissionDenied, "Not saved");
 }
 
+void Desk::requireReplacing(const std::string& path) const {
+    std::error_code ignored;
+    const bool isOwn = path.empty() || (file_ && std::filesystem::equivalent(path, file_->path(), ignored));
+    if (isOwn || !confirm_ || !std::filesystem::exists(path, ignored)) return;
+    if (!confirm_(path + " is there already. Write over it?"))
+        throw basic::Error(basic::kPermissionDenied, "Not saved");
+}
+
 void Desk::save(const std::string& path, Overwriting overwriting) {
     drawing::Drawing& drawing = document().drawing();
     const std::string target = path.empty() ? drawing.path() : path;

@@ -56,6 +56,9 @@ class Desk {
     /// DWG file overwrites nothing without a path. Where another program has changed the drawing's file or
     /// has it open, a person is asked; else that is an error unless it is `Wanted`. Raises basic::Error; the
     /// file of before then stays as it was.
+    /// Asks a person, where there is one, before a file other than the drawing's own is written over. Raises
+    /// kPermissionDenied for a no.
+    void requireReplacing(const std::string& path) const;
     void save(const std::string& path, Overwriting overwriting = Overwriting::Asked);
     bool hasDrawing() const { return application_->active() != nullptr; }
     /// The current document; raises kObjectNotSet where no drawing is open.

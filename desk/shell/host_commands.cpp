@@ -29,7 +29,9 @@ Outcome open(Desk& desk, const std::string& rest) {
 }
 
 Outcome save(Desk& desk, const std::string& rest) {
-    desk.save(typedPath(rest));
+    const std::string path = typedPath(rest);
+    desk.requireReplacing(path);
+    desk.save(path);
     return Outcome::Done;
 }
 
@@ -57,12 +59,15 @@ Outcome list(Desk& desk, const std::string& rest) {
         listReferencesOf(desk, rest);
         return Outcome::Done;
     }
-    const std::vector<BlockLine> lines = listBlocks(desk.document().drawing());
+    const BlockListing listing = listBlocks(desk.document().drawing());
     desk.output() << "References  Block\n";
-    for (const BlockLine& line : lines) {
+    for (const BlockLine& line : listing.lines) {
         desk.output() << std::setw(10) << line.references << "  " << line.name
                       << (line.isXRef ? " (external reference)" : "") << "\n";
     }
+    if (listing.anonymous > 0)
+        desk.output() << "and " << listing.anonymous
+                      << " without name or references (of dimensions and the like)\n";
     return Outcome::Done;
 }
 
@@ -80,7 +85,7 @@ Outcome selectCommand(Desk& desk, const std::string&) {
 Outcome erase(Desk& desk, const std::string&) {
     drawing::Drawing& drawing = desk.document().drawing();
     const model::SelectionPick pick = select(desk);
-    const drawing::UndoStep step(drawing);
+    const drawing::UndoStep step(drawing, "ERASE");
     std::size_t erased = 0;
     std::size_t locked = 0;
     for (const drawing::EntityId id : pick.entities) {
@@ -98,10 +103,35 @@ Outcome erase(Desk& desk, const std::string&) {
     return Outcome::Done;
 }
 
-/// Shows the current layer, on which new references come, and makes another one current.
+Outcome purge(Desk& desk, const std::string&) {
+    drawing::Drawing& drawing = desk.document().drawing();
+    const drawing::UndoStep step(drawing, "PURGE");
+    const std::vector<std::string> names = drawing.purgeBlocks();
+    for (const std::string& name : names) desk.output() << "  " << name << "\n";
+    desk.output() << names.size() << (names.size() == 1 ? " block" : " blocks") << " purged\n";
+    return Outcome::Done;
+}
+
+void listLayers(Desk& desk) {
+    for (const drawing::Layer& layer : desk.document().drawing().layers().all()) {
+        if (layer.record == drawing::kNoEntity) continue;
+        desk.output() << "  " << layer.name << (layer.off ? "  off" : "") << (layer.frozen ? "  frozen" : "")
+                      << (layer.locked ? "  locked" : "") << "\n";
+    }
+}
+
+/// Shows the current layer, on which new references come, and makes another one current; "?" lists all.
 Outcome layer(Desk& desk, const std::string& rest) {
     model::Document& document = desk.document();
-    if (!rest.empty()) document.invoke("SetVariable", {"CLAYER", rest});
+    if (rest == "?") {
+        listLayers(desk);
+    } else if (!rest.empty()) {
+        try {
+            document.invoke("SetVariable", {"CLAYER", rest});
+        } catch (const basic::Error& error) {
+            throw basic::Error(error.number(), error.description() + "; LAYER ? lists the layers");
+        }
+    }
     desk.output() << "Current layer: " << document.invoke("GetVariable", {"CLAYER"}).text() << "\n";
     return Outcome::Done;
 }
@@ -138,9 +168,10 @@ constexpr HostCommand kHostCommands[] = {
     {"SAVE", "[FILE]", "saves under the drawing's own name, or under another", save},
     {"SAVE!", "[FILE]", "saves also where another program has changed the file or has it open", saveOver},
     {"LIST", "[NAME]", "lists the blocks with their references, or the references of one block", list},
-    {"LAYER", "[NAME]", "shows or sets the current layer, on which new references come", layer},
+    {"LAYER", "[NAME]", "shows or sets the current layer, on which new references come; ? lists all", layer},
     {"SELECT", "", "selects objects; p stands for them at later prompts", selectCommand},
     {"ERASE", "", "erases the objects that are selected", erase},
+    {"PURGE", "", "deletes the blocks that nothing uses", purge},
     {"PICTURE", "FILE", "writes a picture of model space: .png, .svg or .pdf", picture},
     {"U", "", "undoes the last line that changed the drawing", undo},
     {"REDO", "", "brings back what was undone last", redo},

@@ -24,19 +24,23 @@ void forEachReference(const drawing::Drawing& drawing, Visit&& visit) {
 
 }  // namespace
 
-std::vector<BlockLine> listBlocks(const drawing::Drawing& drawing) {
+BlockListing listBlocks(const drawing::Drawing& drawing) {
     const drawing::BlockTable& blocks = drawing.blocks();
     std::vector<std::size_t> counts(blocks.size());
     forEachReference(drawing, [&](drawing::EntityId id, const drawing::Block&) {
         const drawing::BlockId block = blocks.find(drawing.name(id));
         if (block != drawing::kNoBlock) ++counts[block];
     });
-    std::vector<BlockLine> lines;
+    BlockListing listing;
     for (drawing::BlockId id = 0; id < blocks.size(); ++id) {
         if (blocks[id].isErased || blocks[id].isLayout()) continue;
-        lines.push_back({blocks[id].name, counts[id], blocks[id].isXRef()});
+        if (blocks[id].isAnonymous() && counts[id] == 0) {
+            ++listing.anonymous;
+        } else {
+            listing.lines.push_back({blocks[id].name, counts[id], blocks[id].isXRef()});
+        }
     }
-    return lines;
+    return listing;
 }
 
 std::vector<ReferenceLine> listReferences(const drawing::Drawing& drawing, std::string_view block) {

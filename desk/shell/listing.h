@@ -15,7 +15,13 @@ struct BlockLine {
     std::size_t references = 0;
     bool isXRef = false;
 };
-std::vector<BlockLine> listBlocks(const drawing::Drawing& drawing);
+struct BlockListing {
+    std::vector<BlockLine> lines;
+    /// Blocks without a name of their own and without references, which show dimensions, tables and the like:
+    /// not among the lines, since there may be hundreds.
+    std::size_t anonymous = 0;
+};
+BlockListing listBlocks(const drawing::Drawing& drawing);
 
 /// A reference as a list tells it; numbers with a decimal point.
 struct ReferenceLine {

@@ -259,12 +259,10 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
          3  porte_double
          0  OCULUS
+and 3 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 Command: U
@@ -289,10 +287,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 The changes to result.dxf were not saved.
 vorlane-console: line 20: BtnReplace: Error -2145386420: Object was erased
 -- check result.dxf --imports

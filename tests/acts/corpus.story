@@ -14,12 +14,7 @@ References  Block
          2  start
          1  arrow
          1  ARBOL
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *D14
-         0  *D15
-         0  *D16
+and 6 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -93,12 +88,7 @@ References  Block
          2  start
          1  arrow
          1  ARBOL
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *D14
-         0  *D15
-         0  *D16
+and 6 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 -- check result.dxf
@@ -242,42 +232,16 @@ Command: LIST
 References  Block
          2  BLOKO
          8  CIRKLO_PUNKTOJ
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *T14
          1  *U15
          1  *U16
          1  *X17
          1  *U18
          1  *U19
-         0  *U20
          1  *D21
-         0  *U22
-         0  *U23
-         0  *U24
-         0  *U25
-         0  *U26
-         0  *U27
-         0  *U28
-         0  *U29
          1  *U30
-         0  *U31
-         0  *U32
-         0  *U33
-         0  *U34
-         0  *U35
-         0  *U36
-         0  *U37
          1  *U38
          1  *U39
+and 27 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -343,42 +307,16 @@ Command: LIST
 References  Block
          0  BLOKO
         10  CIRKLO_PUNKTOJ
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *T14
          1  *U15
          1  *U16
          1  *X17
          1  *U18
          1  *U19
-         0  *U20
          1  *D21
-         0  *U22
-         0  *U23
-         0  *U24
-         0  *U25
-         0  *U26
-         0  *U27
-         0  *U28
-         0  *U29
          1  *U30
-         0  *U31
-         0  *U32
-         0  *U33
-         0  *U34
-         0  *U35
-         0  *U36
-         0  *U37
          1  *U38
          1  *U39
+and 27 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 -- check result.dxf
@@ -394,72 +332,9 @@ References  Block
          0  _Open30
          0  ARCHARR
          0  archarrow
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *D14
-         0  *D15
-         0  *D16
-         0  *D17
-         0  *D18
-         0  *D19
-         0  *D20
-         0  *D21
-         0  *D22
-         0  *D23
-         0  *D24
-         0  *D25
-         0  *D26
-         0  *D27
-         0  *D28
-         0  *D29
-         0  *D30
-         0  *D31
-         0  *D32
-         0  *D33
-         0  *D34
-         0  *D35
-         0  *D36
-         0  *D37
-         0  *D38
-         0  *D39
-         0  *D40
-         0  *D41
-         0  *D42
-         0  *D43
-         0  *D44
-         0  *D45
-         0  *D46
-         0  *D47
-         0  *D48
-         0  *D49
-         0  *D50
-         0  *D51
-         0  *D52
          0  T-section-marker
          0  T-section-marker2
          0  xref-Bishop-Overland-08
-         0  *D56
-         0  *D57
-         0  *D58
-         0  *D59
-         0  *D60
-         0  *D61
-         0  *D62
-         0  *D63
-         0  *D64
-         0  *D65
-         0  *D66
-         0  *D67
-         0  *D68
-         0  *D69
          1  xref-Bishop-Overland-08$0$FIXT-WASHER26
          1  xref-Bishop-Overland-08$0$FIXT-DRYERE28
          1  xref-Bishop-Overland-08$0$FIXT-CKTOP24E
@@ -469,72 +344,8 @@ References  Block
          2  xref-Bishop-Overland-08$0$P-Toilet
          0  xref-Bishop-Overland-08$0$St-Hanger
          0  A$C198F7789
-         0  *D79
-         0  *D80
-         0  *D81
-         0  *D82
-         0  *D83
-         0  *D84
-         0  *D85
-         0  *D86
-         0  *D87
-         0  *D88
-         0  *D89
-         0  *D90
-         0  *D91
-         0  *D92
-         0  *D93
-         0  *D94
-         0  *D95
-         0  *D96
-         0  *D97
-         0  *D98
-         0  *D99
-         0  *D100
-         0  *D101
-         0  *D102
-         0  *D103
-         0  *D104
-         0  *D105
-         0  *D106
-         0  *D107
-         0  *D108
-         0  *D109
-         0  *D110
-         0  *D111
-         0  *D112
-         0  *D113
-         0  *D114
-         0  *D115
-         0  *D116
-         0  *D117
-         0  *D118
-         0  *D119
-         0  *D120
-         0  *D121
-         0  *D122
-         0  *D123
-         0  *D124
-         0  *D125
-         0  *D126
-         0  *D127
-         0  *D128
-         0  *D129
-         0  *D130
-         0  *D131
-         0  *D132
-         0  *D133
-         0  *D134
-         0  *D135
-         0  *D136
-         0  *D137
-         0  *D138
-         0  *D139
-         0  *D140
-         0  *D141
-         0  *U142
          0  GENAXEH
-         0  *U144
+and 128 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -602,72 +413,9 @@ References  Block
          0  _Open30
          0  ARCHARR
          0  archarrow
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *D14
-         0  *D15
-         0  *D16
-         0  *D17
-         0  *D18
-         0  *D19
-         0  *D20
-         0  *D21
-         0  *D22
-         0  *D23
-         0  *D24
-         0  *D25
-         0  *D26
-         0  *D27
-         0  *D28
-         0  *D29
-         0  *D30
-         0  *D31
-         0  *D32
-         0  *D33
-         0  *D34
-         0  *D35
-         0  *D36
-         0  *D37
-         0  *D38
-         0  *D39
-         0  *D40
-         0  *D41
-         0  *D42
-         0  *D43
-         0  *D44
-         0  *D45
-         0  *D46
-         0  *D47
-         0  *D48
-         0  *D49
-         0  *D50
-         0  *D51
-         0  *D52
          0  T-section-marker
          0  T-section-marker2
          0  xref-Bishop-Overland-08
-         0  *D56
-         0  *D57
-         0  *D58
-         0  *D59
-         0  *D60
-         0  *D61
-         0  *D62
-         0  *D63
-         0  *D64
-         0  *D65
-         0  *D66
-         0  *D67
-         0  *D68
-         0  *D69
          1  xref-Bishop-Overland-08$0$FIXT-WASHER26
          1  xref-Bishop-Overland-08$0$FIXT-DRYERE28
          1  xref-Bishop-Overland-08$0$FIXT-CKTOP24E
@@ -677,72 +425,8 @@ References  Block
          5  xref-Bishop-Overland-08$0$P-Toilet
          0  xref-Bishop-Overland-08$0$St-Hanger
          0  A$C198F7789
-         0  *D79
-         0  *D80
-         0  *D81
-         0  *D82
-         0  *D83
-         0  *D84
-         0  *D85
-         0  *D86
-         0  *D87
-         0  *D88
-         0  *D89
-         0  *D90
-         0  *D91
-         0  *D92
-         0  *D93
-         0  *D94
-         0  *D95
-         0  *D96
-         0  *D97
-         0  *D98
-         0  *D99
-         0  *D100
-         0  *D101
-         0  *D102
-         0  *D103
-         0  *D104
-         0  *D105
-         0  *D106
-         0  *D107
-         0  *D108
-         0  *D109
-         0  *D110
-         0  *D111
-         0  *D112
-         0  *D113
-         0  *D114
-         0  *D115
-         0  *D116
-         0  *D117
-         0  *D118
-         0  *D119
-         0  *D120
-         0  *D121
-         0  *D122
-         0  *D123
-         0  *D124
-         0  *D125
-         0  *D126
-         0  *D127
-         0  *D128
-         0  *D129
-         0  *D130
-         0  *D131
-         0  *D132
-         0  *D133
-         0  *D134
-         0  *D135
-         0  *D136
-         0  *D137
-         0  *D138
-         0  *D139
-         0  *D140
-         0  *D141
-         0  *U142
          0  GENAXEH
-         0  *U144
+and 128 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 -- check result.dxf
@@ -931,13 +615,7 @@ Opened ts1_2018.dxf
 Command: LIST
 References  Block
          1  some block
-         0  *D2
-         0  *D3
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *T8
+and 7 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -1001,13 +679,7 @@ Command: VNREPLACE
 Command: LIST
 References  Block
          1  some block
-         0  *D2
-         0  *D3
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *T8
+and 7 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 -- check result.dxf
@@ -1019,36 +691,10 @@ Opened uncommon.dxf
 ; The program that wrote the furniture gives its references a Z scale of 0, which reads as 1.
 Command: LIST
 References  Block
-         0  *D1
-         0  *D2
-         0  *D3
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *D14
-         0  *D15
-         0  *D16
-         0  *D17
-         0  *D18
-         0  *D19
-         0  *D20
-         0  *D21
-         0  *D22
-         0  *D23
-         0  *D24
-         0  *D25
-         0  *D26
-         0  *D27
          1  DATE_BLOCK
          0  A$C3e977400
          0  A$C84c221ce
+and 27 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -1112,36 +758,10 @@ Command: VNREPLACE
 [fmReplace] hidden
 Command: LIST
 References  Block
-         0  *D1
-         0  *D2
-         0  *D3
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *D14
-         0  *D15
-         0  *D16
-         0  *D17
-         0  *D18
-         0  *D19
-         0  *D20
-         0  *D21
-         0  *D22
-         0  *D23
-         0  *D24
-         0  *D25
-         0  *D26
-         0  *D27
          0  DATE_BLOCK
          0  A$C3e977400
          1  A$C84c221ce
+and 27 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 -- check result.dxf

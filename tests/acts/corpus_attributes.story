@@ -5,17 +5,7 @@ Command: LIST
 References  Block
          2  bloko
          8  CIRKLO_PUNKTOJ
-         0  *D3
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *T13
+and 11 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -178,17 +168,7 @@ Command: LIST
 References  Block
         10  bloko
          0  CIRKLO_PUNKTOJ
-         0  *D3
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *T13
+and 11 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 -- check result.dxf
@@ -201,17 +181,7 @@ Command: LIST
 References  Block
          2  bloko
          8  CIRKLO_PUNKTOJ
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *T14
+and 11 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -374,17 +344,7 @@ Command: LIST
 References  Block
         10  bloko
          0  CIRKLO_PUNKTOJ
-         0  *D4
-         0  *D5
-         0  *D6
-         0  *D7
-         0  *D8
-         0  *D9
-         0  *D10
-         0  *D11
-         0  *D12
-         0  *D13
-         0  *T14
+and 11 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 -- check result.dxf

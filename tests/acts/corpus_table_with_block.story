@@ -6,9 +6,8 @@ Opened table_with_block.dxf
 ; A table carries the name of its block too, but is no reference: it lacks the scale factors.
 Command: LIST
 References  Block
-         0  *T1
-         0  *T2
          0  B1
+and 2 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -94,9 +93,8 @@ Command: VNREPLACE
 [fmReplace] hidden
 Command: LIST
 References  Block
-         0  *T1
-         0  *T2
          0  B1
+and 2 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 vorlane-console: line 10: BtnReplace: Error 438: Object doesn't support this property or method: 'InsertionPoint'

@@ -46,8 +46,6 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 vorlane-console: line 9: esc: Error -2147352567: Method failed: SelectOnScreen: broken off by the user

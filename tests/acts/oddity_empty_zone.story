@@ -162,7 +162,5 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)

@@ -82,10 +82,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 ; So does the selection of a zone.
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
@@ -162,10 +160,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 ; One for the replacement block comes back, with an empty name.
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement

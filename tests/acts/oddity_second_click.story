@@ -249,9 +249,7 @@ References  Block
          1  NORD
          6  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 The changes to apartment.dxf were not saved.
 vorlane-console: line 10: BtnReplace: Error -2145386420: Object was erased

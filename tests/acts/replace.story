@@ -25,10 +25,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Block replacement
   Frame1: Blocks to replace
@@ -380,10 +378,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 ; one command is one step back
@@ -409,10 +405,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 The changes to result.dxf were not saved.
 -- check result.dxf
 removed: 48 ATTRIB, 16 INSERT, 16 SEQEND
@@ -464,10 +458,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 Command: VNREPLACE
 [fmReplace] Vorlane 1.0 : Remplacement de blocs
   Frame1: Blocs à remplacer
@@ -819,10 +811,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 Command: SAVE result.dxf
 Saved result.dxf
 ; one command is one step back
@@ -848,10 +838,8 @@ References  Block
          1  NORD
          4  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 The changes to result.dxf were not saved.
 -- check result.dxf
 removed: 48 ATTRIB, 16 INSERT, 16 SEQEND

@@ -253,10 +253,8 @@ References  Block
          1  NORD
          5  ARBRE
          1  CARTOUCHE
-         0  *D2
          0  _CLOSEDFILLED
-         0  *D3
-         0  *D4
+and 3 without name or references (of dimensions and the like)
 The changes to apartment.dxf were not saved.
 vorlane-console: line 11: ok: This value must be numeric
 vorlane-console: line 13: ok: This value must be numeric

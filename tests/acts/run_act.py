@@ -24,7 +24,6 @@ Comments at the head of the script say what it needs:
 The story is what the console printed, then what the checks printed."""
 
 import difflib
-import os
 import re
 import resource
 import shutil
@@ -88,7 +87,8 @@ def find_tool(name):
 def run_console(console, drawing, script, folder, settings):
     of = lambda key: [value for k, value in settings if k == key]
     locale = "fr_FR.UTF-8" if of("language") == ["fr"] else "en_US.UTF-8"
-    environment = {"PATH": os.environ["PATH"], "XDG_DATA_HOME": str(folder / "data"), "LANG": locale}
+    # No other program: what this machine has installed must not show in a story.
+    environment = {"PATH": str(folder), "XDG_DATA_HOME": str(folder / "data"), "LANG": locale}
     options = " ".join(of("options")).split()
     return subprocess.run([console, drawing, "--script", script, *options], cwd=folder, env=environment,
                           stdin=subprocess.DEVNULL, capture_output=True, timeout=600,

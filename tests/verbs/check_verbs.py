@@ -97,6 +97,27 @@ def properties_are_taken_over(verbs):
     verbs.run(*REPLACE, "--keep", "weight", "coloured.dxf", "--dry-run", code=2)
 
 
+def layouts_are_kept(verbs):
+    drawing = ezdxf.readfile(verbs.folder / "apartment.dxf")
+    second = drawing.layouts.new("Second")
+    second.add_blockref("PORTE_80", (7, 7)).add_auto_attribs({"REPERE": "X"})
+    drawing.layouts.get("Planche A3").add_blockref("PORTE_80", (5, 5)).add_auto_attribs({"REPERE": "Y"})
+    drawing.blocks.new("NOTHING_USES_IT").add_blockref("CHAISE", (0, 0))
+    drawing.saveas(verbs.folder / "sheets.dxf")
+    verbs.run(*REPLACE, "--map", "REPERE=CODE", "--keep", "space,layer", "sheets.dxf", "--out", "kept.dxf")
+    kept = ezdxf.readfile(verbs.folder / "kept.dxf")
+    counts = {layout.name: [door.get_attrib_text("CODE") for door in layout.query('INSERT[name=="PORTE_90"]')] for layout in kept.layouts}
+    verbs.hold(counts["Second"] == ["X"] and counts["Planche A3"] == ["Y"] and len(counts["Model"]) == 19, f"{counts}")
+    verbs.hold(not kept.audit().errors, "audit")
+    verbs.script('(setvar "VNKEEP" "space")\nVNREPLACE\nlstDestination : PORTE_80\nCboBlocReplacer : PORTE_90\nBtnReplace\nok\n'
+                 "BtnClose\nSAVE dialog.dxf\nU\nPURGE\nSAVE purged.dxf\nU\nSAVE undone.dxf\n", "sheets.dxf")
+    verbs.run(*REPLACE, "--keep", "space", "sheets.dxf", "--out", "verb.dxf")
+    verbs.hold(verbs.bytes("dialog.dxf") == verbs.bytes("verb.dxf"), "the dialog's runs keep too")
+    verbs.hold(verbs.bytes("undone.dxf") == verbs.bytes("sheets.dxf") != verbs.bytes("purged.dxf"), "PURGE is undone")
+    purged = ezdxf.readfile(verbs.folder / "purged.dxf")
+    verbs.hold(not purged.audit().errors and "PORTE_80" in purged.blocks and "NOTHING_USES_IT" not in purged.blocks, "PURGE leaves what is used")
+
+
 def attributes_find_partners(verbs):
     (verbs.folder / "pairs.txt").write_text("# an office's list\nREPERE\tCODE\nNONE\tNOWHERE\n")
     done = verbs.run(*REPLACE, "--map-file", "pairs.txt", "--map-equal", "apartment.dxf", "--out", "mapped.dxf")
@@ -180,7 +201,7 @@ def control_c_ends_between_drawings(verbs):
 
 def main():
     wrong = 0
-    checks = [files_are_safe, one_bad_drawing_stops_no_other, locked_layers_are_left, properties_are_taken_over,
+    checks = [files_are_safe, one_bad_drawing_stops_no_other, locked_layers_are_left, properties_are_taken_over, layouts_are_kept,
               attributes_find_partners,
               rows_that_fail, a_round_trip_changes_one_value, pictures_need_no_display,
               control_c_ends_between_drawings]
