@@ -34,7 +34,7 @@ constexpr std::string_view kHelp =
     "  Name # n = text  writes the first text of row n, where the table lets it be edited\n"
     "  key F1, key DOWN presses a key; Name key DOWN in that control; key F1 is the dialog's help\n"
     "  resize w h, move l t   in twips\n"
-    "  show             prints the dialog\n"
+    "  show, show Name  prints the dialog; one control with all its entries\n"
     "  close            the frame's close box\n";
 
 std::vector<std::string_view> words(std::string_view line) {
@@ -126,12 +126,15 @@ void chooseNumbered(std::ostream& output, Hand& hand, Form& form, std::string_vi
 }
 
 /// The acts on the form as a whole. Returns false if the line is none of them.
-bool performOnForm(std::ostream& output, Hand& hand, Form& form, const std::vector<std::string_view>& parts) {
+bool performOnForm(std::ostream& output, Hand& hand, Form& form, const std::vector<std::string_view>& parts,
+                   Detail detail) {
     const std::string_view verb = parts[0];
     if ((basic::equalIgnoringCase(verb, "help") || verb == "?") && parts.size() == 1) {
         output << kHelp;
     } else if (verb == "show" && parts.size() == 1) {
-        printForm(output, form, Detail::Full);
+        printForm(output, form, detail);
+    } else if (verb == "show" && parts.size() == 2) {
+        printControl(output, form, acts::controlNamed(form, parts[1]));
     } else if (verb == "close" && parts.size() == 1) {
         hand.closeBox(form);
     } else if (verb == "key" && parts.size() == 2) {
@@ -152,7 +155,7 @@ bool performOnForm(std::ostream& output, Hand& hand, Form& form, const std::vect
 
 }  // namespace
 
-void performLine(std::ostream& output, Hand& hand, Form& form, std::string_view line) {
+void performLine(std::ostream& output, Hand& hand, Form& form, std::string_view line, Detail detail) {
     const std::vector<std::string_view> parts = words(line);
     if (parts.empty()) notUnderstood();
     const std::size_t sign = line.find_first_of("=#:");
@@ -166,7 +169,7 @@ void performLine(std::ostream& output, Hand& hand, Form& form, std::string_view 
         } else {
             chooseNumbered(output, hand, form, name, line.substr(sign + 1));
         }
-    } else if (performOnForm(output, hand, form, parts)) {
+    } else if (performOnForm(output, hand, form, parts, detail)) {
         return;
     } else if (parts.size() == 3 && parts[1] == "key") {
         Control& control = acts::controlNamed(form, parts[0]);

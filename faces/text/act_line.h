@@ -1,5 +1,6 @@
 #pragma once
 
+#include "faces/text/form_text.h"
 #include "forms/form.h"
 
 #include <iosfwd>
@@ -21,11 +22,12 @@ class Hand;
 ///   Name column n w    widen column n of a list view, in twips
 ///   resize w h         in twips, as  move l t
 ///   close              the frame's close box
-///   show               print the dialog
+///   show               print the dialog, to this detail;  show Name: one control in full
 ///   help               print these
 ///
 /// Control names match without regard to case; a caption serves too where only one control in sight has it.
 /// Raises forms::ActError for a line that is none of these and for an act that can't be done.
-void performLine(std::ostream& output, Hand& hand, forms::Form& form, std::string_view line);
+void performLine(std::ostream& output, Hand& hand, forms::Form& form, std::string_view line,
+                 Detail detail = Detail::Full);
 
 }  // namespace text_face

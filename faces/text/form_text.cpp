@@ -43,21 +43,6 @@ class Printer {
         }
     }
 
-  private:
-    std::vector<const Control*> inReadingOrder(const Control* container) const {
-        std::vector<const Control*> inside;
-        for (const Control* control : form_.controls()) {
-            const bool drawn =
-                control->has(forms::Property::Bounds) && control->visible() && !control->isCutOff();
-            if (drawn && control->container() == container) inside.push_back(control);
-        }
-        std::stable_sort(inside.begin(), inside.end(), [](const Control* left, const Control* right) {
-            if (left->top() != right->top()) return left->top() < right->top();
-            return left->left() < right->left();
-        });
-        return inside;
-    }
-
     void print(const Control& control, int depth) {
         indent(depth);
         output_ << control.name() << ':';
@@ -71,6 +56,21 @@ class Printer {
         } else if (control.kind() == Kind::ListView) {
             printRows(static_cast<const forms::ListView&>(control), depth + 1);
         }
+    }
+
+  private:
+    std::vector<const Control*> inReadingOrder(const Control* container) const {
+        std::vector<const Control*> inside;
+        for (const Control* control : form_.controls()) {
+            const bool drawn =
+                control->has(forms::Property::Bounds) && control->visible() && !control->isCutOff();
+            if (drawn && control->container() == container) inside.push_back(control);
+        }
+        std::stable_sort(inside.begin(), inside.end(), [](const Control* left, const Control* right) {
+            if (left->top() != right->top()) return left->top() < right->top();
+            return left->left() < right->left();
+        });
+        return inside;
     }
 
     /// The control on its own line, without its entries.
@@ -106,11 +106,14 @@ class Printer {
 
     void printEntries(const forms::ListControl& list, int depth) {
         const int shown = cut(list.listCount());
-        for (int i = 0; i < shown; ++i) {
+        const auto printEntry = [&](int i) {
             indent(depth);
             output_ << (i == list.listIndex() ? "> " : "  ") << i << ' ' << list.list(i) << '\n';
-        }
-        printRest(list.listCount() - shown, depth);
+        };
+        for (int i = 0; i < shown; ++i) printEntry(i);
+        const bool chosenBehind = list.listIndex() >= shown;
+        if (chosenBehind) printEntry(list.listIndex());
+        printRest(list.listCount() - shown - (chosenBehind ? 1 : 0), depth);
     }
 
     void printRows(const forms::ListView& view, int depth) {
@@ -159,6 +162,10 @@ class Printer {
 
 void printForm(std::ostream& output, const Form& form, Detail detail) {
     Printer(output, form, detail).printIn(nullptr, 0);
+}
+
+void printControl(std::ostream& output, const Form& form, const Control& control) {
+    Printer(output, form, Detail::Full).print(control, 0);
 }
 
 }  // namespace text_face

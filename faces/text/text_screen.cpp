@@ -132,7 +132,8 @@ void TextScreen::performNext(forms::Form& form, Hand& hand) {
         if (line == kBreakOff) {
             hand.key(form, forms::Key::Escape);
         } else {
-            performLine(output_, hand, form, line);
+            // A person has Tab and `show Name` for long lists; a story tells all.
+            performLine(output_, hand, form, line, source_.interactive() ? Detail::Brief : Detail::Full);
         }
     } catch (const forms::ActError& error) {
         refuseLine(source_, output_, error.what());
