@@ -56,20 +56,31 @@ std::vector<std::string> conversion(const fs::path& source, const fs::path& made
 constexpr const char* kSecondsAllowed = "60";
 constexpr int kTimedOut = 124;
 
+/// What a program told last.
+std::string lastLine(std::string_view printed) {
+    const std::size_t end = printed.find_last_not_of(" \r\n");
+    if (end == std::string_view::npos) return "the converter doesn't say why";
+    const std::string_view text = printed.substr(0, end + 1);
+    return std::string(text.substr(text.find_last_of('\n') + 1));
+}
+
 }  // namespace
 
 std::string convertDwg(const std::string& dwgPath) {
     const fs::path source = fs::absolute(dwgPath);
+    if (std::error_code error; !fs::is_regular_file(source, error))
+        throw basic::Error(basic::kFileNotFound, dwgPath + " isn't there");
     const fs::path folder = temporaryFolder();
     const fs::path made = folder / (source.stem().string() + ".dxf");
     std::error_code ignored;
     int status = 0;
+    std::string printed;
     try {
         std::vector<std::string> command = conversion(source, made);
         // Debian's own guard: ends the program when its time is over.
         if (const auto timeout = findProgram("timeout"))
             command.insert(command.begin(), {*timeout, "--kill-after=5", kSecondsAllowed});
-        status = runProgram(command);
+        status = runProgram(command, &printed);
     } catch (const basic::Error&) {
         fs::remove_all(folder, ignored);
         throw;
@@ -80,10 +91,10 @@ std::string convertDwg(const std::string& dwgPath) {
     fs::remove_all(folder, ignored);
     if (status != 0 || error) {
         fs::remove(result, ignored);
-        throw basic::Error(
-            basic::kDeviceError,
-            dwgPath + ": the conversion to DXF failed" +
-                (status == kTimedOut ? std::string(": no end after ") + kSecondsAllowed + " s" : ""));
+        throw basic::Error(basic::kDeviceError,
+                           dwgPath + ": the conversion to DXF failed: " +
+                               (status == kTimedOut ? std::string("no end after ") + kSecondsAllowed + " s"
+                                                    : lastLine(printed)));
     }
     return result.string();
 }

@@ -94,7 +94,9 @@ TEST_F(ProgramsTest, AreFoundRunAndLeftToThemselves) {
     folder.write("plain", "not executable");
     EXPECT_EQ(findProgram("answer"), folder.file("answer"));
     EXPECT_FALSE(findProgram("plain").has_value());
-    EXPECT_EQ(runProgram({"answer", "a b;c"}), 42) << "without a shell in between";
+    std::string printed;
+    EXPECT_EQ(runProgram({"answer", "a b;c"}, &printed), 42) << "without a shell in between";
+    EXPECT_EQ(printed, "noise\n");
     EXPECT_EQ(runProgram({"missing"}), 127);
     EXPECT_TRUE(startProgram({"answer", "x"}));
     EXPECT_FALSE(startProgram({"missing"}));
@@ -116,6 +118,7 @@ TEST_F(ProgramsTest, AnAddressIsToldWhereNothingCanShowIt) {
 
 TEST_F(ProgramsTest, ADwgNeedsAConverter) {
     const std::string dwg = folder.write("my plan.dwg", "DWG");
+    EXPECT_EQ(refusal(folder.file("gone.dwg")).first, basic::kFileNotFound);
     const auto [number, description] = refusal(dwg);
     EXPECT_EQ(number, basic::kFileNotFound);
     EXPECT_NE(description.find("dwg2dxf"), std::string::npos) << description;
@@ -146,9 +149,12 @@ TEST_F(ProgramsTest, AConversionThatFailsLeavesNothingBehind) {
     };
     addProgram("dwg2dxf", "");
     const auto before = fileCount();
-    for (const char* script : {"exit 0", "echo half > \"$3\"; exit 1"}) {
+    for (const char* script : {"exit 0", "echo half > \"$3\"; echo noise; echo it is damaged >&2; exit 1"}) {
         addProgram("dwg2dxf", script);
-        EXPECT_EQ(refusal(dwg).first, basic::kDeviceError) << script;
+        const auto [number, description] = refusal(dwg);
+        EXPECT_EQ(number, basic::kDeviceError) << script;
+        const char* const reason = script[1] == 'x' ? "doesn't say why" : ": it is damaged";
+        EXPECT_TRUE(description.ends_with(reason)) << description;
         EXPECT_EQ(fileCount(), before) << script;
     }
 }

@@ -17,11 +17,11 @@ try {
   const library = await LibreDwg.create()
   const bytes = readFileSync(input)
   const dxf = library.dwg_write_dxf(bytes.buffer.slice(bytes.byteOffset, bytes.byteOffset + bytes.length))
-  if (!dxf || dxf.length === 0) throw new Error('the drawing could not be converted')
+  if (!dxf || dxf.length === 0) throw new Error('no DWG drawing, damaged, or of a version that LibreDWG cannot read')
   writeFileSync(part, dxf)
   renameSync(part, output)
 } catch (error) {
   rmSync(part, { force: true })
-  console.error(`${input}: ${error.message ?? error}`)
+  console.error(error.message ?? error)
   process.exit(1)
 }
