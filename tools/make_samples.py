@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the sample drawings into samples/: a floor of two flats, a door and a room label that serve as blocks to bring
+"""Writes the sample drawings into samples/: a floor of two flats, with a sheet and without, a door and a room label that serve as blocks to bring
 in, and an empty drawing. Needs python3-ezdxf (Debian's package)."""
 
 import io
@@ -218,7 +218,9 @@ def draw_sheet(doc):
         "DATE": "12/03/2024", "FOLIO": "03"})
 
 
-def apartment():
+def apartment(with_sheet=True):
+    """The floor in metres. Its sheet is in millimetres, which programs that show it over model space zoom out to: hence the
+    same plan without one."""
     doc = new_drawing("R2010")
     for name, color in LAYERS:
         doc.layers.add(name, color=color)
@@ -228,7 +230,8 @@ def apartment():
     blocks.windows(doc)
     cupboard = blocks.furniture(doc)
     blocks.signs(doc)
-    blocks.title_block(doc)
+    if with_sheet:
+        blocks.title_block(doc)
     space = doc.modelspace()
     for flat in (Flat(space, "A", False), Flat(space, "B", True)):
         draw_rooms(flat)
@@ -238,7 +241,8 @@ def apartment():
     draw_landing(space)
     draw_garden(space)
     draw_notes(doc, space)
-    draw_sheet(doc)
+    if with_sheet:
+        draw_sheet(doc)
     doc.header["$EXTMIN"], doc.header["$EXTMAX"] = (-2, -6.5, 0), (20, 12, 0)
     doc.set_modelspace_vport(height=20, center=(9, 2.7))
     return doc
@@ -307,7 +311,8 @@ def main():
     ezdxf.options.write_fixed_meta_data_for_testing = True  # the same bytes at each run
     folder = pathlib.Path(__file__).resolve().parent.parent / "samples"
     folder.mkdir(exist_ok=True)
-    for name, doc in (("apartment", apartment()), ("porte_double", double_door()),
+    for name, doc in (("apartment", apartment()), ("apartment_plan", apartment(with_sheet=False)),
+                      ("porte_double", double_door()),
                       ("releve_piece", survey_label()), ("empty", new_drawing("R2010"))):
         findings = doc.audit().errors
         if findings:
