@@ -78,14 +78,13 @@ function(vorlane_room name folder)
     set_property(GLOBAL APPEND PROPERTY VORLANE_ROOMS ${name})
 endfunction()
 
-# A program: the main.cpp of a room, linked with that room. The binary lies at the top of the build folder and is installed in
-# bin; it finds the resources in ../share/vorlane from there.
+# A program: the main.cpp of a room, linked with that room. The binary lies at the top of the build folder; installed in bin
+# (see Packaging.cmake) it finds the resources in ../share/vorlane.
 function(vorlane_program name folder room)
     if(EXISTS ${PROJECT_SOURCE_DIR}/${folder}/main.cpp)
         add_executable(${name} ${PROJECT_SOURCE_DIR}/${folder}/main.cpp)
         target_link_libraries(${name} PRIVATE ${room})
         set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
-        install(TARGETS ${name} RUNTIME DESTINATION bin)
     endif()
 endfunction()
 

@@ -86,6 +86,14 @@ constexpr const char* kExamples[][2] = {
      "vorlane insert --block SURVEY_POINT --data points.txt --regional en plan.dxf --out surveyed.dxf"},
 };
 
+constexpr const char* kOtherPrograms =
+    ".SH OTHER PROGRAMS\n.TP\n.B vorlane\\-console\nThe console, also where there is a display; it takes "
+    "what "
+    "vorlane takes.\n.TP\n.B vorlane\\-window\nThe window, which vorlane becomes where there is a display. "
+    "\\-\\-help tells its options.\n.TP\n.B vorlane\\-picture\nDraws one picture, as the verb picture does "
+    "for "
+    "many drawings: vorlane\\-picture DRAWING PICTURE.\n";
+
 }  // namespace
 
 std::string helpText(Verb verb) {
@@ -110,7 +118,9 @@ std::string helpText(Verb verb) {
 
 std::string manualPage() {
     std::ostringstream page;
-    page << ".TH VORLANE 1\n.SH NAME\nvorlane \\- manages block references in CAD drawings\n.SH SYNOPSIS\n";
+    page << ".TH VORLANE 1\n.SH NAME\nvorlane, vorlane\\-console, vorlane\\-window, vorlane\\-picture \\- "
+            "manages block "
+            "references in CAD drawings\n.SH SYNOPSIS\n";
     for (const VerbText& text : allVerbs()) {
         page << ".B vorlane " << text.name << "\n" << roff(text.usage) << "\n.br\n";
     }
@@ -130,7 +140,7 @@ std::string manualPage() {
         if (*text.about != 0) page << roff(text.about) << "\n";
         writeOptions(page, text.verb);
     }
-    page << ".SH EXIT STATUS\n";
+    page << kOtherPrograms << ".SH EXIT STATUS\n";
     for (const auto& [code, meaning] : kExitCodes) page << ".TP\n" << code << "\n" << roff(meaning) << "\n";
     page << ".SH ENVIRONMENT\n.TP\nLC_ALL, LC_NUMERIC, LC_MESSAGES, LANG\nLanguage and decimal separator "
             "where "
