@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 """Seeds one-line faults in rooms and tells which of them the tests don't notice.
 
-    seed_faults.py ROOM... [--count N] [--seed N] [--file TEXT] [--tests NAME,NAME] [--headers] [--list]
+    seed_faults.py ROOM... [--count N] [--seed N] [--file TEXT] [--tests NAME,NAME] [--acts NAME,NAME] [--looks N]
+                   [--quick] [--headers] [--list]
 
 A room is a name of cmake/RoomList.cmake. The tool works on a copy of the tree under build/seed (which stays, so that a second
-call builds little), builds there with one job and never touches the tree itself. First it runs the rooms' test programs and all
+call builds little), builds there with one job, through ccache where it is installed, and never touches the tree itself. First it runs the rooms' test programs and all
 transcripts and notes which lines each of them reaches. Then it seeds one fault at a time: an operator turned, a constant
 changed, a condition negated, a statement dropped. Each fault is given to the tests that reach its line, the room's own first,
 then the quickest, until one fails. A fault that doesn't compile is replaced by another.
@@ -13,6 +14,9 @@ then the quickest, until one fails. A fault that doesn't compile is replaced by 
     --seed N       another choice of faults (1); the same seed on the same sources makes the same choice
     --file TEXT    only in files whose name holds the text
     --tests A,B    these folders of tests/ besides the rooms' own
+    --acts A,B     only the transcripts whose names begin so
+    --looks N      at most so many tests look at a fault (all of them); a fault that outlives them counts as a survivor
+    --quick        doesn't ask what the tests reach, for which it would build the rooms anew: all of them look at each fault
     --headers      faults in headers too: each rebuilds much
     --list         prints the faults that would be seeded, and ends
 
@@ -116,13 +120,17 @@ def choose(files, seed):
 class Copy:
     """The private copy of the tree with its build, and the tests in it."""
 
-    def __init__(self, rooms, more_tests):
+    def __init__(self, rooms, more_tests, acts, quick):
         self.top = ROOT / "build" / "seed"
         self.build = self.top / "build" / "test"
+        self.acts = acts
         self.own = [name for name in dict.fromkeys([*rooms, *more_tests]) if any((ROOT / "tests" / name).glob("*.cpp"))]
         self.refresh()
-        subprocess.run(["cmake", "--preset", "test", f"-DVORLANE_COVERAGE={';'.join(rooms)}"], cwd=self.top, check=True,
-                       stdout=subprocess.DEVNULL)
+        # The options of the tree's own build in CI, so that a compiler cache serves both.
+        options = ["-DVORLANE_COVERAGE=" + ("" if quick else ";".join(rooms)), "-DVORLANE_WERROR=ON"]
+        if shutil.which("ccache"):
+            options.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
+        subprocess.run(["cmake", "--preset", "test", *options], cwd=self.top, check=True, stdout=subprocess.DEVNULL)
 
     def refresh(self):
         """Makes the copy's sources equal to the tree's, its own new files included."""
@@ -139,9 +147,12 @@ class Copy:
                 old.parent.mkdir(parents=True, exist_ok=True)
                 shutil.copy(new, old)
 
-    def make(self):
-        """Builds what the tests need; whether that went well."""
-        targets = ["vorlane-console", "make-big-drawing", *(f"test_{name}" for name in self.own)]
+    def targets(self, test):
+        """What a test needs built."""
+        return [f"test_{test[6:]}"] if test.startswith("tests/") else ["vorlane-console", "make-big-drawing"]
+
+    def make(self, targets):
+        """Builds the targets; whether that went well."""
         return subprocess.run(["ninja", "-C", self.build, "-j1", *targets], capture_output=True).returncode == 0
 
     def tests(self):
@@ -149,6 +160,8 @@ class Copy:
         found = {f"tests/{name}": [self.build / "tests" / f"test_{name}", "--gtest_fail_fast", "--gtest_brief=1"]
                  for name in self.own}
         for script in sorted((self.top / "tests/acts").glob("*.vns")):
+            if not script.stem.startswith(self.acts):
+                continue
             found[f"acts/{script.stem}"] = ["/usr/bin/python3", self.top / "tests/acts/run_act.py",
                                             self.build / "vorlane-console", script]
         return found
@@ -195,43 +208,51 @@ def reaches(lines, file, number):
 class Reach:
     """What each test reaches, and how long it takes."""
 
-    def __init__(self, copy):
-        if not copy.make():
-            sys.exit("The tree doesn't build.")
+    def __init__(self, copy, quick):
+        self.quick = quick
         self.copy, self.tests, self.lines, self.seconds = copy, copy.tests(), {}, {}
-        print(f"Noting what {len(self.tests)} tests reach", flush=True)
+        if not copy.make(sorted({target for name in self.tests for target in copy.targets(name)})):
+            sys.exit("The tree doesn't build.")
+        print(f"Running {len(self.tests)} tests without a fault", flush=True)
         for name, command in self.tests.items():
             start = time.monotonic()
             if not copy.passes(command, 900):
                 sys.exit(f"{name} fails without a fault.")
-            self.seconds[name], self.lines[name] = time.monotonic() - start, copy.reached()
+            self.seconds[name] = time.monotonic() - start
+            if not quick:
+                self.lines[name] = copy.reached()
 
     def of(self, room, file, number):
         """The tests that reach a line, in the order in which they are to look."""
-        able = [name for name in self.tests if reaches(self.lines[name], file, number)]
+        able = [name for name in self.tests if self.quick or reaches(self.lines[name], file, number)]
         return sorted(able, key=lambda name: (name != f"tests/{room}", self.seconds[name]))
 
     def catcher(self, names):
-        """The first of these tests that fails."""
-        return next((name for name in names if not self.copy.passes(self.tests[name], 20 + 10 * self.seconds[name])), None)
+        """The first of these tests that fails with the fault that was just seeded, "" if none does, None if it doesn't compile.
+        Only what a test needs is built before it."""
+        for name in names:
+            if not self.copy.make(self.copy.targets(name)):
+                return None
+            if not self.copy.passes(self.tests[name], 20 + 10 * self.seconds[name]):
+                return name
+        return ""
 
 
-def seed_room(room, reach, chosen, count):
+def seed_room(room, reach, chosen, count, looks):
     """Seeds faults until `count` of them compiled; how many were caught, and the report's entries for the others."""
     copy, caught, survivors = reach.copy, 0, []
     for file, number, what, new in chosen:
         if caught + len(survivors) >= count:
             break
         original = file.read_text(encoding="utf-8")
-        able, catcher = reach.of(room, file, number), None
+        able, catcher = reach.of(room, file, number)[:looks], ""
         if able:
             text = original.splitlines(True)
             text[number - 1] = new
             file.write_text("".join(text), encoding="utf-8")
-            built = copy.make()
-            catcher = built and reach.catcher(able)
+            catcher = reach.catcher(able)
             file.write_text(original, encoding="utf-8")
-            if not built:
+            if catcher is None:
                 continue
         where = f"{file.relative_to(copy.top)}:{number}: {what}"
         if catcher:
@@ -251,6 +272,9 @@ def main():
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--file", default="")
     parser.add_argument("--tests", default="")
+    parser.add_argument("--acts", default="")
+    parser.add_argument("--looks", type=int)
+    parser.add_argument("--quick", action="store_true")
     parser.add_argument("--headers", action="store_true")
     parser.add_argument("--list", action="store_true")
     given = parser.parse_args()
@@ -259,8 +283,8 @@ def main():
         if room not in table:
             sys.exit(f"No room {room}; there are {', '.join(table)}.")
     os.nice(10)
-    copy = Copy(given.rooms, [name for name in given.tests.split(",") if name])
-    reach = None if given.list else Reach(copy)
+    copy = Copy(given.rooms, [name for name in given.tests.split(",") if name], tuple(given.acts.split(",")), given.quick)
+    reach = None if given.list else Reach(copy, given.quick)
     report = []
     for room in given.rooms:
         files = [file for file in sorted((copy.top / table[room][0]).glob("*.[ch]*"))
@@ -270,7 +294,7 @@ def main():
             for file, number, what, new in chosen[: given.count]:
                 print(f"{file.relative_to(copy.top)}:{number}: {what}\n    {new.strip()}")
             continue
-        caught, survivors = seed_room(room, reach, chosen, given.count)
+        caught, survivors = seed_room(room, reach, chosen, given.count, given.looks)
         total = caught + len(survivors)
         report += [f"{room}: caught {caught} of {total} faults ({100 * caught // max(total, 1)} %)", *survivors]
         print(report[-1 - len(survivors)], flush=True)

@@ -31,6 +31,7 @@ void startWindow(const std::vector<std::string>& words) {
     std::vector<std::string> all = words;
     all.insert(all.begin(), windowProgram());
     std::vector<char*> list;
+    list.reserve(all.size() + 1);
     for (std::string& word : all) list.push_back(word.data());
     list.push_back(nullptr);
     execv(list[0], list.data());

@@ -20,6 +20,7 @@ namespace drawing {
 
 CompiledFilter::CompiledFilter(const Drawing& drawing, const Filter& filter)
     : drawing_(drawing), store_(Inside::store(drawing)) {
+    // The whole filter is a group without a closing word; an empty one is an AND of nothing and passes all.
     std::size_t position = 0;
     root_ = parseGroup(filter, position, {});
     findNames();
@@ -47,6 +48,7 @@ CompiledFilter::Node CompiledFilter::parseGroup(const Filter& filter, std::size_
             child.kind = Node::Kind::Test;
             child.test = compile(condition, relation);
             group.children.push_back(std::move(child));
+            // A relation holds for the one condition behind it; then equality counts again.
             relation = Relation::Equal;
             continue;
         }
@@ -163,12 +165,15 @@ bool CompiledFilter::passes(EntityId id, const Test& test) const {
         case 2:
             return matchesName(test, record.name);
         case 5:
+            // As the file writes handles: hexadecimal, no leading zeros.
             return basic::equalIgnoringCase(test.text, dxf::handleText(record.handle));
         case 8:
             return matchesName(test, record.layer);
         case 60:
             return matches(test, record.has(kInvisible) ? 1.0 : 0.0);
-        // Codes that an entity may lack have their defaults: colour by layer, visible, in model space.
+        // Codes that an entity may lack have their defaults: colour by layer, visible, in model space. The
+        // space (67) and its tab (410) are told by the block that owns the entity, not by its groups: a file
+        // may lack the one, and R12 knows nothing of the other.
         case 62:
             return matches(test, drawing_.common(id).color);
         case 67:
@@ -253,6 +258,7 @@ bool CompiledFilter::matchesGroups(EntityId id, const Test& test) const {
     dxf::TagReader reader = store_.reader(id);
     Point3 point;
     int pointCode = -1;
+    // Within 1e-9 units: the file's decimals were rounded when they were written.
     const auto near = [&] { return pointCode == test.code && distance(point, test.point) < 1e-9; };
     std::string scratch;
     for (dxf::Tag tag; reader.next(tag);) {
@@ -265,6 +271,7 @@ bool CompiledFilter::matchesGroups(EntityId id, const Test& test) const {
             if (tag.code == test.code + 10) point.y = tag.numberOr(0);
             if (tag.code == test.code + 20) point.z = tag.numberOr(0);
         } else if (tag.code == test.code) {
+            // A text where a number was asked for reads as NAN, which is equal to nothing.
             if (test.isText ? matches(test, tag.text(scratch)) : matches(test, tag.numberOr(NAN)))
                 return true;
         }

@@ -34,6 +34,7 @@ Opener::Opener(dxf::Source source, dxf::Mode mode)
 std::unique_ptr<Drawing> Opener::open() {
     scan();
     readTables();
+    // Findings name offsets so far; their lines are counted in one pass at the end.
     store_.findings.resolve(store_.source().bytes(), store_.format().binary);
     return std::move(drawing_);
 }
@@ -84,6 +85,7 @@ void Opener::endSection() {
     endObject();
     endParts();
     endHeaderVariable();
+    // A definition never crosses the end of its section.
     if (blockIsOpen_) {
         blockRanges_.back().last = store_.count();
         blockIsOpen_ = false;
@@ -145,11 +147,13 @@ void Opener::value(const dxf::Tag& tag) {
             if (record_.type == kDimStyleEntry) record_.handle = tag.handle();
             break;
         case 8:
+            // The layer. Names are interned as the file has them, and decoded once each.
             if (record_.layer == kNoName && !record_.has(kObject)) {
                 record_.layer = store_.names.internRaw(tag.raw, store_.encoding());
             }
             break;
         case 2:
+            // The name: of a table entry, a definition, the block that a reference shows, an attribute's tag.
             if (record_.name == kNoName && !record_.has(kObject)) {
                 record_.name = store_.names.internRaw(tag.raw, store_.encoding());
             }
@@ -158,6 +162,7 @@ void Opener::value(const dxf::Tag& tag) {
             if (markers_ <= 1) record_.set(kInvisible, tag.integerOr(0) != 0);
             break;
         case 66:
+            // "Entities follow": attributes behind an INSERT.
             record_.set(kPartsFollow, tag.integerOr(0) != 0);
             break;
         case 67:
@@ -167,6 +172,7 @@ void Opener::value(const dxf::Tag& tag) {
             ++markers_;
             break;
         case 102:
+            // A group of an application or of the host; this one names the dictionary that the entity owns.
             if (tag.raw.starts_with("{ACAD_XDICTIONARY")) record_.set(kHasDictionary);
             break;
         default:
@@ -186,6 +192,7 @@ void Opener::endObject() {
     record_.size = static_cast<std::uint32_t>(size);
     const EntityId id = store_.count();
     if (section_ == dxf::SectionKind::Blocks || section_ == dxf::SectionKind::Entities) attach(id, record_);
+    // A layout names its space by handle, and the handles are known when all is read.
     if (record_.type == kLayout) layouts_.push_back(id);
     store_.addFromFile(record_);
 }

@@ -56,9 +56,11 @@ void Opener::readTables() {
     }
     for (const BlockRange& range : blockRanges_) addBlock(range);
     for (EntityId id : layouts_) readLayout(id);
+    // Which spaces are active is known by their names; a layout may have made further blocks paper spaces.
     BlockTable& blocks = drawing_->blocks_;
     blocks.setSpaces(blocks.find("*Model_Space"), blocks.find("*Paper_Space"));
     for (const BlockRange& range : blockRanges_) {
+        // A definition that isn't used, since another has its name, keeps its bytes and fills nothing.
         const BlockId block = blocks.ofName(nameKey(range.begin));
         if (block != kNoBlock && blocks[block].begin == range.begin) fillBlock(block, range);
     }
@@ -76,6 +78,7 @@ void Opener::readHandles() {
         if (store_.handles.add(handle, id)) continue;
         report(id, dxf::finding::kTakenHandle, "the handle is taken by an earlier object, which keeps it");
     }
+    // In R12 without the variable the handles themselves tell.
     const bool declared = drawing_->header_.integer("$HANDLING").value_or(highest != 0 ? 1 : 0) != 0;
     store_.startHandles(store_.fileSeed, store_.format().hasSubclasses() || declared);
     if (store_.fileSeed != 0 && store_.fileSeed <= highest) {
@@ -154,6 +157,8 @@ void Opener::addBlock(const BlockRange& range) {
                 break;
         }
     }
+    // The record was there first, from TABLES; the definition completes it. A file whose record is missing
+    // gets a block all the same, so that its references show.
     classify(content);
     content.nameKey = nameKey(range.begin);
     BlockTable& blocks = drawing_->blocks_;
@@ -201,6 +206,7 @@ void Opener::readLayout(EntityId id) {
         Block& candidate = drawing_->blocks_[block];
         if (candidate.handle != space) continue;
         candidate.layoutName = name;
+        // The name alone doesn't tell: other programs call the spaces of further layouts as they like.
         if (!candidate.isModelSpace) candidate.isPaperSpace = true;
     }
 }
@@ -227,6 +233,8 @@ void Opener::addToBlock(BlockId id, EntityId entity) {
     Block& block = drawing_->blocks_[id];
     record.owner = id;
     block.entities.push_back(entity);
+    // Only references that a space shows are selected by name and counted; those inside of definitions come
+    // along with them.
     if (block.isLayout()) {
         store_.indexName(entity);
         if (record.type == kInsert && drawing_->blocks_.ofName(nameKey(entity)) == kNoBlock) {

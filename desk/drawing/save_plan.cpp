@@ -8,13 +8,11 @@
 // A drawing is saved as a list of pieces, ranges of bytes in the order of the new file. Most are stretches of
 // the old file, from the end of one change to the beginning of the next; that is what keeps what nobody
 // touched to the byte and makes saving as quick as copying. The way there:
-//   1. Everything that differs from the old file becomes a patch: a range of the old file (empty, where
-//   something
-//      comes in) and the new pieces that stand in its place (none, where something goes).
+//   1. Everything that differs from the old file becomes a patch: a range of the old file, empty where
+//      something comes in, and the new pieces that stand in its place, none where something goes.
 //   2. The patches are brought into the order of the file. Records of the file make theirs in order already;
-//   what
-//      goes to the end of a table or a section comes later and has to be sorted in. Patches at one place keep
-//      the order in which they were made.
+//      what goes to the end of a table or a section comes later and has to be sorted in. Patches at one
+//      place keep the order in which they were made.
 //   3. Old stretches and new pieces are joined.
 // The rules of the file that this obeys are those of the DXF Reference, "DXF File Structure" and "Group
 // Codes": a section's objects follow one another without gaps, so that a change touches no byte of its
@@ -64,6 +62,8 @@ void SavePlan::patchSeed() {
 void SavePlan::patchVariables() {
     const HeaderVariables& header = drawing_.header();
     const char* const file = store_.source().bytes().data();
+    // A changed variable stands in its old place; one that the file lacks goes to the end of HEADER, where
+    // their order is free.
     std::string& added = own();
     for (const HeaderVariables::Entry& variable : header.changes()) {
         if (const HeaderVariables::Entry* old = header.findInFile(variable.name)) {
@@ -150,6 +150,7 @@ void SavePlan::addOthers() {
 }
 
 void SavePlan::addTables() {
+    // A table that the file lacks, as one of R12 may: its head, its entries, its ENDTAB, in a row.
     bool isNew = false;
     bool begun = false;
     for (const Addition& table : store_.additions) {

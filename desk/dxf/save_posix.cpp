@@ -128,7 +128,7 @@ void writePieces(int descriptor, std::span<const std::string_view> pieces, const
 
 /// Copies the file to a new one in the folder of backups, flushed; its path.
 std::string backUp(int file, const std::string& path, const std::string& folder) {
-    const std::string name =
+    std::string name =
         folder + "/" + path.substr(path.rfind('/') + 1) + "." + std::to_string(getpid()) + ".bak";
     Descriptor copy(open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!copy.isOpen()) fail(name, fileError(errno));

@@ -161,12 +161,4 @@ void Scanner::reportMissingSections() {
     need(SectionKind::Entities, "ENTITIES");
 }
 
-Outline readOutline(const TagSource& source, Mode mode, Findings& findings) {
-    Scanner scanner(source, mode, findings);
-    Tag tag;
-    while (scanner.next(tag) != Event::End) {
-    }
-    return scanner.takeOutline();
-}
-
 }  // namespace dxf

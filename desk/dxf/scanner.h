@@ -103,7 +103,4 @@ class Scanner {
     bool strayReported_ = false;
 };
 
-/// The whole pass for those who need the outline alone.
-Outline readOutline(const TagSource& source, Mode mode, Findings& findings);
-
 }  // namespace dxf

@@ -10,17 +10,16 @@ namespace {
 struct Release {
     int number;
     Version version;
-    std::string_view text;
     std::string_view name;
 };
 
 constexpr std::array kReleases{
-    Release{1004, Version::R9, "AC1004", "R9"},       Release{1006, Version::R10, "AC1006", "R10"},
-    Release{1009, Version::R12, "AC1009", "R12"},     Release{1012, Version::R13, "AC1012", "R13"},
-    Release{1014, Version::R14, "AC1014", "R14"},     Release{1015, Version::R2000, "AC1015", "R2000"},
-    Release{1018, Version::R2004, "AC1018", "R2004"}, Release{1021, Version::R2007, "AC1021", "R2007"},
-    Release{1024, Version::R2010, "AC1024", "R2010"}, Release{1027, Version::R2013, "AC1027", "R2013"},
-    Release{1032, Version::R2018, "AC1032", "R2018"},
+    Release{1004, Version::R9, "R9"},       Release{1006, Version::R10, "R10"},
+    Release{1009, Version::R12, "R12"},     Release{1012, Version::R13, "R13"},
+    Release{1014, Version::R14, "R14"},     Release{1015, Version::R2000, "R2000"},
+    Release{1018, Version::R2004, "R2004"}, Release{1021, Version::R2007, "R2007"},
+    Release{1024, Version::R2010, "R2010"}, Release{1027, Version::R2013, "R2013"},
+    Release{1032, Version::R2018, "R2018"},
 };
 
 /// The digits behind "AC", or -1.
@@ -49,7 +48,6 @@ bool isKnownVersion(std::string_view acadVer) {
     return number >= 0 && number <= kReleases.back().number;
 }
 
-std::string_view versionText(Version version) { return kReleases[static_cast<std::size_t>(version)].text; }
 std::string_view versionName(Version version) { return kReleases[static_cast<std::size_t>(version)].name; }
 
 }  // namespace dxf

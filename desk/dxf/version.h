@@ -13,8 +13,6 @@ enum class Version { R9, R10, R12, R13, R14, R2000, R2004, R2007, R2010, R2013, 
 Version versionFromText(std::string_view acadVer);
 /// Whether the text is one of the numbers that the format's releases have used.
 bool isKnownVersion(std::string_view acadVer);
-/// The $ACADVER text, such as "AC1015".
-std::string_view versionText(Version version);
 /// The release's name for messages, such as "R2000".
 std::string_view versionName(Version version);
 

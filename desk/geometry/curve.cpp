@@ -22,6 +22,7 @@ constexpr double kFullTurn = 2 * kPi;
 
 /// Moves `t` by full turns into the range of the arc. Returns false where no turn does.
 bool inRange(const ArcCurve& arc, double& t) {
+    // An arc may run clockwise, its end below its start: a negative bulge does, and a reversed arc.
     const double low = std::min(arc.start, arc.end);
     t += kFullTurn * std::ceil((low - t) / kFullTurn);
     return t <= std::max(arc.start, arc.end);
@@ -46,7 +47,8 @@ void addArcBounds(const ArcCurve& arc, Box& box) {
 template <typename Visit>
 bool anyCrossing(const ArcCurve& arc, double center, double cosine, double sine, double value,
                  Visit&& visit) {
-    // Solves radius cos(t - middle) = value - center.
+    // Solves radius cos(t - middle) = value - center: no place where the value is out of reach, else two
+    // that lie evenly about the peak.
     const double radius = std::hypot(cosine, sine);
     if (radius == 0 || std::abs(value - center) > radius) return false;
     const double middle = std::atan2(sine, cosine);
@@ -60,6 +62,7 @@ bool anyCrossing(const ArcCurve& arc, double center, double cosine, double sine,
 bool arcTouches(const ArcCurve& arc, const Rectangle& box) {
     // Either an end lies inside, or the arc comes in across one of the four sides.
     if (box.contains(arc.at(arc.start)) || box.contains(arc.at(arc.end))) return true;
+    // A crossing counts where it lies on the side itself and not on what the side goes on to.
     const auto onUpright = [&](const Point3& p) { return p.y >= box.low.y && p.y <= box.high.y; };
     const auto onLevel = [&](const Point3& p) { return p.x >= box.low.x && p.x <= box.high.x; };
     const auto& [center, cosine, sine, start, end] = arc;
@@ -73,6 +76,8 @@ bool arcTouches(const ArcCurve& arc, const Rectangle& box) {
 bool lineTouches(const LineCurve& line, const Rectangle& box) {
     double from = 0;
     double to = 1;
+    // Inside of a pair of borders the line has parameters between a and b, in either order; one that runs
+    // along them is inside all its way or nowhere.
     const auto clip = [&](double start, double step, double low, double high) {
         if (step == 0) return start >= low && start <= high;
         const double a = (low - start) / step;
@@ -87,6 +92,7 @@ bool lineTouches(const LineCurve& line, const Rectangle& box) {
 }
 
 double lineDistance(const LineCurve& line, const Point3& point) {
+    // The foot of the perpendicular, or the nearer end where it falls beside the line.
     const Vector3 step = line.end - line.start;
     const double square = step.x * step.x + step.y * step.y;
     double t = 0;
@@ -110,7 +116,8 @@ std::vector<double> sampleParameters(const ArcCurve& arc, int fineness = 1) {
 }
 
 std::vector<double> sampleParameters(const SplineCurve& spline, int fineness = 1) {
-    // Between two knots the curve is one polynomial, which bends no more often than its degree.
+    // Between two knots the curve is one polynomial, which bends no more often than its degree; knots that
+    // repeat leave no span between them. Degree 1 is its own chords.
     const std::vector<double> knots = spanKnots(spline);
     const int count = spline.degree == 1 ? 1 : std::max(1, 4 * spline.degree * fineness);
     std::vector<double> result;
@@ -127,6 +134,7 @@ std::vector<double> sampleParameters(const SplineCurve& spline, int fineness = 1
 /// The least distance by samples, refined between the neighbours of the nearest one by golden section.
 template <typename At>
 double sampledDistance(const std::vector<double>& parameters, const Point3& point, At&& at) {
+    // A damaged spline has no parameters and is far from everything.
     double best = Box::kFar;
     std::size_t nearest = 0;
     for (std::size_t i = 0; i < parameters.size(); ++i) {
@@ -157,6 +165,7 @@ double sampledDistance(const std::vector<double>& parameters, const Point3& poin
 double arcDistance(const ArcCurve& arc, const Point3& point) {
     // Seen from above a circle may be an ellipse, whose distance has no closed form of use: that one is
     // sampled.
+    // It is a circle if the radius vectors, without their Z, are square and of one length.
     const Vector3 u{arc.cosine.x, arc.cosine.y, 0};
     const Vector3 v{arc.sine.x, arc.sine.y, 0};
     const double radius = length(u);
@@ -165,6 +174,7 @@ double arcDistance(const ArcCurve& arc, const Point3& point) {
     if (!circle) {
         return sampledDistance(sampleParameters(arc), point, [&](double t) { return arc.at(t); });
     }
+    // In the angle of the point the circle is nearest; where the arc leaves that out, an end is.
     const Vector3 arm = point - arc.center;
     double t = std::atan2(dot(arm, v), dot(arm, u));
     if (inRange(arc, t)) return std::abs(distanceXY(point, arc.center) - radius);
@@ -192,6 +202,7 @@ void Box::add(const Box& box) {
 Box Box::transformed(const Transform& transform) const {
     Box result;
     if (empty()) return result;
+    // The box about the eight moved corners: larger than what is inside needs when it is turned, never less.
     for (int corner = 0; corner < 8; ++corner) {
         result.add(transform.apply({(corner & 1) != 0 ? high.x : low.x, (corner & 2) != 0 ? high.y : low.y,
                                     (corner & 4) != 0 ? high.z : low.z}));
@@ -250,6 +261,7 @@ Curve reversed(const Curve& curve) {
         std::reverse(spline.points.begin(), spline.points.end());
         std::reverse(spline.weights.begin(), spline.weights.end());
         std::reverse(spline.knots.begin(), spline.knots.end());
+        // Reversed knots would fall; negated they rise again, in the same steps.
         for (double& knot : spline.knots) knot = -knot;
     }
     return result;
@@ -262,6 +274,7 @@ void addBounds(const Curve& curve, Box& box) {
     } else if (const auto* arc = std::get_if<ArcCurve>(&curve)) {
         addArcBounds(*arc, box);
     } else {
+        // A spline stays inside the hull of its control points.
         for (const Point3& point : std::get<SplineCurve>(curve).points) box.add(point);
     }
 }
@@ -278,6 +291,7 @@ Curve bulgeCurve(const Point3& start, const Point3& end, double bulge) {
     ArcCurve arc;
     arc.center = start + chord / 2 + left * (size * (1 - bulge * bulge) / (4 * bulge));
     const double radius = size * (1 + bulge * bulge) / (4 * std::abs(bulge));
+    // A positive bulge runs anticlockwise, by four times the angle whose tangent it is; a negative one back.
     arc.cosine = {radius, 0, 0};
     arc.sine = {0, radius, 0};
     arc.start = std::atan2(start.y - arc.center.y, start.x - arc.center.x);
@@ -306,6 +320,7 @@ double distanceXY(const Curve& curve, const Point3& point) {
 bool touches(const Curve& curve, const Rectangle& rectangle) {
     if (const auto* line = std::get_if<LineCurve>(&curve)) return lineTouches(*line, rectangle);
     if (const auto* arc = std::get_if<ArcCurve>(&curve)) return arcTouches(*arc, rectangle);
+    // A spline by its chords: a window is drawn by hand and doesn't ask for what they miss.
     std::vector<Point3> points;
     flatten(curve, points);
     for (std::size_t i = 1; i < points.size(); ++i) {

@@ -45,6 +45,7 @@ Importer::Importer(Drawing& target, const Drawing& source)
       translator_(from_, to_, *this) {}
 
 ImportResult Importer::import(const std::string& name) {
+    // Nothing has changed when this refuses.
     checkNames(name);
     // The model space counts as the source of the new block, so that what names it by handle finds the block.
     const BlockId model = source_.modelSpace();
@@ -59,6 +60,7 @@ ImportResult Importer::import(const std::string& name) {
         fresh.basePoint = base;
         block = make(std::move(fresh));
     }
+    // Entered first, as with nested blocks (blockFor): what is filled may name it.
     blocks_[model] = block;
     fill(block, model);
     result_.block = block;
@@ -92,6 +94,7 @@ bool Importer::reaches(const Drawing& drawing, BlockId from, const std::string& 
     if (!seen.insert(from).second) return false;
     if (depth > kDeepest) raise(kInvalidInput, "blocks nested more than 500 deep");
     bool found = false;
+    // Names are compared, not blocks: the source knows nothing yet of the one that is to be made.
     const Store& store = Inside::store(drawing);
     drawing.forEachEntity(from, [&](EntityId id) {
         const Record& record = store.record(id);
@@ -185,6 +188,7 @@ BlockId Importer::make(Block block) {
         writer.subclass("AcDbSymbolTableRecord");
         writer.subclass("AcDbBlockTableRecord");
         writer.text(2, block.name);
+        // 340 would name a layout: this block has none.
         if (version >= dxf::Version::R2000) writer.handle(340, 0);
         if (version >= dxf::Version::R2007) {
             writer.integer(70, source_.header().integer("$INSUNITS").value_or(0));
@@ -215,6 +219,7 @@ void Importer::redefine(BlockId existing, const Point3& basePoint) {
     block.attributeDefinitions.clear();
     block.hasConstantAttributes = false;
     block.basePoint = basePoint;
+    // An external reference becomes a block of the drawing; what attributes there are its content tells.
     block.flags &= kAnonymousFlag;
     block.xrefPath.clear();
     Inside::noteChange(target_);
@@ -265,6 +270,7 @@ void Importer::fill(BlockId target, BlockId source) {
         content.push_back(id);
         return true;
     });
+    // Parts have handles of their own, and other entities may name those too.
     for (EntityId id : content) {
         for (EntityId each = id; each <= id + from_.record(id).parts; ++each) {
             if (!from_.isErased(each)) entityHandles_[each] = to_.takeHandles(1);
@@ -279,6 +285,7 @@ void Importer::fill(BlockId target, BlockId source) {
         block.flags |= constant ? 0 : kAttributesFlag;
         block.hasConstantAttributes = block.hasConstantAttributes || constant;
     }
+    // Written in the order in which the file will have it.
     const EntityId begin = addFrame(target, kBlockBegin);
     for (EntityId id : content) copyEntity(target, id);
     const EntityId end = addFrame(target, kBlockEnd);
@@ -309,6 +316,7 @@ void Importer::copyEntity(BlockId target, EntityId id) {
 
 void Importer::copyPolyline(BlockId target, EntityId id) {
     // R12 has no LWPOLYLINE; vertices become entities, for which handles are needed besides the given one.
+    // One handle each for the POLYLINE, its vertices and the SEQEND that closes it.
     const std::size_t count = translator_.vertexCount(id) + 2;
     std::vector<Handle> handles(count, 0);
     for (std::size_t i = 0; i < count; ++i) handles[i] = i == 0 ? given(id) : to_.takeHandles(1);
@@ -337,6 +345,7 @@ EntityId Importer::addMain(BlockId target, std::uint16_t type, Handle handle, st
 }
 
 EntityId Importer::addPart(EntityId main, std::uint16_t type, Handle handle, std::string_view bytes) {
+    // A part is owned by its main entity, whose number precedes its own without a gap.
     Record record;
     record.type = to_.internType(from_.typeName(type));
     record.handle = handle;
@@ -354,6 +363,7 @@ void Importer::leave(EntityId id, const std::string& reason) {
 }
 
 ImportResult importBlock(Drawing& target, const Drawing& source, const std::string& name) {
+    // One step: undo takes back the block with all that came along, layers and styles too.
     const UndoStep step(target);
     ImportResult result = Importer(target, source).import(name);
     Inside::forgetDefinitions(target);

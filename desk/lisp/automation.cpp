@@ -21,6 +21,8 @@ std::shared_ptr<Interpreter> locked(const InterpreterRef& interpreter) {
 /// An object with neither settable properties nor elements; a property can be asked for by either road.
 class BridgeObject : public host::Object {
   public:
+    explicit BridgeObject(InterpreterRef interpreter) : interpreter_(std::move(interpreter)) {}
+
     Variant get(std::string_view member) override {
         host::Arguments none;
         return call(member, none);
@@ -34,13 +36,15 @@ class BridgeObject : public host::Object {
     static void expect(std::string_view member, std::string_view name) {
         if (!basic::equalIgnoringCase(member, name)) throw basic::Error(basic::kNoSuchMember);
     }
+
+    InterpreterRef interpreter_;
 };
 
 /// A function of Lisp by its name; what the name means is looked up at each call.
 class FunctionObject : public BridgeObject {
   public:
     FunctionObject(InterpreterRef interpreter, SymbolPtr symbol)
-        : interpreter_(std::move(interpreter)), symbol_(std::move(symbol)) {}
+        : BridgeObject(std::move(interpreter)), symbol_(std::move(symbol)) {}
 
     Variant call(std::string_view member, host::Arguments& arguments) override {
         expect(member, "funcall");
@@ -54,13 +58,12 @@ class FunctionObject : public BridgeObject {
     }
 
   private:
-    InterpreterRef interpreter_;
     SymbolPtr symbol_;
 };
 
 class FunctionsObject : public BridgeObject {
   public:
-    explicit FunctionsObject(InterpreterRef interpreter) : interpreter_(std::move(interpreter)) {}
+    using BridgeObject::BridgeObject;
 
     Variant call(std::string_view member, host::Arguments& arguments) override {
         expect(member, "Item");
@@ -72,35 +75,26 @@ class FunctionsObject : public BridgeObject {
         if (!isCallable) throw LispError("no function definition: " + symbol->name);
         return std::make_shared<FunctionObject>(interpreter_, symbol);
     }
-
-  private:
-    InterpreterRef interpreter_;
 };
 
 class LispDocument : public BridgeObject {
   public:
-    explicit LispDocument(InterpreterRef interpreter) : interpreter_(std::move(interpreter)) {}
+    using BridgeObject::BridgeObject;
 
     Variant call(std::string_view member, host::Arguments&) override {
         expect(member, "Functions");
         return std::make_shared<FunctionsObject>(interpreter_);
     }
-
-  private:
-    InterpreterRef interpreter_;
 };
 
 class LispApplication : public BridgeObject {
   public:
-    explicit LispApplication(InterpreterRef interpreter) : interpreter_(std::move(interpreter)) {}
+    using BridgeObject::BridgeObject;
 
     Variant call(std::string_view member, host::Arguments&) override {
         expect(member, "ActiveDocument");
         return std::make_shared<LispDocument>(interpreter_);
     }
-
-  private:
-    InterpreterRef interpreter_;
 };
 
 }  // namespace

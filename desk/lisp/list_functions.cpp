@@ -79,7 +79,6 @@ Value last(Call& call) {
 
 Value atom(Call& call) { return call.truth(call[0].cons() == nullptr); }
 Value listp(Call& call) { return call.truth(call[0].isNil() || call[0].cons() != nullptr); }
-Value consp(Call& call) { return call.truth(call[0].cons() != nullptr); }
 Value isNull(Call& call) { return call.truth(call[0].isNil()); }
 
 }  // namespace
@@ -88,12 +87,11 @@ SubrTable listFunctions() {
     static constexpr SubrEntry kTable[] = {
         {"CAR", 1, 1, takePath},   {"CDR", 1, 1, takePath},    {"CAAR", 1, 1, takePath},
         {"CADR", 1, 1, takePath},  {"CDAR", 1, 1, takePath},   {"CDDR", 1, 1, takePath},
-        {"CAADR", 1, 1, takePath}, {"CADAR", 1, 1, takePath},  {"CADDR", 1, 1, takePath},
-        {"CDDDR", 1, 1, takePath}, {"CADDDR", 1, 1, takePath}, {"CONS", 2, 2, consFunction},
+        {"CADDR", 1, 1, takePath}, {"CADDDR", 1, 1, takePath}, {"CONS", 2, 2, consFunction},
         {"LIST", 0, -1, list},     {"APPEND", 0, -1, append},  {"REVERSE", 1, 1, reverse},
         {"LENGTH", 1, 1, length},  {"NTH", 2, 2, nth},         {"LAST", 1, 1, last},
-        {"ATOM", 1, 1, atom},      {"LISTP", 1, 1, listp},     {"VL-CONSP", 1, 1, consp},
-        {"NULL", 1, 1, isNull},    {"NOT", 1, 1, isNull},
+        {"ATOM", 1, 1, atom},      {"LISTP", 1, 1, listp},     {"NULL", 1, 1, isNull},
+        {"NOT", 1, 1, isNull},
     };
     return kTable;
 }

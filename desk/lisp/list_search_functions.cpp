@@ -1,6 +1,5 @@
 // Finding, replacing and ordering the elements of lists.
 
-#include "basic/text.h"
 #include "desk/lisp/call.h"
 #include "desk/lisp/comparison.h"
 
@@ -87,29 +86,12 @@ Value sort(Call& call) {
     return makeList(std::move(items));
 }
 
-/// (acad_strlsort list): strings without regard to case, as the host lists names.
-Value sortStrings(Call& call) {
-    std::vector<Value> items = call.list(0);
-    for (const Value& item : items) {
-        if (item.text() == nullptr) throw badArgumentType("stringp", item);
-    }
-    mergeSort(items, [](const Value& left, const Value& right) {
-        return basic::compareText(*left.text(), *right.text()) < 0;
-    });
-    return makeList(std::move(items));
-}
-
 }  // namespace
 
 SubrTable listSearchFunctions() {
     static constexpr SubrEntry kTable[] = {
-        {"MEMBER", 2, 2, member},
-        {"ASSOC", 2, 2, assoc},
-        {"SUBST", 3, 3, subst},
-        {"VL-REMOVE", 2, 2, remove},
-        {"VL-POSITION", 2, 2, position},
-        {"VL-SORT", 2, 2, sort},
-        {"ACAD_STRLSORT", 1, 1, sortStrings},
+        {"MEMBER", 2, 2, member},    {"ASSOC", 2, 2, assoc},          {"SUBST", 3, 3, subst},
+        {"VL-REMOVE", 2, 2, remove}, {"VL-POSITION", 2, 2, position}, {"VL-SORT", 2, 2, sort},
     };
     return kTable;
 }

@@ -40,35 +40,14 @@ Value keepWhere(Call& call, bool wanted) {
 Value removeIf(Call& call) { return keepWhere(call, false); }
 Value removeIfNot(Call& call) { return keepWhere(call, true); }
 
-Value memberIf(Call& call) {
-    for (const Value* rest = &call[1]; rest->cons() != nullptr; rest = &rest->cons()->rest) {
-        if (call.lisp.apply(call[0], {rest->cons()->first}).isTrue()) return *rest;
-    }
-    return {};
-}
-
-Value some(Call& call) {
-    for (const Value& item : call.list(1)) {
-        if (Value value = call.lisp.apply(call[0], {item}); value.isTrue()) return value;
-    }
-    return {};
-}
-
-Value every(Call& call) {
-    for (const Value& item : call.list(1)) {
-        if (call.lisp.apply(call[0], {item}).isNil()) return {};
-    }
-    return call.lisp.truth();
-}
-
 }  // namespace
 
 SubrTable mappingFunctions() {
     static constexpr SubrEntry kTable[] = {
-        {"APPLY", 2, 2, apply},           {"MAPCAR", 2, -1, mapcar},
-        {"VL-REMOVE-IF", 2, 2, removeIf}, {"VL-REMOVE-IF-NOT", 2, 2, removeIfNot},
-        {"VL-MEMBER-IF", 2, 2, memberIf}, {"VL-SOME", 2, 2, some},
-        {"VL-EVERY", 2, 2, every},
+        {"APPLY", 2, 2, apply},
+        {"MAPCAR", 2, -1, mapcar},
+        {"VL-REMOVE-IF", 2, 2, removeIf},
+        {"VL-REMOVE-IF-NOT", 2, 2, removeIfNot},
     };
     return kTable;
 }

@@ -47,20 +47,14 @@ Value substitute(Call& call) {
     return encoded(text.replace(found, pattern.size(), characters(call.text(0))));
 }
 
-/// (vl-string-trim set text): without the characters of `set` at the chosen ends.
-Value trimmed(Call& call, bool left, bool right) {
+/// (vl-string-trim set text): without the characters of `set` at both ends.
+Value trim(Call& call) {
     const std::u32string set = characters(call.text(0));
     const std::u32string text = characters(call.text(1));
-    const std::size_t first = left ? text.find_first_not_of(set) : 0;
+    const std::size_t first = text.find_first_not_of(set);
     if (first == std::u32string::npos) return std::string();
-    const std::size_t last = right ? text.find_last_not_of(set) : text.size() - 1;
-    if (text.empty() || last == std::u32string::npos) return std::string();
-    return encoded(std::u32string_view(text).substr(first, last - first + 1));
+    return encoded(std::u32string_view(text).substr(first, text.find_last_not_of(set) - first + 1));
 }
-
-Value trim(Call& call) { return trimmed(call, true, true); }
-Value trimLeft(Call& call) { return trimmed(call, true, false); }
-Value trimRight(Call& call) { return trimmed(call, false, true); }
 
 }  // namespace
 
@@ -69,8 +63,6 @@ SubrTable stringSearchFunctions() {
         {"VL-STRING-SEARCH", 2, 3, search},
         {"VL-STRING-SUBST", 3, 4, substitute},
         {"VL-STRING-TRIM", 2, 2, trim},
-        {"VL-STRING-LEFT-TRIM", 2, 2, trimLeft},
-        {"VL-STRING-RIGHT-TRIM", 2, 2, trimRight},
     };
     return kTable;
 }

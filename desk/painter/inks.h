@@ -22,7 +22,6 @@ class Inks {
 
     QColor shown(const picture::Color& color) const;
     const QColor& ground() const { return ground_; }
-    bool isDark() const { return dark_; }
     /// One colour for everything, as highlights need.
     void setSingle(const QColor& color) { single_ = color; }
     /// Everything mixed with a colour by a share of 0 to 1.

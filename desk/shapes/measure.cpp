@@ -20,13 +20,6 @@ using geometry::pathArea;
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Measure>, 4> kNames{{
-    {"Length", Measure::Length},
-    {"Area", Measure::Area},
-    {"Circumference", Measure::Circumference},
-    {"Perimeter", Measure::Perimeter},
-}};
-
 Polyline polylineOf(const Drawing& drawing, EntityId id) {
     if (drawing.type(id) == "LWPOLYLINE") return readLwPolyline(drawing.tags(id));
     return readPolyline(drawing.tags(id), vertexTags(drawing, id));
@@ -49,13 +42,6 @@ double area(const Drawing& drawing, EntityId id) {
 }
 
 }  // namespace
-
-std::optional<Measure> measureByName(std::string_view name) {
-    for (const auto& [text, measure] : kNames) {
-        if (basic::equalIgnoringCase(text, name)) return measure;
-    }
-    return std::nullopt;
-}
 
 bool hasMeasure(const Drawing& drawing, EntityId id, Measure what) {
     const std::string_view type = drawing.type(id);

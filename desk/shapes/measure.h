@@ -10,9 +10,6 @@ namespace shapes {
 /// The measures that the host's automation model gives under these names.
 enum class Measure { Length, Area, Circumference, Perimeter };
 
-/// The measure of a name without regard to case, "length" or "AREA".
-std::optional<Measure> measureByName(std::string_view name);
-
 /// A measure of an entity in drawing units. The kinds that have one are those of the host:
 ///
 ///   Length         LINE, LWPOLYLINE, POLYLINE (plane and 3D, not meshes)

@@ -27,55 +27,23 @@ bool matches(const BlockRow& row, const QString& wanted) {
 }  // namespace
 
 BlocksPanel::BlocksPanel(Picture picture, QWidget* parent)
-    : QWidget(parent),
-      head_(new PanelHead(this)),
+    : ListPanel(parent),
       eye_(head_->addTool("eye-off")),
       more_(head_->addTool("more")),
-      search_(new QLineEdit(this)),
-      list_(new QListView(this)),
-      empty_(new QLabel(this)),
-      hiddenCount_(new QLabel(this)),
+      hiddenCount_(addNote()),
       model_(new BlockListModel(this)) {
     eye_->setCheckable(true);
     eye_->setChecked(true);
     search_->addAction(icon("search"), QLineEdit::LeadingPosition);
-    search_->setClearButtonEnabled(true);
-    search_->setFixedHeight(26);
-    list_->setModel(model_);
-    list_->setItemDelegate(new BlockDelegate(*model_, std::move(picture), list_));
-    list_->setUniformItemSizes(true);
-    list_->setMouseTracking(true);
-    list_->setContextMenuPolicy(Qt::CustomContextMenu);
-    list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    for (QLabel* label : {empty_, hiddenCount_}) {
-        label->setObjectName("secondText");
-        label->setContentsMargins(12, 6, 12, 6);
-        label->setWordWrap(true);
-    }
-    empty_->setAlignment(Qt::AlignTop);
+    empty_->setWordWrap(true);
+    hiddenCount_->setWordWrap(true);
+    build(model_, new BlockDelegate(*model_, std::move(picture), list_), more_, 6);
+    column_->addWidget(hiddenCount_);
 
-    auto* searchRow = new QHBoxLayout;
-    searchRow->setContentsMargins(8, 0, 8, 6);
-    searchRow->addWidget(search_);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(head_);
-    column->addLayout(searchRow);
-    column->addWidget(list_, 1);
-    column->addWidget(empty_, 1);
-    column->addWidget(hiddenCount_);
-
-    connect(search_, &QLineEdit::textChanged, this, &BlocksPanel::filter);
     connect(eye_, &QToolButton::toggled, this, &BlocksPanel::filter);
     connect(list_, &QListView::activated, this, [this](const QModelIndex& index) {
         emit selectReferences(model_->data(index, Qt::DisplayRole).toString());
     });
-    connect(list_, &QListView::customContextMenuRequested, this, &BlocksPanel::openMenu);
-    connect(more_, &QToolButton::clicked, this,
-            [this] { openMenu(more_->mapTo(list_, QPoint(0, more_->height()))); });
-    setFocusProxy(list_);
     retranslate();
     show(nullptr);
 }
@@ -99,12 +67,10 @@ void BlocksPanel::filter() {
             shown.push_back(row);
         }
     }
-    head_->setCount(hasDrawing_ ? static_cast<int>(shown.size()) : -1);
-    empty_->setText(!hasDrawing_    ? tr("No drawing is open")
-                    : rows_.empty() ? tr("The drawing has no blocks")
-                                    : tr("No block matches"));
-    empty_->setVisible(shown.empty());
-    list_->setVisible(!shown.empty());
+    showCount(shown.size(), hasDrawing_,
+              !hasDrawing_    ? tr("No drawing is open")
+              : rows_.empty() ? tr("The drawing has no blocks")
+                              : tr("No block matches"));
     hiddenCount_->setText(tr("%1 of dimensions (*D…) hidden").arg(hidden));
     hiddenCount_->setVisible(hidden > 0);
     eye_->setIcon(icon(eye_->isChecked() ? "eye-off" : "eye"));
@@ -177,8 +143,7 @@ void BlocksPanel::openMenu(const QPoint& place) {
 
 void BlocksPanel::retranslate() {
     head_->setTitle(tr("Blocks"));
-    search_->setPlaceholderText(tr("Search blocks and tags"));
-    search_->setAccessibleName(tr("Search blocks and tags"));
+    nameSearch(tr("Search blocks and tags"));
     list_->setAccessibleName(tr("Blocks"));
     setTip(eye_, tr("Hide what dimensions made"));
     setTip(more_, tr("What to do with the block"));

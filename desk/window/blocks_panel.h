@@ -1,26 +1,20 @@
 #pragma once
 
 #include "desk/window/drawing_lists.h"
+#include "desk/window/list_panel.h"
 #include "desk/window/theme.h"
 
 #include <QHash>
 #include <QPixmap>
-#include <QWidget>
 #include <functional>
 #include <optional>
-
-class QLabel;
-class QLineEdit;
-class QListView;
-class QToolButton;
 
 namespace window {
 
 class BlockListModel;
-class PanelHead;
 
 /// The drawing's blocks: picture, name, tags, references; search in names and tags.
-class BlocksPanel : public QWidget {
+class BlocksPanel : public ListPanel {
     Q_OBJECT
 
   public:
@@ -50,16 +44,12 @@ class BlocksPanel : public QWidget {
     void jobAsked(const QString& command, const QString& block);
 
   private:
-    void filter();
-    void openMenu(const QPoint& place);
+    void filter() override;
+    void openMenu(const QPoint& place) override;
     void addJob(class QMenu& menu, const QString& text, const QString& command, const QString& block);
 
-    PanelHead* head_;
     QToolButton* eye_;
     QToolButton* more_;
-    QLineEdit* search_;
-    QListView* list_;
-    QLabel* empty_;
     QLabel* hiddenCount_;
     BlockListModel* model_;
     std::vector<BlockRow> rows_;

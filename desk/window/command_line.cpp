@@ -176,7 +176,7 @@ bool CommandLine::keyPressed(int key, Qt::KeyboardModifiers modifiers) {
             enter();
             return true;
         case Qt::Key_Space:
-            if (!spaceEnters_ || holdsBlanks(input_->text()) || modifiers != Qt::NoModifier) return false;
+            if (holdsBlanks(input_->text()) || modifiers != Qt::NoModifier) return false;
             // Space is Enter, except behind a word that may go on ("OPEN plan.dxf") and in a text of several
             // words.
             if (argumentWords_.contains(input_->text().toUpper()) || input_->text().contains(' '))

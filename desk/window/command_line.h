@@ -35,11 +35,8 @@ class CommandLine : public QWidget {
     void clear();
     void focusInput();
     bool hasInputFocus() const;
-    /// Whether Space enters the line, as it does except while a text with blanks is typed.
-    void setSpaceEnters(bool on) { spaceEnters_ = on; }
     /// Lets the history take `lines` lines.
     void setHistoryLines(int lines);
-    const QStringList& entered() const { return entered_; }
     QString historyText() const;
 
   signals:
@@ -48,7 +45,6 @@ class CommandLine : public QWidget {
     /// Esc in an empty input.
     void brokenOff();
     void textChanged(const QString& text);
-    void wordChosen(const QString& word);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -74,7 +70,6 @@ class CommandLine : public QWidget {
     QStringList entered_;
     int recalled_ = -1;  ///< index in entered_, -1 at the new line
     QString unfinished_;
-    bool spaceEnters_ = true;
 };
 
 }  // namespace window

@@ -16,53 +16,22 @@
 namespace window {
 
 LayersPanel::LayersPanel(QWidget* parent)
-    : QWidget(parent),
-      head_(new PanelHead(this)),
+    : ListPanel(parent),
       searchTool_(head_->addTool("search")),
       more_(head_->addTool("more")),
-      search_(new QLineEdit(this)),
-      list_(new QListView(this)),
-      empty_(new QLabel(this)),
       model_(new LayerListModel(this)) {
     searchTool_->setCheckable(true);
-    search_->setFixedHeight(26);
-    search_->setClearButtonEnabled(true);
     search_->hide();
-    list_->setModel(model_);
-    list_->setItemDelegate(new LayerDelegate(*model_, list_));
-    list_->setUniformItemSizes(true);
-    list_->setMouseTracking(true);
-    list_->setContextMenuPolicy(Qt::CustomContextMenu);
-    list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    build(model_, new LayerDelegate(*model_, list_), more_, 0);
     list_->viewport()->installEventFilter(this);
     list_->installEventFilter(this);
-    empty_->setObjectName("secondText");
-    empty_->setContentsMargins(12, 6, 12, 6);
-    empty_->setAlignment(Qt::AlignTop);
-
-    auto* searchRow = new QHBoxLayout;
-    searchRow->setContentsMargins(8, 0, 8, 0);
-    searchRow->addWidget(search_);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(head_);
-    column->addLayout(searchRow);
-    column->addWidget(list_, 1);
-    column->addWidget(empty_, 1);
 
     connect(searchTool_, &QToolButton::toggled, this, [this](bool on) {
         search_->setVisible(on);
         if (on) search_->setFocus();
         if (!on) search_->clear();
     });
-    connect(search_, &QLineEdit::textChanged, this, &LayersPanel::filter);
     connect(list_, &QListView::activated, this, [this] { ask(LayerAct::MakeCurrent); });
-    connect(list_, &QListView::customContextMenuRequested, this, &LayersPanel::openMenu);
-    connect(more_, &QToolButton::clicked, this,
-            [this] { openMenu(more_->mapTo(list_, QPoint(0, more_->height()))); });
-    setFocusProxy(list_);
     retranslate();
     show(nullptr);
 }
@@ -84,10 +53,7 @@ void LayersPanel::filter() {
         if (name == before) chosenRow = static_cast<int>(shown.size());
         shown.push_back(row);
     }
-    head_->setCount(hasDrawing_ ? static_cast<int>(shown.size()) : -1);
-    empty_->setText(hasDrawing_ ? tr("No layer matches") : tr("No drawing is open"));
-    empty_->setVisible(shown.empty());
-    list_->setVisible(!shown.empty());
+    showCount(shown.size(), hasDrawing_, hasDrawing_ ? tr("No layer matches") : tr("No drawing is open"));
     model_->setRows(std::move(shown));
     if (chosenRow >= 0) list_->setCurrentIndex(model_->index(chosenRow));
 }
@@ -152,7 +118,7 @@ bool LayersPanel::eventFilter(QObject* watched, QEvent* event) {
                 break;
         }
     }
-    return QWidget::eventFilter(watched, event);
+    return ListPanel::eventFilter(watched, event);
 }
 
 void LayersPanel::openMenu(const QPoint& place) {
@@ -175,8 +141,7 @@ void LayersPanel::openMenu(const QPoint& place) {
 
 void LayersPanel::retranslate() {
     head_->setTitle(tr("Layers"));
-    search_->setPlaceholderText(tr("Search layers"));
-    search_->setAccessibleName(tr("Search layers"));
+    nameSearch(tr("Search layers"));
     list_->setAccessibleName(tr("Layers"));
     setTip(searchTool_, tr("Search layers"));
     setTip(more_, tr("What to do with the layer"));

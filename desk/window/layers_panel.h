@@ -1,20 +1,13 @@
 #pragma once
 
 #include "desk/window/drawing_lists.h"
+#include "desk/window/list_panel.h"
 #include "desk/window/theme.h"
 
 #include <QAbstractListModel>
 #include <QStyledItemDelegate>
-#include <QWidget>
-
-class QLabel;
-class QLineEdit;
-class QListView;
-class QToolButton;
 
 namespace window {
-
-class PanelHead;
 
 /// What a click on a layer's row asks for.
 enum class LayerAct { MakeCurrent, SwitchOn, Freeze, Lock, ChooseColor };
@@ -54,7 +47,7 @@ class LayerDelegate : public QStyledItemDelegate {
 };
 
 /// The drawing's layers; a click on a state asks for its change.
-class LayersPanel : public QWidget {
+class LayersPanel : public ListPanel {
     Q_OBJECT
 
   public:
@@ -73,17 +66,13 @@ class LayersPanel : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void filter();
-    void openMenu(const QPoint& place);
+    void filter() override;
+    void openMenu(const QPoint& place) override;
     void ask(LayerAct act);
     QString chosen() const;
 
-    PanelHead* head_;
     QToolButton* searchTool_;
     QToolButton* more_;
-    QLineEdit* search_;
-    QListView* list_;
-    QLabel* empty_;
     LayerListModel* model_;
     std::vector<LayerRow> rows_;
     bool hasDrawing_ = false;

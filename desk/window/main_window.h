@@ -56,10 +56,8 @@ class MainWindow : public QMainWindow {
     CanvasPrompter& prompter() { return *prompter_; }
     DialogWatch& watch() { return *watch_; }
     StatusLine& status() { return *status_; }
-    BlocksPanel& blocksPanel() { return *blocks_; }
     PropertiesPanel& propertiesPanel() { return *properties_; }
     NoticeBar& notice() { return *notice_; }
-    BusyBar& busyBar() { return *busy_; }
     /// The action of the command table with this id.
     QAction* action(const QString& id) const { return actions_.value(id); }
     void enterLine(const QString& line);

@@ -57,7 +57,6 @@ class BusyBar : public QWidget {
     explicit BusyBar(QWidget* parent = nullptr);
     /// Shows or ends the work; a share below 0 is not known.
     void setBusy(bool busy, double share = -1);
-    bool isBusy() const { return busy_; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;

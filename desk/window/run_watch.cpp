@@ -3,6 +3,7 @@
 #include "desk/shell/user_break.h"
 #include "desk/window/parts.h"
 #include "desk/window/status_line.h"
+#include "faces/qt/input_events.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -15,25 +16,6 @@ namespace {
 constexpr qint64 kShowBusyAfter = 200;  // ms
 constexpr qint64 kOfferCancelAfter = 1000;
 constexpr qint64 kBetweenLooks = 40;
-
-bool isInput(QEvent::Type type) {
-    switch (type) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::Wheel:
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-        case QEvent::Shortcut:
-        case QEvent::ShortcutOverride:
-        case QEvent::ContextMenu:
-        case QEvent::Close:
-        case QEvent::Drop:
-            return true;
-        default:
-            return false;
-    }
-}
 
 }  // namespace
 
@@ -87,7 +69,7 @@ void RunWatch::letSee(qint64 elapsed) {
 }
 
 bool RunWatch::eventFilter(QObject* watched, QEvent* event) {
-    if (!isInput(event->type())) return false;
+    if (!qt_face::isInput(event->type()) && event->type() != QEvent::Close) return false;
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         givenUp_ = true;
         return true;

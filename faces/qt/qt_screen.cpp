@@ -1,6 +1,7 @@
 #include "faces/qt/qt_screen.h"
 
 #include "faces/qt/form_window.h"
+#include "faces/qt/input_events.h"
 #include "faces/qt/qt_text.h"
 #include "forms/file_dialog.h"
 #include "forms/form.h"
@@ -70,26 +71,6 @@ QString filterOf(const forms::FileDialog::FilterEntry& entry) {
     const qsizetype bracket = label.indexOf('(');
     if (bracket > 0) label.truncate(bracket);
     return label.trimmed() + " (" + patterns.join(' ') + ')';
-}
-
-bool isInput(QEvent::Type type) {
-    switch (type) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::Wheel:
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-        case QEvent::Shortcut:
-        case QEvent::ShortcutOverride:
-        case QEvent::ContextMenu:
-        case QEvent::TouchBegin:
-        case QEvent::TabletPress:
-        case QEvent::Drop:
-            return true;
-        default:
-            return false;
-    }
 }
 
 }  // namespace

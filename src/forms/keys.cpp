@@ -37,11 +37,4 @@ std::optional<Key> keyFromName(std::string_view name) {
     return std::nullopt;
 }
 
-const char* keyName(Key key) {
-    for (const NamedKey& named : kKeys) {
-        if (named.key == key) return named.name;
-    }
-    return "";
-}
-
 }  // namespace forms

@@ -55,6 +55,8 @@ int linesIn(std::string_view text, Twips room, const TextMetric& metric) {
     return lines;
 }
 
+// Whether a caption has room in its control, wrapped at blanks where the control is high enough for several
+// lines; true for a control that shows none. The room is the control's size less what its kind draws besides.
 bool fitsGrown(const Control& control, const TextMetric& metric, float growth) {
     if (!control.has(Property::Caption) || !control.has(Property::Bounds)) return true;
     const Trim trim = trimOf(control.kind());
@@ -77,8 +79,6 @@ Twips StandardMetric::width(std::string_view text) const {
     }
     return static_cast<Twips>(sum) * kLineHeight / 100;
 }
-
-bool captionFits(const Control& control, const TextMetric& metric) { return fitsGrown(control, metric, 1); }
 
 float growthToFit(const Form& form, const TextMetric& metric) {
     float growth = 1;

@@ -26,11 +26,6 @@ class StandardMetric : public TextMetric {
     Twips width(std::string_view text) const override;
 };
 
-/// Whether a control's caption has room in it, wrapped at blanks where the control is high enough for several
-/// lines; true for a control that shows none. The room is the control's size less what its kind draws
-/// besides.
-bool captionFits(const Control& control, const TextMetric& metric);
-
 /// The factor by which a face enlarges a whole dialog so that the captions of its visible controls fit: 1, or
 /// more up to kMostGrowth, where it stops.
 inline constexpr float kMostGrowth = 1.15f;

@@ -79,8 +79,6 @@ class Session {
     T& form(std::string_view name) {
         return dynamic_cast<T&>(form(name));
     }
-    /// Whether the dialog exists now.
-    bool hasForm(std::string_view name) const { return forms_.find(name) != forms_.end(); }
     /// Sets the dialog's variable to nothing; the next use makes a new one.
     void dropForm(std::string_view name);
 

@@ -40,8 +40,8 @@ TEST_F(AboutDialog, WithoutLanguagesItCantBeMade) {
         std::filesystem::remove(folder.file(name));
     session.CurLng = {};
     load();
-    EXPECT_EQ(fakes::errorOf([this] { dialog(); }), basic::kBadFileName);
-    EXPECT_FALSE(session.hasForm("fmAbout"));
+    for (int time = 1; time <= 2; ++time)  // nothing half made stays
+        EXPECT_EQ(fakes::errorOf([this] { dialog(); }), basic::kBadFileName);
 }
 
 }  // namespace

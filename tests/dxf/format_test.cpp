@@ -13,8 +13,12 @@ TEST(Version, numbersFallToTheirRelease) {
     EXPECT_EQ(versionFromText("Release 12"), Version::R12);
     EXPECT_FALSE(isKnownVersion("AC1099"));
     EXPECT_LT(Version::R12, Version::R13);
-    for (const Version version : {Version::R9, Version::R12, Version::R2010, Version::R2018})
-        EXPECT_EQ(versionFromText(versionText(version)), version);
+    constexpr std::array kNames{"R9",    "R10",   "R12",   "R13",   "R14",  "R2000",
+                                "R2004", "R2007", "R2010", "R2013", "R2018"};
+    constexpr std::array kTexts{"AC1004", "AC1006", "AC1009", "AC1012", "AC1014", "AC1015",
+                                "AC1018", "AC1021", "AC1024", "AC1027", "AC1032"};
+    for (std::size_t i = 0; i < kNames.size(); ++i)
+        EXPECT_EQ(versionName(versionFromText(kTexts[i])), kNames[i]);
 }
 
 TEST(Format, habitsOfAnAsciiFile) {

@@ -25,6 +25,14 @@ inline std::vector<std::string> groupTexts(const dxf::Source& source) {
     return texts;
 }
 
+/// The sections of a whole pass.
+inline dxf::Outline readOutline(const dxf::TagSource& source, dxf::Mode mode, dxf::Findings& findings) {
+    dxf::Scanner scanner(source, mode, findings);
+    for (dxf::Tag tag; scanner.next(tag) != dxf::Event::End;) {
+    }
+    return scanner.takeOutline();
+}
+
 /// The whole drawing converted to another format by the writer.
 inline std::string convert(const dxf::Source& source, const dxf::Format& format) {
     std::string bytes;

@@ -44,13 +44,12 @@ TEST_F(FormsByName, ADialogIsMadeAtItsFirstUseAndDroppedByName) {
     forms::Form& first = session.form("fmFirst");
     EXPECT_EQ(&session.form<Probe>("fmfirst"), &first);
     session.dropForm("fmFirst");
-    EXPECT_FALSE(session.hasForm("fmFirst"));
     session.form("fmFirst");
     EXPECT_EQ(story, (std::vector<std::string>{"fmFirst", "fmSecond", "~fmFirst", "fmFirst"}));
 
     add("fmBad", "fmNone");
-    EXPECT_EQ(fakes::errorOf([&] { session.form("fmBad"); }), basic::kObjectNotSet);
-    EXPECT_FALSE(session.hasForm("fmBad"));
+    for (int time = 1; time <= 2; ++time)  // nothing half made stays
+        EXPECT_EQ(fakes::errorOf([&] { session.form("fmBad"); }), basic::kObjectNotSet);
 }
 
 }  // namespace

@@ -133,8 +133,6 @@ TEST(MeasureTest, Hatches) {
 TEST(MeasureTest, WhatHasNone) {
     EXPECT_EQ(errorOf([&] { measured(Measure::Perimeter, kSquare); }), basic::kNoSuchMember);
     EXPECT_EQ(errorOf([&] { measured(Measure::Perimeter, "REGION 8 0"); }), kNotApplicable);
-    EXPECT_EQ(measureByName("length"), Measure::Length);
-    EXPECT_EQ(measureByName("ArcLength"), std::nullopt);
     const auto drawing = PlainDrawing().entity(kCircle).make();
     const EntityId id = modelEntities(*drawing).at(0);
     drawing->erase(id);
