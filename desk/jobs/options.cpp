@@ -207,7 +207,8 @@ Arguments parseArguments(Verb verb, const std::vector<std::string>& words) {
             value = words[++i];
         }
         if (!isSwitch && !allowed(option, value))
-            throw UsageError(name + " takes " + option.value + ", not " + value);
+            throw UsageError(
+                std::string(name).append(" takes ").append(option.value).append(", not ").append(value));
         std::vector<std::string>& values = arguments.options[option.name];
         if (!values.empty() && !option.repeated && !isSwitch) throw UsageError(name + " is given twice");
         values.push_back(value);

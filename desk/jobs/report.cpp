@@ -107,7 +107,7 @@ void Report::add(const Result& result) {
     if (result.state != State::Failed) {
         for (const auto& [name, number] : result.counts) {
             const auto total = std::find_if(totals_.begin(), totals_.end(),
-                                            [&](const auto& entry) { return entry.first == name; });
+                                            [&key = name](const auto& entry) { return entry.first == key; });
             if (total == totals_.end()) {
                 totals_.emplace_back(name, number);
             } else {

@@ -18,7 +18,7 @@ constexpr std::string_view kTitle = "Données du bloc ";
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string encoded(std::string text, Encoding encoding) {
+std::string encoded(const std::string& text, Encoding encoding) {
     return encoding == Encoding::Utf8 ? text : basic::toCodePage(text);
 }
 

@@ -125,7 +125,7 @@ void ListBuilder::addPlacement(EntityId id, const Styles::EntityStyle& style, Di
     auto placed = shapes::readPlaced(drawing_, id);
     if (!placed) return;
     item.placement = sizeOf(list.placements);
-    list.placements.push_back({std::move(*placed), style.pen, style.layer});
+    list.placements.push_back({*placed, style.pen, style.layer});
 }
 
 Shown ListBuilder::add(EntityId id, bool inBlock, DisplayList& list) {

@@ -86,6 +86,7 @@ std::vector<fs::path> Autosave::leftBehind(const fs::path& folder, const std::st
     }
     std::sort(found.rbegin(), found.rend());
     std::vector<fs::path> copies;
+    copies.reserve(found.size());
     for (auto& [time, copy] : found) copies.push_back(std::move(copy));
     return copies;
 }
