@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs the unit tests and a share of the transcripts under the address and undefined-behaviour sanitizers; without the window,
-# whose toolkit costs a build of its own and leaks by design.
+# whose toolkit would make the build twice as long.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
