@@ -112,7 +112,7 @@ bool isCsv(std::string_view path) {
 }
 
 std::string toTabText(const Table& table, Encoding encoding) {
-    std::string text = std::string(kTitle) + "\t" + table.block + std::string(kLineEnd);
+    std::string text = std::string(kTitle).append("\t").append(table.block).append(kLineEnd);
     const auto addLine = [&](const std::vector<std::string>& cells) {
         for (std::size_t i = 0; i < cells.size(); ++i) {
             if (i > 0) text += '\t';

@@ -54,6 +54,7 @@ class JobView : public QObject {
     void showNow();
     void showReplacement(forms::Form& form);
     void showExtraction(forms::Form& form);
+    void showInsertion(forms::Form& form);
     void choosePrefilled();
     void noteRun(forms::Form& form, const std::string& report);
     void nameStep(const QString& name, const QString& block);

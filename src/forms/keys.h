@@ -11,6 +11,5 @@ enum class Key { F1, Up, Down, PageUp, PageDown, Home, End, Tab, ShiftTab, Space
 
 /// The key of a name such as "F1", "DOWN" or "SHIFT+TAB", without regard to case.
 std::optional<Key> keyFromName(std::string_view name);
-const char* keyName(Key key);
 
 }  // namespace forms
