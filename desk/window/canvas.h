@@ -112,7 +112,6 @@ class Canvas : public QWidget {
     std::size_t notDrawn() const;  ///< entities of the space that no picture shows
     std::size_t hidden() const;    ///< invisible, frozen, off
 
-  public slots:
     void zoomAll();
     void zoomWindow();  ///< asks for two corners first
     void zoomPrevious();

@@ -122,7 +122,7 @@ std::optional<int> chooseColor(QWidget* parent, int current, bool byLayer, Schem
     buttons->addStretch(1);
     const auto add = [&](const QString& caption, std::function<void()> act) {
         auto* button = new QPushButton(caption);
-        QObject::connect(button, &QPushButton::clicked, &dialog, act);
+        QObject::connect(button, &QPushButton::clicked, &dialog, std::move(act));
         buttons->addWidget(button);
         return button;
     };
