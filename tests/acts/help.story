@@ -291,6 +291,8 @@ Before you start
     instance, gives nothing in these modes: only prefix and suffix remain. An
     arc has an area, a text has none. An object that has two of these measures
     gives their sum.
+  - A region has its perimeter and area in AutoCAD only: its shape stands in
+    data of AutoCAD's modeller. Without AutoCAD it gives nothing.
   - Going to a row with Incrément Auto puts its counter back to the initial
     value.
 
@@ -1278,6 +1280,9 @@ Avant de commencer
     arc par exemple, ne donne rien pour ces modes : il ne reste que le préfixe
     et le suffixe. Un arc a une aire, un texte non. Un objet qui a deux de ces
     mesures donne leur somme.
+  - Une région n'a son périmètre et son aire que dans AutoCAD : sa forme se
+    trouve dans les données du modeleur d'AutoCAD. Sans AutoCAD elle ne donne
+    rien.
   - Passer à une ligne réglée sur Incrément Auto remet son compteur à la
     valeur initiale.
 
