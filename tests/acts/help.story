@@ -799,7 +799,7 @@ Command: VNABOUT
   Label2: Copyright © 2026 Merovane
   BtnWeb: [Website]
   Label3: https://www.merovane.example
-  Text1: "Vorlane gère les références de bloc d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
+  Text1: "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
   Combo1: "English"
     > 0 English
       1 Français
@@ -1280,7 +1280,7 @@ Avant de commencer
     arc par exemple, ne donne rien pour ces modes : il ne reste que le préfixe
     et le suffixe. Un arc a une aire, un texte non. Un objet qui a deux de ces
     mesures donne leur somme.
-  - Une région n'a son périmètre et son aire que dans AutoCAD : sa forme se
+  - Une région n'a son périmètre et son aire que dans AutoCAD : sa forme se
     trouve dans les données du modeleur d'AutoCAD. Sans AutoCAD elle ne donne
     rien.
   - Passer à une ligne réglée sur Incrément Auto remet son compteur à la
@@ -1798,7 +1798,7 @@ Command: VNABOUT
   Label2: Copyright © 2026 Merovane
   BtnWeb: [Go Web]
   Label3: https://www.merovane.example
-  Text1: "Vorlane gère les références de bloc d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
+  Text1: "Vorlane gère les références de blocs d'un dessin : remplacement, étiquetage, extraction et réinsertion.\nLogiciel libre sous licence MIT, livré sans aucune garantie.\n\nVorlane manages the block references of a drawing: replacement, labelling, extraction and re-insertion.\nFree software under the MIT licence, without any warranty."
   Combo1: "Français"
       0 English
     > 1 Français
