@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Runs the examples of README, docs and help, so that a sentence that isn't true fails.
+"""Runs the examples of README, docs and help, so that a sentence that isn't true fails, and looks for dead links.
 
     check_prose.py VORLANE [FILE ...]     without files: README*.md, docs/*.md and the help
 
@@ -82,11 +82,17 @@ def example_faults(run, options, script):
         at = found + 1
 
 
+def dead_links(path, text):
+    for link in re.findall(r"\]\(([^)#]+)[^)]*\)", text) if path.suffix == ".md" else []:
+        if "://" not in link and not (path.parent / link).exists():
+            yield f"{path.name}: dead link {link}"
+
+
 def faults(vorlane, path):
     """How often the examples of a file were run, and what is false."""
     text = path.read_text(encoding="utf-8")
     language = "fr" if path.name.endswith(".fr.md") or path.parent.name == "fr" else "en"
-    count, found = 0, []
+    count, found = 0, list(dead_links(path, text))
     for pattern, check in ((RECIPE, recipe_faults), (EXAMPLE, example_faults)):
         for match in pattern.finditer(text):
             if "vorlane picture" in match[0] and not (vorlane.parent / "vorlane-picture").exists():

@@ -73,7 +73,8 @@ Before you start
     over.
   - Layer, colour and linetype are not taken over: the new reference is on the
     current layer, in model space, even if the old one was in a layout. Make
-    the layer you want the current one first.
+    the layer you want the current one first; on Linux (setvar "VNKEEP"
+    "layer,colour,linetype") has all three taken over.
   - An empty source value erases the default value of the attribute that it is
     copied to.
   - The rotation is in radians: for a quarter turn type 1.5708, not 90.
@@ -1057,7 +1058,8 @@ Avant de commencer
   - Le calque, la couleur et le type de ligne ne sont pas repris : la nouvelle
     référence est sur le calque courant, dans l'espace objet, même si
     l'ancienne était dans une présentation. Rendez d'abord courant le calque
-    voulu.
+    voulu ; sous Linux, (setvar "VNKEEP" "layer,colour,linetype") fait
+    reprendre les trois.
   - Une valeur source vide efface la valeur par défaut de l'attribut où elle
     est reportée.
   - La rotation est en radians : pour un quart de tour tapez 1,5708, non 90.
