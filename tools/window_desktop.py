@@ -82,6 +82,8 @@ class Desktop:
         self.processes = []
 
     def __enter__(self):
+        # Whoever ends this program ends the desktop with it.
+        signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
         runtime = self.folder / "runtime"
         runtime.mkdir(mode=0o700)
         (self.folder / "home/.config/fontconfig").mkdir(parents=True)

@@ -58,6 +58,11 @@ void Canvas::setWeights(bool on) { state_->setWeights(on); }
 bool Canvas::snap() const { return state_->snapOn; }
 bool Canvas::ortho() const { return state_->orthoOn; }
 
+void Canvas::setFullCross(bool on) {
+    state_->fullCross = on;
+    update();
+}
+
 void Canvas::setSnap(bool on) {
     if (state_->snapOn == on) return;
     state_->snapOn = on;

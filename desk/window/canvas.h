@@ -72,6 +72,8 @@ class Canvas : public QWidget {
     void setScheme(Scheme scheme);
     void setTrueColors(bool on);
     void setWeights(bool on);
+    /// Cross hairs as large as the canvas.
+    void setFullCross(bool on);
     void setSnap(bool on);
     void setOrtho(bool on);
     bool snap() const;

@@ -254,7 +254,9 @@ void CanvasState::paintCross(QPainter& painter) {
         painter.drawLine(at - QPointF(8, 0), at + QPointF(8, 0));
         painter.drawLine(at - QPointF(0, 8), at + QPointF(0, 8));
     } else {
-        const double arm = picksEntity ? kCrossHair / 2 : kCrossHair;
+        const double arm = fullCross     ? canvas.width() + canvas.height()
+                           : picksEntity ? kCrossHair / 2
+                                         : kCrossHair;
         // The cross leaves a hanging label's box, and a pick box, free.
         double free = asksPoint ? 0 : kPickBox / 2;
         if (prompt.hanging != drawing::kNoBlock && asksPoint) {

@@ -82,6 +82,7 @@ class CanvasState {
     picture::Counts counts;
     Scheme scheme = Scheme::Dark;
     bool trueColors = false;
+    bool fullCross = false;
     bool snapOn = true;
     bool orthoOn = false;
     bool picking = true;

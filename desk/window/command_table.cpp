@@ -38,6 +38,8 @@ constexpr Command kCommands[] = {
      "BACKGROUND", false, kAlive},
     {"trueColors", Menu::View, QT_TRANSLATE_NOOP("window", "&True colours"), "", "", "TRUECOLOURS", false,
      kAlive, kCheckable},
+    {"fullCross", Menu::View, QT_TRANSLATE_NOOP("window", "&Full-size cross hairs"), "", "", "CROSSHAIRS",
+     false, kAlive, kCheckable},
     {"weights", Menu::View, QT_TRANSLATE_NOOP("window", "Line&weights"), "", "", "LWDISPLAY", kGroupEnds,
      kAlive, kCheckable},
     {"properties", Menu::View, QT_TRANSLATE_NOOP("window", "P&roperties"), "Ctrl+1", "", "PROPERTIES", false,

@@ -359,6 +359,18 @@ void JobView::prepare(CanvasPrompt& prompt) {
     if (labels == nullptr || !prompt.text.contains(kInsertionPrompt)) return;
     nameStep(tr("Labels of %1"), chosenText(labels, "Combo2"));
     prompt.hanging = blocks.find(chosenText(labels, "Combo2").toStdString());
+    if (forms::Form* settings = watch_.find("fmParamIns")) {
+        const auto number = [&](const char* name, double otherwise) {
+            const auto* field = find<forms::TextBox>(settings, name);
+            try {
+                return field == nullptr ? otherwise : basic::toDouble(field->text(), regional_);
+            } catch (const basic::Error&) {
+                return otherwise;
+            }
+        };
+        prompt.hangingScale = {number("Text1", 1), number("Text2", 1), number("Text3", 1)};
+        if (!isOn(settings, "CheckBox1")) prompt.hangingRotation = number("Text4", 0) * geometry::kPi / 180;
+    }
     auto* rows = find<forms::ListView>(labels, "ListView1");
     for (int row = 1; rows != nullptr && row <= rows->listItems().count(); ++row) {
         const forms::ListItem& item = rows->listItems().item(row);

@@ -234,6 +234,7 @@ void MainWindow::connectParts() {
     switched("snap", [this](bool on) { canvas_->setSnap(on); });
     switched("ortho", [this](bool on) { canvas_->setOrtho(on); });
     switched("weights", [this](bool on) { canvas_->setWeights(on); });
+    switched("fullCross", [this](bool on) { canvas_->setFullCross(on); });
     switched("trueColors", [this](bool on) { canvas_->setTrueColors(on); });
     switched("history", [this](bool on) {
         commandLine_->setHistoryLines(on ? qMax(8, height() * 2 / 5 / 18) : 3);

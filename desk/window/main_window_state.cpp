@@ -118,6 +118,7 @@ void MainWindow::restoreState() {
     restore("ortho", false);
     restore("weights", false);
     restore("trueColors", false);
+    restore("fullCross", false);
     restore("properties", true);
     restore("blocks", true);
     restore("commandLine", true);
@@ -133,7 +134,8 @@ void MainWindow::keepState() {
     settings_.setValue("parts", parts_->saveState());
     settings_.setValue("leftDock", left_->saveState());
     settings_.setValue("hidesDimensions", blocks_->hidesDimensions());
-    for (const char* id : {"snap", "ortho", "weights", "trueColors", "properties", "blocks", "commandLine"}) {
+    for (const char* id :
+         {"snap", "ortho", "weights", "trueColors", "fullCross", "properties", "blocks", "commandLine"}) {
         settings_.setValue(id, actions_[id]->isChecked());
     }
 }

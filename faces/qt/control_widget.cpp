@@ -4,6 +4,7 @@
 #include "faces/qt/qt_text.h"
 #include "forms/controls.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QFrame>
 #include <QGroupBox>
@@ -149,7 +150,10 @@ class ButtonWidget : public ControlWidget {
         if (control_.kind() == Kind::CheckBox) return new QCheckBox(parent);
         if (control_.kind() == Kind::OptionButton) {
             auto* option = new QRadioButton(parent);
-            option->setAutoExclusive(false);
+            // In a group of its own the model alone unchecks it, and screen readers still call it an option.
+            auto* alone = new QButtonGroup(option);
+            alone->setExclusive(false);
+            alone->addButton(option);
             return option;
         }
         auto* button = new QPushButton(parent);
