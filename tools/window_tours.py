@@ -4,7 +4,7 @@ dialog.
 
     window_tours.py [--out FOLDER] [--language en|fr] [--scheme dark|light] [--scale 1|2] [--drawing FILE] [JOB ...]
 
-JOBs are replace, label, extract, insert, about; all without one. Without --language and the like each combination is
+JOBs are replace, label, extract, insert, about, help; all without one. Without --language and the like each combination is
 gone through. FILE is the sample drawing if none is given; of another drawing blocks and places are found by themselves.
 Exit 1 where the window isn't as expected."""
 
@@ -365,6 +365,24 @@ class Tour:
         w.key("ctrl+z")
         return f"{rows - 2} of {rows} inserted, 2 failed rows shown, undone"
 
+    def help(self):
+        """F1 in a dialog; the help's window stays up beside it."""
+        w = self.w
+        self.tool("Replace")
+        w.dialog(w.captions["012_me"])
+        w.key("F1")
+        page = w.dialog(w.text("Help"))
+        self.shoot("help")
+        w.click(w.find(w.text("Search the help"), "text", page))
+        w.type("VNLABEL")
+        contents = w.find(w.text("Contents"), "list", page)
+        w.until(lambda: 0 < contents.get_child_count() < 6, "the search narrows the contents")
+        w.key("Escape")
+        self.leave_boxes("012_me")
+        w.press("012_32")
+        w.no_dialog()
+        return "F1 shows the page of the dialog, the search narrows the contents"
+
     def about(self):
         w = self.w
         w.click(w.find(w.text("About and language"), "push button"))
@@ -375,7 +393,7 @@ class Tour:
         return "seen"
 
 
-JOBS = ("replace", "label", "extract", "insert", "about")
+JOBS = ("replace", "label", "extract", "insert", "about", "help")
 
 
 def play(options, language, scheme, scale):

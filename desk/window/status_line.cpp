@@ -12,6 +12,13 @@
 
 namespace window {
 
+namespace {
+
+/// Beyond this the tabs scroll where the result needs the room.
+constexpr int kRoomOfTabs = 280;
+
+}  // namespace
+
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent),
       tabs_(new QTabBar(this)),
@@ -33,6 +40,7 @@ StatusLine::StatusLine(QWidget* parent)
     tabs_->setFocusPolicy(Qt::TabFocus);
     result_->setTextFormat(Qt::PlainText);
     result_->setObjectName("resultText");
+    result_->setMinimumWidth(40);  // where room is short, it is the text that is cut
     counts_->setObjectName("secondText");
     counts_->setTextFormat(Qt::RichText);
     cursor_->setFont(fixedFont(font()));
@@ -60,6 +68,7 @@ StatusLine::StatusLine(QWidget* parent)
     row->addSpacing(8);
     row->addLayout(linkRow_);
     row->addWidget(cancel_);
+    row->addSpacing(12);
     row->addStretch(1);
     row->addWidget(counts_);
     row->addSpacing(12);
@@ -90,6 +99,7 @@ void StatusLine::setTabs(const QStringList& names, int current) {
     while (tabs_->count() > 0) tabs_->removeTab(0);
     for (const QString& name : names) tabs_->addTab(QString(name).replace("&", "&&"));
     tabs_->setCurrentIndex(current);
+    tabs_->setMinimumWidth(qMin(tabs_->sizeHint().width(), kRoomOfTabs));
 }
 
 void StatusLine::showResult(const QString& text, Tone tone, const QStringList& links) {
