@@ -15,7 +15,7 @@ import sys
 import time
 import traceback
 
-from window_desktop import Desktop, Failure, ROOT, Window
+from window_desktop import Desktop, Failure, ROOT, Window, x
 
 SAMPLE = ROOT / "samples/apartment.dxf"
 BIG = ROOT / "build/test/make-big-drawing"
@@ -61,7 +61,7 @@ class Case:
 
     def save(self):
         """Kills while a save goes on."""
-        subprocess.run([BIG, "6400", self.drawing], check=True)
+        subprocess.run([BIG, "25600", self.drawing], check=True)
         old = self.drawing.read_bytes()
         window = self.open()
         self.edit()
@@ -75,8 +75,8 @@ class Case:
             self.drawing.write_bytes(old)
             window = self.open()
             self.edit()
-            window.key("ctrl+s")
-            time.sleep(random.uniform(0, 0.25))
+            x("key", "ctrl+s")
+            time.sleep(random.uniform(0, 0.12))
             window.close()
             expect(self.drawing.read_bytes() in states, "the drawing is neither of its two states")
             left = list(self.folder.glob(".vorlane-*"))
