@@ -104,7 +104,9 @@ model::SelectionPick CanvasPrompter::selectEntities(const drawing::Drawing& draw
                                                     const std::string& prompt) {
     prompt_ = {};
     prompt_.asking = Asking::Selection;
-    prompt_.text = prompt.empty() ? tr("Select objects:") : QString::fromStdString(prompt);
+    // The host's own words, in the window's language.
+    prompt_.text = prompt.empty() || prompt.starts_with("Select objects:") ? tr("Select objects:")
+                                                                           : QString::fromStdString(prompt);
     drawing_ = &drawing;
     removing_ = false;
     canvas_.setSelection({});
