@@ -43,6 +43,11 @@ qt_face::QtHooks hooks(QWidget& owner) {
     hooks.place = [&owner](const forms::Form&, QSize size) -> std::optional<QPoint> {
         return owner.mapToGlobal(QPoint(14, qMax(40, owner.height() - kBelowDialog - size.height())));
     };
+    // Blocks come from drawings in DXF too.
+    hooks.patterns = [](QStringList patterns) {
+        if (patterns.contains("*.dwg", Qt::CaseInsensitive)) patterns.prepend("*.dxf");
+        return patterns;
+    };
     hooks.rowFault = [&owner](const forms::Control& table, int row) {
         return static_cast<window::MainWindow&>(owner).faultOf(table, row);
     };

@@ -60,10 +60,12 @@ QMessageBox::Icon iconOf(MessageDialog::Icon icon) {
 }
 
 /// "Drawings (*.dxf *.DXF)": the toolkit's own dialog tells capitals apart, drafters' file names don't.
-QString filterOf(const forms::FileDialog::FilterEntry& entry) {
+QString filterOf(const forms::FileDialog::FilterEntry& entry, const QtHooks& hooks) {
+    QStringList wanted;
+    for (const std::string& pattern : entry.patterns) wanted << toQt(pattern).trimmed();
+    if (hooks.patterns) wanted = hooks.patterns(wanted);
     QStringList patterns;
-    for (const std::string& pattern : entry.patterns) {
-        const QString text = toQt(pattern).trimmed();
+    for (const QString& text : wanted) {
         for (const QString& form : {text == "*.*" ? QString("*") : text, text.toUpper(), text.toLower()})
             if (!patterns.contains(form) && !(text == "*.*" && form == text)) patterns << form;
     }
@@ -237,7 +239,7 @@ std::optional<std::string> QtScreen::fileDialog(const forms::FileDialog& dialog,
     drawn.setAcceptMode(isOpen ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     drawn.setFileMode(isOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     QStringList filters;
-    for (const auto& entry : dialog.filterEntries()) filters << filterOf(entry);
+    for (const auto& entry : dialog.filterEntries()) filters << filterOf(entry, hooks_);
     if (!filters.isEmpty()) drawn.setNameFilters(filters);
     if (!dialog.initDir().empty()) drawn.setDirectory(toQt(dialog.initDir()));
     if (!isOpen && !dialog.filterEntries().empty()) {

@@ -34,6 +34,9 @@ struct QtHooks {
     /// Where a dialog of that size opens when it has no place of its own yet; else over the middle of the
     /// parent.
     std::function<std::optional<QPoint>(const forms::Form&, QSize)> place;
+    /// The patterns ("*.dwg") that a file dialog offers in the place of a form's own: a program may read
+    /// more.
+    std::function<QStringList(QStringList patterns)> patterns;
     /// Why a row of a table, from 1, stands out as failed; empty for one that doesn't. Asked when a row is
     /// drawn; after a message box all rows are.
     std::function<QString(const forms::Control& table, int row)> rowFault;
