@@ -345,6 +345,10 @@ class Window:
         ox, sx, oy, sy = self.map
         return ox + px * sx, oy + py * sy
 
+    def within_canvas(self, place):
+        left, top, width, height = self.box(self.canvas)
+        return min(max(place[0], left + 8), left + width - 8), min(max(place[1], top + 8), top + height - 8)
+
     def pick(self, px, py, button=1):
         self.click_at(self.at(px, py), button)
 

@@ -61,7 +61,7 @@ class Plan:
         """A rectangle about all references."""
         points = [entity.dxf.insert for entity in self.references[block]]
         xs, ys = [p.x for p in points], [p.y for p in points]
-        margin = 0.06 * max(max(xs) - min(xs), max(ys) - min(ys), 1)
+        margin = 0.14 * max(max(xs) - min(xs), max(ys) - min(ys), 1)
         return min(xs) - margin, min(ys) - margin, max(xs) + margin, max(ys) + margin
 
 
@@ -159,12 +159,12 @@ class Tour:
         w.prompt(w.text("Select objects:")[:8])
         w.no_dialog()
         low_x, low_y, high_x, high_y = plan.reach(plan.old)
-        w.click_at(w.at(high_x, low_y))
+        w.click_at(w.within_canvas(w.at(high_x, low_y)))
         w.point_to((low_x + high_x) / 2, high_y)
         time.sleep(0.3)
         self.w.shoot(self.out / "replace-crossing.png")
         self.pictures += 1
-        w.click_at(w.at(low_x, high_y))
+        w.click_at(w.within_canvas(w.at(low_x, high_y)))
         w.key("Return")
         w.dialog(w.captions["012_me"])
         w.click(w.find(w.captions["012_25"], within=w.dialog()))
