@@ -1,14 +1,19 @@
 // The canvas on 100,000 entities and 30,000 references: from opening to the first picture, and what a hand
 // waits for afterwards. Each figure is processor time of the one thread that does it.
 
+#include "bench/hostile.h"
 #include "bench/plan.h"
+#include "desk/picture/picture.h"
 #include "desk/window/canvas.h"
 #include "tests/fakes/temp_folder.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <ctime>
 #include <memory>
 
 namespace {
@@ -139,5 +144,66 @@ void followAnEdit(benchmark::State& state) {
     }
 }
 BENCHMARK(followAnEdit)->Unit(benchmark::kMillisecond);
+
+double cpuMilliseconds() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+/// Drawings that ask for more than a screen can show: how long the window doesn't answer at worst (longest,
+/// ms) while it draws them, zooms and follows the mouse. They were read and prepared aside.
+void hostileDrawing(benchmark::State& state) {
+    application();
+    const auto kind = static_cast<bench::Hostile>(state.range(0));
+    const fakes::TempFolder folder;
+    const auto drawing = drawing::Drawing::open(folder.write("hostile.dxf", bench::hostile(kind)));
+    double longest = 0;
+    double hover = 0;
+    double hoverAtFirst = 0;
+    for (auto _ : state) {
+        picture::prepare(*drawing);
+        window::Canvas canvas;
+        canvas.resize(1600, 1000);
+        canvas.show();
+        const auto timed = [&](double& worst, auto&& act) {
+            const double begin = cpuMilliseconds();
+            act();
+            worst = std::max(worst, cpuMilliseconds() - begin);
+        };
+        const auto settle = [&](int milliseconds) {
+            QElapsedTimer timer;
+            timer.start();
+            while (timer.elapsed() < milliseconds) timed(longest, [] { QCoreApplication::processEvents(); });
+        };
+        timed(longest, [&] { canvas.setDrawing(drawing.get()); });
+        settle(2000);
+        for (int step = 0; step < 4; ++step) {
+            QWheelEvent wheel({800, 500}, {800, 500}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            timed(longest, [&] { QApplication::sendEvent(&canvas, &wheel); });
+            settle(400);
+        }
+        window::CanvasPrompt prompt;
+        prompt.asking = window::Asking::Entity;
+        canvas.ask(prompt);
+        for (int step = 0; step < 20; ++step) {
+            const QPointF place(300 + step * 50, 500);
+            QMouseEvent move(QEvent::MouseMove, place, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+            timed(step == 0 ? hoverAtFirst : hover, [&] {
+                QApplication::sendEvent(&canvas, &move);
+                canvas.repaint();
+            });
+        }
+    }
+    state.SetLabel(bench::hostileName(kind));
+    state.counters["longest"] = longest;
+    state.counters["hoverAtFirst"] = hoverAtFirst;
+    state.counters["hover"] = hover;
+}
+BENCHMARK(hostileDrawing)
+    ->DenseRange(0, static_cast<int>(bench::Hostile::kCount) - 1)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

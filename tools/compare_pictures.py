@@ -216,6 +216,13 @@ def librecad_strokes(drawing, folder):
     for layout in document.layouts:
         if layout.name != "Model":
             layout.delete_all_entities()
+    # Texts don't count, and those that it turns or blows up would change what it fits to the page.
+    for holder in document.blocks:
+        for entity in list(holder):
+            if entity.dxftype() in ("TEXT", "MTEXT", "ATTDEF"):
+                holder.delete_entity(entity)
+            elif entity.dxftype() == "INSERT":
+                entity.attribs.clear()
     document.saveas(copy)
     environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
     subprocess.run(["librecad", "dxf2pdf", "-a", copy], env=environment,
@@ -227,6 +234,40 @@ def box(strokes):
     xs = [x for points in strokes for x, _ in points]
     ys = [y for points in strokes for _, y in points]
     return min(xs), min(ys), max(xs), max(ys)
+
+
+def coarse_starts(flipped, reference, size):
+    """Scales and offsets at which both pictures, a few hundred pixels across, cover each other best: what one of
+    them lacks or has beyond the other then doesn't matter, as it does for the boxes about them."""
+    import numpy
+
+    cells = 512
+    shrink = cells / max(size) / 2
+
+    def raster(points):
+        grid = numpy.zeros((cells, cells))
+        for x, y in points:
+            if 0 <= x < cells and 0 <= y < cells:
+                grid[int(y), int(x)] = 1
+        return grid
+
+    own = raster((x * shrink, y * shrink) for x, y in places(reference, 1 / shrink))
+    transformed = numpy.conj(numpy.fft.rfft2(own))
+    sample = list(places(flipped, max(max(x for p in flipped for x, _ in p), max(y for p in flipped for _, y in p)) / 800))
+    left, low, right, high = box(reference)
+    base = max(right - left, high - low) / max(max(x for x, _ in sample), max(y for _, y in sample), 1e-9)
+    found = []
+    for k in range(-40, 41):
+        scale = base * 1.04**k
+        grid = raster((x * scale * shrink, y * scale * shrink) for x, y in sample)
+        if grid.sum() < 20:
+            continue
+        match = numpy.fft.irfft2(numpy.conj(numpy.fft.rfft2(grid) * transformed), s=grid.shape)
+        at = int(match.argmax())
+        dy, dx = divmod(at, cells)
+        dx, dy = (v - cells if v > cells / 2 else v for v in (dx, dy))
+        found.append((float(match.max() / math.sqrt(grid.sum() * own.sum())), scale, dx / shrink, dy / shrink))
+    return sorted(found, reverse=True)[:4]
 
 
 def aligned(strokes, near, reference, size):
@@ -244,7 +285,15 @@ def aligned(strokes, near, reference, size):
     base = (want[2] - want[0]) / max(right - left, 1e-9)
     for start in (base, (want[3] - want[1]) / max(high - low, 1e-9)):
         best = max(best, (hits(start, want[0], want[1]), start, want[0], want[1]))
-    spread, shift = 0.06, 40.0
+    if best[0] < 0.9 * len(sample):
+        best = max([best] + [fitted(hits, size, (hits(*start[1:]), *start[1:]), 0.04, 12.0)
+                             for start in coarse_starts(flipped, reference, size)])
+    _, scale, dx, dy = fitted(hits, size, best, 0.06, 40.0)
+    return [[(x * scale + dx, y * scale + dy) for x, y in points] for points in flipped]
+
+
+def fitted(hits, size, best, spread, shift):
+    """Looks about a scale and offset for better ones."""
     for _ in range(9):
         _, scale, dx, dy = best
         for k in (-1, -0.5, 0, 0.5, 1):
@@ -257,8 +306,7 @@ def aligned(strokes, near, reference, size):
                     best = max(best, (hits(s, x, y), s, x, y))
         spread *= 0.55
         shift *= 0.55
-    _, scale, dx, dy = best
-    return [[(x * scale + dx, y * scale + dy) for x, y in points] for points in flipped]
+    return best
 
 
 def window_of(drawing):

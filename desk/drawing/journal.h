@@ -22,7 +22,7 @@ struct Changes {
 class Journal {
   public:
     /// The place behind the last change.
-    std::uint64_t end() const { return dropped_ + touched_.size(); }
+    std::uint64_t end() const { return seen_ = count(); }
     void note(EntityId id);
     /// Those touched since a place; nothing where the journal no longer reaches back to it.
     const EntityId* since(std::uint64_t place) const {
@@ -31,12 +31,16 @@ class Journal {
 
   private:
     static constexpr std::size_t kMost = 1'000'000;
+    std::uint64_t count() const { return dropped_ + touched_.size(); }
+
     std::vector<EntityId> touched_;
     std::uint64_t dropped_ = 0;
+    mutable std::uint64_t seen_ = 0;  ///< up to where somebody has looked
 };
 
 inline void Journal::note(EntityId id) {
-    if (!touched_.empty() && touched_.back() == id) return;
+    // Once is enough until somebody has looked.
+    if (!touched_.empty() && touched_.back() == id && seen_ != count()) return;
     if (touched_.size() == kMost) {
         dropped_ += touched_.size();
         touched_.clear();

@@ -66,21 +66,19 @@ void QtCanvas::thinLine(const Point2& from, const Point2& to) {
         }
     }
     lines_.append({a, b});
+    // No more at once than a portion of a picture has time for.
+    constexpr qsizetype kMostKept = 1024;
+    if (lines_.size() >= kMostKept) flush();
 }
 
 void QtCanvas::polyline(std::span<const Point2> points) {
     if (points.size() < 2) return;
+    const bool isDot = points.size() == 2 && std::abs(points[1].x - points[0].x) < 0.5 &&
+                       std::abs(points[1].y - points[0].y) < 0.5;
+    if (isDot) return dot(points[0]);
     const bool isPlain = isThin_ && style_.solid && !style_.dashed;
     if (isPlain && (style_.cosmetic || points.size() == 2)) {
-        for (std::size_t i = 1; i < points.size(); ++i) {
-            const bool isDot = std::abs(points[i].x - points[i - 1].x) < 0.5 &&
-                               std::abs(points[i].y - points[i - 1].y) < 0.5 && points.size() == 2;
-            if (isDot) {
-                dot(points[i]);
-            } else {
-                thinLine(points[i - 1], points[i]);
-            }
-        }
+        for (std::size_t i = 1; i < points.size(); ++i) thinLine(points[i - 1], points[i]);
         return;
     }
     const Point2& first = points.front();

@@ -15,8 +15,8 @@ namespace picture {
 struct Ink {
     Color color;
     double width = 0;     ///< of strokes in device units; 0 is a hairline of one pixel
-    double opacity = 1;   ///< of fills: below 1 they stand for something finer
-    bool isBand = false;  ///< a wide polyline: flat ends and sharp corners instead of round ones
+    double opacity = 1;   ///< below 1 what lies below shows through
+    bool isBand = false;  ///< a wide polyline or a dash: flat ends and sharp corners instead of round ones
 
     friend bool operator==(const Ink&, const Ink&) = default;
 };

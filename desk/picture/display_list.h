@@ -23,7 +23,8 @@ struct Stroke {
     std::uint32_t count = 0;
     PenId pen = 0;
     Kind kind = Kind::Polyline;
-    float startWidth = 0;  ///< drawing units; 0 is thin
+    bool dashesEach = false;  ///< its linetype begins anew at each point
+    float startWidth = 0;     ///< drawing units; 0 is thin
     float endWidth = 0;
 };
 

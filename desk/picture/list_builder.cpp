@@ -5,6 +5,7 @@
 #include "desk/picture/strokes.h"
 #include "desk/picture/viewports.h"
 #include "desk/shapes/read_extras.h"
+#include "desk/shapes/read_polyline.h"
 #include "desk/shapes/read_text.h"
 
 #include <numeric>
@@ -69,10 +70,10 @@ std::size_t Counts::notDrawnTotal() const {
                            [](std::size_t sum, const auto& entry) { return sum + entry.second; });
 }
 
-PenId ListBuilder::penOfPiece(PenId pen, const shapes::TextPiece& piece) {
-    if (!piece.color) return pen;
+PenId ListBuilder::penOf(PenId pen, const std::optional<std::int32_t>& color) {
+    if (!color) return pen;
     Pen own = pens_[pen];
-    const std::int32_t value = *piece.color;
+    const std::int32_t value = *color;
     const bool isNumber = (value & shapes::TextPiece::kPaletteBit) != 0;
     own.look.color = isNumber ? paletteColor(value & 0xFF) : trueColor(value);
     own.colorFrom = From::Own;
@@ -81,14 +82,14 @@ PenId ListBuilder::penOfPiece(PenId pen, const shapes::TextPiece& piece) {
 
 void ListBuilder::addTexts(std::vector<shapes::TextPiece> pieces, PenId pen, DisplayList& list) {
     for (shapes::TextPiece& piece : pieces) {
-        const PenId own = penOfPiece(pen, piece);
+        const PenId own = penOf(pen, piece.color);
         list.texts.push_back({std::move(piece), own});
     }
 }
 
 void ListBuilder::addGeometry(EntityId id, PenId pen, DisplayList& list) {
     const shapes::Geometry geometry = shapes::readGeometry(drawing_, id);
-    addStrokes(geometry.strokes, pen, list);
+    addStrokes(geometry.strokes, pen, !shapes::runsThroughVertices(drawing_, id), list);
     for (const geometry::Fill& fill : geometry.fills) addFill(fill.loops, pen, list);
     for (const shapes::EndlessLine& line : geometry.endless) {
         addStroke(geometry::LineCurve{line.base, line.direction}, pen, 0, 0, list);
@@ -97,9 +98,23 @@ void ListBuilder::addGeometry(EntityId id, PenId pen, DisplayList& list) {
     for (const Point3& point : geometry.points) list.marks.push_back({point, pen});
 }
 
+void ListBuilder::addTextGround(EntityId id, PenId pen, DisplayList& list) {
+    const std::optional<shapes::TextGround> ground = shapes::readMTextGround(drawing_.tags(id), textStyles_);
+    if (!ground) return;
+    if (ground->isFilled) {
+        addFill({ground->border}, penOf(pen, ground->color), list);
+        list.fills.back().covers = !ground->color;
+    }
+    if (!ground->isFramed) return;
+    std::vector<shapes::Stroke> frame;
+    for (const geometry::Curve& edge : ground->border) frame.push_back({edge});
+    addStrokes(frame, pen, false, list);
+}
+
 void ListBuilder::addOwn(EntityId id, PenId pen, bool inBlock, DisplayList& list) {
     const std::string_view type = drawing_.type(id);
     if (isText(type)) {
+        if (type == "MTEXT") addTextGround(id, pen, list);
         if (type != "ATTDEF" || !inBlock || drawing_.attribute(id).isConstant()) {
             addTexts(shapes::readTexts(drawing_, textStyles_, id, !inBlock), pen, list);
         }

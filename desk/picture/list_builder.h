@@ -50,7 +50,9 @@ class ListBuilder {
     void addPlacement(EntityId id, const Styles::EntityStyle& style, DisplayList& list, Item& item);
     void addGeometry(EntityId id, PenId pen, DisplayList& list);
     void addTexts(std::vector<shapes::TextPiece> pieces, PenId pen, DisplayList& list);
-    PenId penOfPiece(PenId pen, const shapes::TextPiece& piece);
+    void addTextGround(EntityId id, PenId pen, DisplayList& list);
+    /// The pen with the colour of a text, see shapes::TextPiece; without one the pen itself.
+    PenId penOf(PenId pen, const std::optional<std::int32_t>& color);
 
     const Drawing& drawing_;
     const Styles& styles_;

@@ -8,7 +8,8 @@ Look Context::resolve(const Pen& pen) const {
     const auto of = [&](From from) -> const Look& {
         return from == From::Own ? pen.look : from == From::Reference ? reference : referenceLayer;
     };
-    return {of(pen.colorFrom).color, of(pen.lineTypeFrom).lineType, of(pen.weightFrom).weight};
+    return {of(pen.colorFrom).color, of(pen.lineTypeFrom).lineType, of(pen.weightFrom).weight,
+            of(pen.opacityFrom).opacity};
 }
 
 std::size_t PenTable::Hash::operator()(const Pen& pen) const {
@@ -18,10 +19,10 @@ std::size_t PenTable::Hash::operator()(const Pen& pen) const {
     mix(static_cast<std::size_t>(color.red << 16 | color.green << 8 | color.blue |
                                  (color.isForeground ? 1 << 24 : 0)));
     mix(pen.look.lineType);
-    mix(static_cast<std::uint16_t>(pen.look.weight));
+    mix(static_cast<std::size_t>(static_cast<std::uint16_t>(pen.look.weight)) << 8 | pen.look.opacity);
     mix(std::bit_cast<std::uint32_t>(pen.lineTypeScale));
-    mix(static_cast<std::size_t>(pen.colorFrom) << 4 | static_cast<std::size_t>(pen.lineTypeFrom) << 2 |
-        static_cast<std::size_t>(pen.weightFrom));
+    mix(static_cast<std::size_t>(pen.opacityFrom) << 6 | static_cast<std::size_t>(pen.colorFrom) << 4 |
+        static_cast<std::size_t>(pen.lineTypeFrom) << 2 | static_cast<std::size_t>(pen.weightFrom));
     return hash;
 }
 

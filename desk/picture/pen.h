@@ -23,6 +23,7 @@ struct Look {
     Color color{255, 255, 255, true};
     LineTypes::Number lineType = 0;
     Weight weight = kDefaultWeight;
+    std::uint8_t opacity = 255;  ///< 0 shows nothing
 
     friend bool operator==(const Look&, const Look&) = default;
 };
@@ -34,6 +35,7 @@ struct Pen {
     From colorFrom = From::Own;
     From lineTypeFrom = From::Own;
     From weightFrom = From::Own;
+    From opacityFrom = From::Own;
 
     friend bool operator==(const Pen&, const Pen&) = default;
 };
@@ -41,7 +43,7 @@ using PenId = std::uint32_t;
 
 /// What a reference hands down to what its block holds.
 struct Context {
-    Look reference;       ///< its own colour, linetype and weight: for ByBlock
+    Look reference;       ///< its own colour, linetype, weight and opacity: for ByBlock
     Look referenceLayer;  ///< those of its layer: for ByLayer on layer 0
 
     /// The pen's look in a reference.

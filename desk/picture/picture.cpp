@@ -227,6 +227,17 @@ Counts Picture::counts(BlockId space) {
     return counts;
 }
 
+Picture& pictureOf(const Drawing& drawing) {
+    std::unique_ptr<drawing::Companion>& kept = shapes::sceneOf(drawing).above();
+    if (!kept) kept = std::make_unique<Picture>(drawing);
+    return static_cast<Picture&>(*kept);
+}
+
+void prepare(const Drawing& drawing) {
+    pictureOf(drawing).counts(drawing.modelSpace());
+    shapes::sceneOf(drawing).space(drawing.modelSpace());
+}
+
 Transform placedTransform(const Drawing& drawing, const shapes::Placed& placed, int column, int row) {
     return drawing::referenceTransform(placed.placement, drawing.blocks()[placed.block].basePoint, column,
                                        row);

@@ -21,7 +21,7 @@ struct PointStyle {
 
 /// A drawing prepared for drawing it: each block and space as a display list, made when it is first asked
 /// for. Layers, colours and linetypes are resolved in it once.
-class Picture {
+class Picture : public drawing::Companion {
   public:
     explicit Picture(const Drawing& drawing);
 
@@ -96,6 +96,12 @@ class Picture {
     std::uint64_t seen_ = 0;      ///< place in the drawing's journal
     std::uint64_t settings_ = 0;  ///< stamp of tables and variables
 };
+
+/// The picture that is kept with a drawing, made when it is first asked for. Who asks brings it in line by
+/// `update` when the drawing has changed.
+Picture& pictureOf(const Drawing& drawing);
+/// Makes what the first picture of model space and the first pick wait for, on the thread that calls.
+void prepare(const Drawing& drawing);
 
 /// Block coordinates to those of the space that it is placed in, for one copy of an array.
 Transform placedTransform(const Drawing& drawing, const shapes::Placed& placed, int column, int row);

@@ -24,6 +24,17 @@ constexpr double kToneOpacity = 0.35;
 /// Coordinates beyond this many device units from the frame are cut off before a canvas sees them.
 constexpr double kFarOutside = 2000;
 
+/// Adds a point unless it lies in the same place as the one before, so that a line of a million vertices
+/// costs what is seen of it.
+void addDistinct(const Point2& point, std::vector<Point2>& points) {
+    constexpr double kSame = 0.2;  // device units
+    const bool isSame = !points.empty() && std::abs(points.back().x - point.x) < kSame &&
+                        std::abs(points.back().y - point.y) < kSame;
+    if (!isSame) points.push_back(point);
+}
+
+double opacity(const Look& look) { return look.opacity / 255.0; }
+
 /// Cuts a loop to a frame (Sutherland and Hodgman), so that no canvas has to fill areas of any size.
 void clipLoop(std::vector<Point2>& loop, const Frame& frame) {
     std::vector<Point2> result;
@@ -119,18 +130,29 @@ void Renderer::drawBlock(BlockId block, const Projection& projection, const Cont
     finish();
 }
 
-/// Draws one thing of the innermost list, or leaves it.
+/// Draws one thing of the innermost list, or a part of a large one, or leaves the list.
 void Renderer::step() {
     lastCost_ = 1;
     Level& level = levels_.back();
     const std::size_t count = level.chosen ? level.chosen->size() : level.state.list->items.size();
     if (level.next >= count) return leave();
     if (++steps_ > kMostSteps) return levels_.clear();
-    const std::size_t item = level.chosen ? (*level.chosen)[level.next] : level.next;
-    ++level.next;
-    // A copy: what it places puts levels upon this one.
     const State state = level.state;
-    drawItem(state, state.list->items[item]);
+    const Item& item = state.list->items[level.chosen ? (*level.chosen)[level.next] : level.next];
+    const bool shown = state.showsZero || !item.onLayerZero;
+    if (level.strokesDone > 0 || isSeen(state, item)) {
+        if (shown && !drawOwn(state, item, level.strokesDone)) return;
+    } else {
+        ++level.next;
+        return;
+    }
+    level.strokesDone = 0;
+    ++level.next;
+    // These put levels upon this one.
+    if (shown && item.viewport != Item::kNone && !inViewport_) {
+        enterViewport(state, state.list->viewports[item.viewport]);
+    }
+    if (item.placement != Item::kNone) enterPlacement(state, item, state.list->placements[item.placement]);
 }
 
 /// Goes on to the next copy of an array, or back to the list that holds this one.
@@ -164,29 +186,32 @@ bool Renderer::isFrozen(const Item& item) const {
     return inViewport_ && item.layer < frozen_.size() && frozen_[item.layer] && !item.onLayerZero;
 }
 
-void Renderer::drawItem(const State& state, const Item& item) {
+/// Whether more of an item is seen than a dot, which is drawn at once.
+bool Renderer::isSeen(const State& state, const Item& item) {
+    if (item.isEndless) return true;
     const Frame where = item.bounds.empty() ? Frame{} : state.projection.apply(item.bounds);
-    if (!item.isEndless) {
-        if (where.empty() || !where.meets(clip_)) return;
-        if (isFrozen(item)) return;
-        if (where.width() < options_.smallest && where.height() < options_.smallest) {
-            drawDot(state, item, where);
-            return;
-        }
-    }
-    const bool shown = state.showsZero || !item.onLayerZero;
+    if (where.empty() || !where.meets(clip_) || isFrozen(item)) return false;
+    if (where.width() >= options_.smallest || where.height() >= options_.smallest) return true;
+    drawDot(state, item, where);
+    return false;
+}
+
+/// Draws what an item has of its own, from a stroke on. Returns whether that is all of it.
+bool Renderer::drawOwn(const State& state, const Item& item, std::uint32_t& strokesDone) {
+    constexpr std::size_t kMostAtOnce = 20'000;  // points
     const DisplayList& list = *state.list;
-    if (shown) {
-        lastCost_ += item.strokeEnd - item.firstStroke;
+    if (strokesDone == 0) {
         for (std::uint32_t i = item.firstFill; i < item.fillEnd; ++i) drawFill(state, list.fills[i]);
-        for (std::uint32_t i = item.firstStroke; i < item.strokeEnd; ++i) drawStroke(state, list.strokes[i]);
-        for (std::uint32_t i = item.firstText; i < item.textEnd; ++i) drawText(state, list.texts[i]);
-        for (std::uint32_t i = item.firstMark; i < item.markEnd; ++i) drawMark(state, list.marks[i]);
     }
-    if (shown && item.viewport != Item::kNone && !inViewport_) {
-        enterViewport(state, list.viewports[item.viewport]);
+    for (; item.firstStroke + strokesDone < item.strokeEnd; ++strokesDone) {
+        if (lastCost_ > kMostAtOnce && strokesDone > 0) return false;
+        const Stroke& stroke = list.strokes[item.firstStroke + strokesDone];
+        drawStroke(state, stroke);
+        lastCost_ += stroke.count;
     }
-    if (item.placement != Item::kNone) enterPlacement(state, item, list.placements[item.placement]);
+    for (std::uint32_t i = item.firstText; i < item.textEnd; ++i) drawText(state, list.texts[i]);
+    for (std::uint32_t i = item.firstMark; i < item.markEnd; ++i) drawMark(state, list.marks[i]);
+    return true;
 }
 
 void Renderer::drawDot(const State& state, const Item& item, const Frame& where) {
@@ -291,12 +316,12 @@ void Renderer::setInk(const Ink& ink) {
 /// Of a band `width` device units wide, or of a line by its weight. Returns whether it is a band that shows.
 bool Renderer::setStrokeInk(const Look& look, double width) {
     if (width >= 1.2) {
-        setInk({look.color, width, 1, true});
+        setInk({look.color, width, opacity(look), true});
         return true;
     }
     const double weight =
         options_.pixelsPerMillimetre ? look.weight / 100.0 * *options_.pixelsPerMillimetre : 0;
-    setInk({look.color, weight < 1 ? 0 : weight, 1, false});
+    setInk({look.color, weight < 1 ? 0 : weight, opacity(look), false});
     return false;
 }
 
@@ -310,7 +335,8 @@ void Renderer::emitPolyline(std::span<const Point2> points) {
     }
 }
 
-void Renderer::strokePoints(const Look& look, double lineTypeScale) {
+/// With `each` a linetype begins anew at each point.
+void Renderer::strokePoints(const Look& look, double lineTypeScale, bool each) {
     if (points_.size() < 2) return;
     const LineType& type = picture_.lineTypes()[look.lineType];
     const double scale = picture_.lineTypes().scale() * lineTypeScale * rootScale_;
@@ -318,8 +344,19 @@ void Renderer::strokePoints(const Look& look, double lineTypeScale) {
         emitPolyline(points_);
         return;
     }
-    dashPolyline(points_, type, scale, clip_.widened(ink_->width + 4),
-                 [&](std::span<const Point2> part) { canvas_.polyline(part); });
+    if (ink_->width > 0 && !ink_->isBand) {
+        // Round ends would close the gaps.
+        Ink flat = *ink_;
+        flat.isBand = true;
+        setInk(flat);
+    }
+    const Frame frame = clip_.widened(ink_->width + 4);
+    const std::span<const Point2> points = points_;
+    const std::size_t stretch = each ? 2 : points.size();
+    for (std::size_t i = 0; i + stretch <= points.size(); ++i) {
+        dashPolyline(points.subspan(i, stretch), type, scale, frame,
+                     [&](std::span<const Point2> part) { canvas_.polyline(part); });
+    }
 }
 
 void Renderer::arcPoints(const Projection& projection, std::span<const Point3> arc) {
@@ -354,7 +391,10 @@ void Renderer::drawStroke(const State& state, const Stroke& stroke) {
             arcPoints(state.projection, own);
             break;
         case Stroke::Kind::Polyline:
-            for (const Point3& point : own) points_.push_back(state.projection.apply(point));
+            for (const Point3& point : own) addDistinct(state.projection.apply(point), points_);
+            // However near, the end counts.
+            points_.back() = state.projection.apply(own.back());
+            if (points_.size() == 1) points_.push_back(points_.front());
             break;
         case Stroke::Kind::Ray:
         case Stroke::Kind::XLine: {
@@ -379,7 +419,7 @@ void Renderer::drawStroke(const State& state, const Stroke& stroke) {
         return;
     }
     setStrokeInk(look, std::max(stroke.startWidth, stroke.endWidth) * scale);
-    strokePoints(look, pen.lineTypeScale);
+    strokePoints(look, pen.lineTypeScale, stroke.dashesEach);
 }
 
 /// A band that grows or shrinks: one area about its points.
@@ -424,7 +464,7 @@ void Renderer::drawFill(const State& state, const Fill& fill) {
         scratch_.clear();
         bool outside = false;
         for (std::uint32_t i = begin; i < end; ++i) {
-            scratch_.push_back(state.projection.apply(state.list->points[fill.first + i]));
+            addDistinct(state.projection.apply(state.list->points[fill.first + i]), scratch_);
             outside = outside || !safe.contains(scratch_.back());
         }
         if (outside) clipLoop(scratch_, clip_.widened(8));
@@ -432,7 +472,7 @@ void Renderer::drawFill(const State& state, const Fill& fill) {
         ends_.push_back(static_cast<std::uint32_t>(points_.size()));
         begin = end;
     }
-    setInk({look.color, 0, isPattern ? kToneOpacity : 1, false});
+    setInk({look.color, 0, (isPattern ? kToneOpacity : 1) * opacity(look), false});
     if (fill.covers) {
         canvas_.cover(points_, ends_);
     } else {
@@ -445,7 +485,8 @@ void Renderer::drawText(const State& state, const Text& text) {
     const PlacedText placed{text.piece, state.projection.apply(frame.origin),
                             state.projection.applyDirection(frame.xAxis),
                             state.projection.applyDirection(frame.yAxis)};
-    setInk({state.context.resolve(picture_.pens()[text.pen]).color, 0});
+    const Look look = state.context.resolve(picture_.pens()[text.pen]);
+    setInk({look.color, 0, opacity(look)});
     const double height = std::hypot(placed.up.x, placed.up.y);
     if (height >= options_.legible) {
         canvas_.text(placed);
@@ -454,7 +495,7 @@ void Renderer::drawText(const State& state, const Text& text) {
     // Too small to be read: a line at half its height.
     const Point2 from{placed.origin.x + placed.up.x / 2, placed.origin.y + placed.up.y / 2};
     const Point2 to{from.x + placed.along.x * text.piece.width, from.y + placed.along.y * text.piece.width};
-    setInk({ink_->color, 0, 0.5});
+    setInk({look.color, 0, 0.5 * opacity(look)});
     canvas_.polyline(std::vector<Point2>{from, to});
 }
 

@@ -5,6 +5,7 @@
 #include "desk/shapes/shape_walk.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -16,6 +17,8 @@ struct RenderOptions {
     double smallest = 0.75;   ///< what is smaller on the picture, in device units, becomes a dot
     double legible = 2.5;     ///< texts with capitals below this become lines
     bool solidLines = false;  ///< without linetypes, for highlights
+    /// Asked every few things by what can't be resumed: true leaves the picture as it is then.
+    std::function<bool()> leaveOff;
 };
 
 /// Draws display lists on a canvas. What lies outside of the frame is passed over: in a space by the index
@@ -62,6 +65,7 @@ class Renderer {
     struct Level {
         State state;
         std::size_t next = 0;
+        std::uint32_t strokesDone = 0;  ///< of that item
         /// The items to draw, by number; without them all are.
         std::optional<std::vector<std::uint32_t>> chosen;
         const Placement* array = nullptr;  ///< the copies that follow
@@ -73,13 +77,15 @@ class Renderer {
     };
     void startSpace(const Projection& projection);
     void finish() {
-        while (!levels_.empty()) step();
+        resume([this] { return options_.leaveOff && options_.leaveOff(); });
+        levels_.clear();
     }
     void step();
     void leave();
     void startCopy(Level& level);
     std::vector<std::uint32_t> itemsNear(BlockId space, const Projection& projection);
-    void drawItem(const State& state, const Item& item);
+    bool isSeen(const State& state, const Item& item);
+    bool drawOwn(const State& state, const Item& item, std::uint32_t& strokesDone);
     void drawDot(const State& state, const Item& item, const Frame& where);
     void enterPlacement(const State& state, const Item& item, const Placement& placement);
     void enterViewport(const State& state, const Viewport& viewport);
@@ -87,7 +93,7 @@ class Renderer {
     void drawFill(const State& state, const Fill& fill);
     void drawText(const State& state, const Text& text);
     void drawMark(const State& state, const Mark& mark);
-    void strokePoints(const Look& look, double lineTypeScale);
+    void strokePoints(const Look& look, double lineTypeScale, bool each);
     void strokeTapered(const Stroke& stroke, double scale);
     void arcPoints(const Projection& projection, std::span<const Point3> arc);
     void emitPolyline(std::span<const Point2> points);

@@ -9,6 +9,9 @@ namespace picture {
 
 namespace {
 
+/// A longer line goes on as a stroke of its own, so that a picture can be drawn in portions.
+constexpr std::uint32_t kLongest = 2048;
+
 void startStroke(DisplayList& list, PenId pen, Stroke::Kind kind, float startWidth, float endWidth) {
     Stroke stroke;
     stroke.first = static_cast<std::uint32_t>(list.points.size());
@@ -41,18 +44,24 @@ void addStroke(const geometry::Curve& curve, PenId pen, float startWidth, float 
         startStroke(list, pen, Stroke::Kind::Polyline, startWidth, endWidth);
         std::vector<Point3> points;
         geometry::flatten(curve, points);
-        for (const Point3& point : points) addPoint(list, point);
+        for (const Point3& point : points) {
+            addPoint(list, point);
+            if (list.strokes.back().count < kLongest || &point == &points.back()) continue;
+            startStroke(list, pen, Stroke::Kind::Polyline, startWidth, endWidth);
+            addPoint(list, point);
+        }
     }
 }
 
-void addStrokes(const std::vector<shapes::Stroke>& strokes, PenId pen, DisplayList& list) {
+void addStrokes(const std::vector<shapes::Stroke>& strokes, PenId pen, bool dashesEach, DisplayList& list) {
     const shapes::Stroke* before = nullptr;
     for (const shapes::Stroke& stroke : strokes) {
         const auto* line = std::get_if<geometry::LineCurve>(&stroke.curve);
         const auto* lineBefore =
             before != nullptr ? std::get_if<geometry::LineCurve>(&before->curve) : nullptr;
         // One stroke for a chain of lines of one width, so that its corners are joined.
-        const bool goesOn = line != nullptr && lineBefore != nullptr && lineBefore->end == line->start &&
+        const bool goesOn = line != nullptr && lineBefore != nullptr &&
+                            list.strokes.back().count < kLongest && lineBefore->end == line->start &&
                             before->startWidth == before->endWidth && stroke.startWidth == stroke.endWidth &&
                             before->startWidth == stroke.startWidth;
         if (goesOn) {
@@ -60,6 +69,7 @@ void addStrokes(const std::vector<shapes::Stroke>& strokes, PenId pen, DisplayLi
         } else {
             addStroke(stroke.curve, pen, static_cast<float>(stroke.startWidth),
                       static_cast<float>(stroke.endWidth), list);
+            list.strokes.back().dashesEach = dashesEach && line != nullptr;
         }
         before = &stroke;
     }

@@ -14,6 +14,13 @@ namespace {
 /// Values of group 370.
 enum : int { kByLayer = -1, kByBlock = -2, kDefault = -3 };
 
+/// Of group 440, and of the extended data of a layer.
+enum : std::int64_t { kTransparencyByBlock = 1, kTransparencyOwn = 2 };
+
+std::uint8_t opacityOf(std::int64_t value) {
+    return value >> 24 == kTransparencyOwn ? static_cast<std::uint8_t>(value & 0xFF) : 255;
+}
+
 }  // namespace
 
 Styles::Styles(const Drawing& drawing) : drawing_(drawing), lineTypes_(drawing) {
@@ -28,7 +35,11 @@ Look Styles::readLayer(EntityId record) const {
     Look look;
     bool hasTrueColor = false;
     dxf::TagReader reader = drawing_.tags(record);
-    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
+    bool isTransparency = false;
+    for (dxf::Tag tag; reader.next(tag);) {
+        if (tag.code == 1001) isTransparency = tag.raw == "AcCmTransparency";
+        if (tag.code == 1071 && isTransparency) look.opacity = opacityOf(tag.integerOr(0));
+        if (tag.code >= 1000) continue;
         if (tag.code == 62 && !hasTrueColor) look.color = paletteColor(static_cast<int>(tag.integerOr(7)));
         if (tag.code == 420) {
             look.color = trueColor(tag.integerOr(0));
@@ -61,7 +72,7 @@ Styles::EntityStyle Styles::of(EntityId id) const {
     Pen& pen = style.pen;
     pen.look = style.layer;
     const From layer = style.onLayerZero ? From::ReferenceLayer : From::Own;
-    pen.colorFrom = pen.lineTypeFrom = pen.weightFrom = layer;
+    pen.colorFrom = pen.lineTypeFrom = pen.weightFrom = pen.opacityFrom = layer;
     const auto takeColor = [&](const Color& color) {
         pen.look.color = color;
         pen.colorFrom = From::Own;
@@ -100,6 +111,14 @@ Styles::EntityStyle Styles::of(EntityId id) const {
                 hasTrueColor = true;
                 takeColor(trueColor(tag.integerOr(0)));
                 break;
+            case 440: {
+                const std::int64_t value = tag.integerOr(0);
+                if (value >> 24 == kTransparencyByBlock) pen.opacityFrom = From::Reference;
+                if (value >> 24 != kTransparencyOwn) break;
+                pen.opacityFrom = From::Own;
+                pen.look.opacity = opacityOf(value);
+                break;
+            }
             default:
                 break;
         }

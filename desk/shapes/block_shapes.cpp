@@ -11,12 +11,64 @@ namespace {
 /// Beyond this no drafter nests blocks; it keeps a damaged drawing from exhausting the stack.
 constexpr int kDeepestNesting = 100;
 
+/// A geometry of more strokes is taken apart.
+constexpr std::size_t kMostStrokes = 64;
+/// An entity of more bytes is kept as it was read, so many of them at most.
+constexpr std::size_t kLargeEntity = 20'000;
+constexpr std::size_t kMostKept = 8;
+
+/// A number whose order keeps what is near together: the bits of both coordinates in turn.
+std::uint32_t placeOnCurve(const Box& box, const Box& all) {
+    const auto cell = [](double at, double low, double high) {
+        const double share = high > low ? (at - low) / (high - low) : 0;
+        return static_cast<std::uint32_t>(std::clamp(share, 0.0, 1.0) * 0xFFFF);
+    };
+    const Point3 middle = box.empty() ? all.low : (box.low + box.high) / 2;
+    const std::uint32_t x = cell(middle.x, all.low.x, all.high.x);
+    const std::uint32_t y = cell(middle.y, all.low.y, all.high.y);
+    std::uint32_t place = 0;
+    for (int bit = 15; bit >= 0; --bit) place = place << 2 | (x >> bit & 1) << 1 | (y >> bit & 1);
+    return place;
+}
+
 }  // namespace
+
+void BlockShape::add(ShapeItem item) {
+    bounds.add(item.bounds);
+    isEndless = isEndless || item.isEndless;
+    std::vector<Stroke>& strokes = item.geometry.strokes;
+    while (strokes.size() > kMostStrokes) {
+        ShapeItem part;
+        part.onLayerZero = item.onLayerZero;
+        const auto from = strokes.end() - static_cast<std::ptrdiff_t>(kMostStrokes);
+        part.geometry.strokes.assign(std::make_move_iterator(from), std::make_move_iterator(strokes.end()));
+        strokes.erase(from, strokes.end());
+        part.bounds = part.geometry.bounds();
+        items.push_back(std::move(part));
+    }
+    items.push_back(std::move(item));
+}
+
+void BlockShape::arrange() {
+    if (items.size() > 2 * kStretch) {
+        std::vector<std::pair<std::uint32_t, std::size_t>> order;
+        for (std::size_t i = 0; i < items.size(); ++i)
+            order.emplace_back(placeOnCurve(items[i].bounds, bounds), i);
+        std::sort(order.begin(), order.end());
+        std::vector<ShapeItem> arranged;
+        arranged.reserve(items.size());
+        for (const auto& [place, number] : order) arranged.push_back(std::move(items[number]));
+        items = std::move(arranged);
+    }
+    stretches.assign((items.size() + kStretch - 1) / kStretch, {});
+    for (std::size_t i = 0; i < items.size(); ++i) stretches[i / kStretch].add(items[i].bounds);
+}
 
 BlockShapes::BlockShapes(const Drawing& drawing) : drawing_(drawing) { clear(); }
 
 void BlockShapes::clear() {
     textStyles_ = TextStyles(drawing_);
+    large_.clear();
     shapes_.clear();
     shapes_.resize(drawing_.blocks().size());
     open_.assign(shapes_.size(), false);
@@ -74,7 +126,35 @@ BlockShape BlockShapes::read(BlockId block) {
         addEntity(shape, id);
         return true;
     });
+    shape.arrange();
     return shape;
+}
+
+const BlockShape* BlockShapes::large(EntityId id) {
+    const auto found =
+        std::find_if(large_.begin(), large_.end(), [&](const auto& kept) { return kept.first == id; });
+    if (found != large_.end()) {
+        std::rotate(found, found + 1, large_.end());
+        return large_.back().second.get();
+    }
+    if (drawing_.bytes(id).size() < kLargeEntity && drawing_.parts(id).count < kLargeEntity / 50)
+        return nullptr;
+    if (drawing_.type(id) == "INSERT") return nullptr;
+    ShapeItem item;
+    item.geometry = readGeometry(drawing_, id, textStyles_);
+    item.bounds = item.geometry.bounds();
+    auto shape = std::make_unique<BlockShape>();
+    shape->add(std::move(item));
+    shape->arrange();
+    if (large_.size() == kMostKept) large_.erase(large_.begin());
+    large_.emplace_back(id, std::move(shape));
+    return large_.back().second.get();
+}
+
+void BlockShapes::forgetLarge(const std::vector<EntityId>& changed) {
+    std::erase_if(large_, [&](const auto& kept) {
+        return std::binary_search(changed.begin(), changed.end(), kept.first);
+    });
 }
 
 void BlockShapes::addEntity(BlockShape& shape, EntityId id) {
@@ -103,9 +183,7 @@ void BlockShapes::addEntity(BlockShape& shape, EntityId id) {
     }
     // A placed block that draws nothing yet may come to draw something.
     if (item.bounds.empty() && !item.placed) return;
-    shape.bounds.add(item.bounds);
-    shape.isEndless = shape.isEndless || item.isEndless;
-    shape.items.push_back(std::move(item));
+    shape.add(std::move(item));
 }
 
 void addAttribute(const BlockShapes& shapes, EntityId attribute, Geometry& geometry) {

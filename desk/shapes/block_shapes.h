@@ -5,11 +5,12 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace shapes {
 
-/// One thing that a block draws: a geometry of its own or another block.
+/// One thing that a block draws: a geometry of its own, a part of a large one, or another block.
 struct ShapeItem {
     Geometry geometry;
     std::optional<Placed> placed;
@@ -23,9 +24,18 @@ struct ShapeItem {
 
 /// What a block draws, in its own coordinates.
 struct BlockShape {
+    /// In no order where there are many: what lies near each other stands together.
     std::vector<ShapeItem> items;
+    /// About each kStretch of them that follow one another, without what is endless.
+    std::vector<Box> stretches;
     Box bounds;
     bool isEndless = false;
+
+    static constexpr std::size_t kStretch = 32;
+
+    /// Adds an item, one of many strokes in parts; `arrange` is to follow the last one.
+    void add(ShapeItem item);
+    void arrange();
 };
 
 /// The shapes of a drawing's blocks, each read when it is first asked for. They stand for the drawing as it
@@ -37,6 +47,11 @@ class BlockShapes {
     const BlockShape& of(BlockId block);
     const Drawing& drawing() const { return drawing_; }
     const TextStyles& textStyles() const { return textStyles_; }
+
+    /// What an entity of a space draws by itself where that is so much that it is kept, up to the next change
+    /// of the entity; null for others.
+    const BlockShape* large(EntityId id);
+    void forgetLarge(const std::vector<EntityId>& changed);
 
     /// The block that an entity shows, see `readPlaced`.
     std::optional<Placed> placed(EntityId id);
@@ -54,7 +69,8 @@ class BlockShapes {
     const Drawing& drawing_;
     TextStyles textStyles_;
     std::vector<std::unique_ptr<BlockShape>> shapes_;
-    std::vector<bool> open_;  ///< being read
+    std::vector<std::pair<EntityId, std::unique_ptr<BlockShape>>> large_;  ///< the latest last
+    std::vector<bool> open_;                                               ///< being read
     int depth_ = 0;
     bool lackedBlock_ = false;
 };

@@ -17,7 +17,8 @@ class Candidate {
         const Drawing& drawing = shapes.drawing();
         placed_ = readPlaced(drawing, id);
         showsZero_ = !drawing.layer(id).off;
-        if (!placed_) own_ = readGeometry(drawing, id, shapes.textStyles());
+        if (!placed_) large_ = shapes.large(id);
+        if (!placed_ && large_ == nullptr) own_ = readGeometry(drawing, id, shapes.textStyles());
         addInsertions(shapes, id, placed_, own_);
         forEachShownAttribute(drawing, id,
                               [&](EntityId attribute) { addAttribute(shapes, attribute, own_); });
@@ -27,12 +28,14 @@ class Candidate {
     template <typename Visit>
     void walk(const Rectangle& area, ShapeWalk::Copies copies, const Visit& visit) {
         if (!visit(own_, Transform{})) return;
+        if (large_ != nullptr) ShapeWalk(shapes_, area, copies, visit).walk(*large_);
         if (placed_) ShapeWalk(shapes_, area, copies, visit).walk(*placed_, showsZero_);
     }
 
   private:
     BlockShapes& shapes_;
     Geometry own_;
+    const BlockShape* large_ = nullptr;
     std::optional<Placed> placed_;
     bool showsZero_ = true;
 };

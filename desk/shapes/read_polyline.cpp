@@ -269,6 +269,17 @@ Polyline readPolyline(dxf::TagReader head, const std::vector<dxf::TagReader>& ve
     return result;
 }
 
+bool runsThroughVertices(const Drawing& drawing, EntityId id) {
+    constexpr std::int64_t kRunsThrough = 128;
+    const std::string_view type = drawing.type(id);
+    if (type != "LWPOLYLINE" && type != "POLYLINE") return false;
+    bool result = false;
+    forEachTag(drawing.tags(id), [&](const dxf::Tag& tag) {
+        if (tag.code == 70) result = (tag.integerOr(0) & kRunsThrough) != 0;
+    });
+    return result;
+}
+
 Polyline::Kind polylineKind(dxf::TagReader head) { return kindOf(readHead(head).flags); }
 
 }  // namespace shapes

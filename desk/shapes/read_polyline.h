@@ -38,6 +38,8 @@ struct Polyline {
 Polyline readLwPolyline(dxf::TagReader tags);
 /// `head` is the POLYLINE, `vertices` its VERTEX entities in order (a SEQEND among them is passed over).
 Polyline readPolyline(dxf::TagReader head, const std::vector<dxf::TagReader>& vertices);
+/// Whether a linetype runs through all stretches of a LWPOLYLINE or POLYLINE as through one (group 70, 128).
+bool runsThroughVertices(const Drawing& drawing, EntityId id);
 /// Only the kind of a POLYLINE, from its flags.
 Polyline::Kind polylineKind(dxf::TagReader head);
 

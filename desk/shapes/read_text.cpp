@@ -131,6 +131,9 @@ struct MultiText {
     bool exactSpacing = false;
     int attachment = 1;
     std::string style;
+    std::int64_t ground = 0;  ///< group 90
+    double groundScale = 1.5;
+    std::optional<std::int32_t> groundColor;
 };
 
 MultiText readMultiText(dxf::TagReader tags) {
@@ -160,6 +163,19 @@ MultiText readMultiText(dxf::TagReader tags) {
                 break;
             case 71:
                 text.attachment = static_cast<int>(tag.integerOr(1));
+                break;
+            case 45:
+                text.groundScale = tag.numberOr(1.5);
+                break;
+            case 63:
+                text.groundColor =
+                    TextPiece::kPaletteBit | static_cast<std::int32_t>(tag.integerOr(0) & 0xFF);
+                break;
+            case 90:
+                text.ground = tag.integerOr(0);
+                break;
+            case 421:
+                text.groundColor = static_cast<std::int32_t>(tag.integerOr(0) & 0xFFFFFF);
                 break;
             case 73:
                 text.exactSpacing = tag.integerOr(1) == 2;
@@ -298,6 +314,24 @@ TextBox readMTextBox(dxf::TagReader tags, const TextStyles& styles) {
     const std::optional<PlacedMText> placed = placeMText(text, styles.find(text.style));
     if (!placed) return std::nullopt;
     return corners({placed->layout.left, placed->layout.right, -placed->layout.height, 0}, placed->frame);
+}
+
+std::optional<TextGround> readMTextGround(dxf::TagReader tags, const TextStyles& styles) {
+    enum : std::int64_t { kFill = 1, kGroundColor = 2, kFrame = 16 };
+    const MultiText text = readMultiText(tags);
+    if ((text.ground & (kFill | kGroundColor | kFrame)) == 0) return std::nullopt;
+    const std::optional<PlacedMText> placed = placeMText(text, styles.find(text.style));
+    if (!placed) return std::nullopt;
+    TextGround ground;
+    const double edge = (text.groundScale - 1) * text.height;
+    const MTextLayout& layout = placed->layout;
+    const auto [a, b, c, d] =
+        corners({layout.left - edge, layout.right + edge, -layout.height - edge, edge}, placed->frame);
+    ground.border = {LineCurve{a, b}, LineCurve{b, c}, LineCurve{c, d}, LineCurve{d, a}};
+    ground.isFilled = (text.ground & (kFill | kGroundColor)) != 0;
+    if ((text.ground & kGroundColor) == 0) ground.color = text.groundColor;
+    ground.isFramed = (text.ground & kFrame) != 0;
+    return ground;
 }
 
 Point3 readInsertion(dxf::TagReader tags, bool isMText) {

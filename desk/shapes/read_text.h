@@ -6,6 +6,7 @@
 #include "desk/shapes/text_style.h"
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,14 @@ using TextBox = std::optional<std::array<Point3, 4>>;
 TextBox readTextBox(dxf::TagReader tags, const TextStyles& styles, bool showsTag = true);
 /// MTEXT, about its lines as they are laid out.
 TextBox readMTextBox(dxf::TagReader tags, const TextStyles& styles);
+/// What an MTEXT has behind its letters: a filled area, a frame or both.
+struct TextGround {
+    Path border;
+    bool isFilled = false;
+    std::optional<std::int32_t> color;  ///< of the area as in TextPiece; without one that of the ground
+    bool isFramed = false;
+};
+std::optional<TextGround> readMTextGround(dxf::TagReader tags, const TextStyles& styles);
 /// The point that a text of either kind hangs on.
 Point3 readInsertion(dxf::TagReader tags, bool isMText);
 

@@ -10,6 +10,7 @@ void Scene::follow() {
     const bool all = changes.everything || (!changes.blocks.empty() && blocks_.lackedBlock());
     if (all) blocks_.clear();
     const std::vector<bool> outdated = all ? std::vector<bool>() : blocks_.forget(changes.blocks);
+    blocks_.forgetLarge(changes.entities);
     for (auto& [space, index] : spaces_) {
         if (all) {
             index.build();

@@ -16,12 +16,15 @@ class Scene : public drawing::Companion {
 
     BlockShapes& blocks();
     SpaceIndex& space(BlockId space);
+    /// What a room above derives from the drawing and keeps with it, see picture::pictureOf.
+    std::unique_ptr<drawing::Companion>& above() { return above_; }
 
   private:
     void follow();
 
     const Drawing& drawing_;
     BlockShapes blocks_;
+    std::unique_ptr<drawing::Companion> above_;
     std::map<BlockId, SpaceIndex> spaces_;  ///< those looked at so far
     std::uint64_t seen_ = 0;                ///< place in the drawing's journal
 };

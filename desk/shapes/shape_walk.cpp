@@ -103,18 +103,27 @@ bool ShapeWalk::walkCopy(const Placed& placed, const Transform& toWorld, bool sh
 }
 
 bool ShapeWalk::walkItems(const BlockShape& shape, const Transform& toWorld, bool showsZero, int depth) {
-    for (const ShapeItem& item : shape.items) {
-        if (++steps_ > kMostSteps) return false;
-        if (!item.isEndless && !mayMeet(item.bounds.transformed(toWorld))) continue;
-        // A reference on layer 0 hands on what holds for it; its own text stands on layer 0 itself.
-        const bool shown = showsZero || !item.onLayerZero;
-        const bool hasOwn = !item.geometry.empty() || !item.geometry.insertions.empty();
-        if (shown && hasOwn && !visit_(item.geometry, toWorld)) return false;
-        if (!item.placed) continue;
-        const bool inner = item.onLayerZero ? showsZero : !item.hidesZero;
-        if (!walk(*item.placed, toWorld, inner, depth + 1)) return false;
+    for (std::size_t stretch = 0; stretch < shape.stretches.size(); ++stretch) {
+        if (!shape.isEndless && !mayMeet(shape.stretches[stretch].transformed(toWorld))) continue;
+        const std::size_t begin = stretch * BlockShape::kStretch;
+        const std::size_t end = std::min(begin + BlockShape::kStretch, shape.items.size());
+        for (std::size_t i = begin; i < end; ++i) {
+            if (!walkItem(shape.items[i], toWorld, showsZero, depth)) return false;
+        }
     }
     return true;
+}
+
+bool ShapeWalk::walkItem(const ShapeItem& item, const Transform& toWorld, bool showsZero, int depth) {
+    if (++steps_ > kMostSteps) return false;
+    if (!item.isEndless && !mayMeet(item.bounds.transformed(toWorld))) return true;
+    // A reference on layer 0 hands on what holds for it; its own text stands on layer 0 itself.
+    const bool shown = showsZero || !item.onLayerZero;
+    const bool hasOwn = !item.geometry.empty() || !item.geometry.insertions.empty();
+    if (shown && hasOwn && !visit_(item.geometry, toWorld)) return false;
+    if (!item.placed) return true;
+    const bool inner = item.onLayerZero ? showsZero : !item.hidesZero;
+    return walk(*item.placed, toWorld, inner, depth + 1);
 }
 
 }  // namespace shapes

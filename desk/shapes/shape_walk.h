@@ -37,12 +37,15 @@ class ShapeWalk {
     /// Walks one reference of the space. `showsZero` is false where its layer is off, so that the content on
     /// layer 0 isn't drawn. Returns false where the visitor ended the walk.
     bool walk(const Placed& placed, bool showsZero);
+    /// The same for what an entity of the space draws by itself.
+    bool walk(const BlockShape& shape) { return walkItems(shape, {}, true, 0); }
 
   private:
     bool walk(const Placed& placed, const Transform& outer, bool showsZero, int depth);
     bool walkArray(const Placed& placed, const Transform& outer, bool showsZero, int depth);
     bool walkCopy(const Placed& placed, const Transform& toWorld, bool showsZero, int depth);
     bool walkItems(const BlockShape& shape, const Transform& toWorld, bool showsZero, int depth);
+    bool walkItem(const ShapeItem& item, const Transform& toWorld, bool showsZero, int depth);
     bool mayMeet(const Box& box) const;
 
     BlockShapes& shapes_;

@@ -39,7 +39,7 @@ bool contains(const std::string& text, std::initializer_list<const char*> words)
 TextFont fontOfName(std::string_view name) {
     const std::string lower = basic::toLower(name);
     TextFont font;
-    if (contains(lower, {"mono", "courier", "consola", "typewriter"})) {
+    if (contains(lower, {"mono", "cour", "consola", "typewriter", "lucon"})) {
         font.kind = TextFont::Kind::Mono;
     } else if (contains(lower, {"times", "roman.", "serif", "garamond", "georgia", "cambria", "palatino",
                                 "romanc", "romant", "romand", "complex", "triplex", "italicc", "italict"}) &&
@@ -54,6 +54,8 @@ TextFont fontOfName(std::string_view name) {
 double textAdvance(char32_t c, const TextFont& font) {
     if (font.kind == TextFont::Kind::Mono) return 600 / 562.0;
     if (const char32_t base = baseLetter(c)) c = base;
+    constexpr char32_t kHardSpace = 0xA0;
+    if (c == kHardSpace) c = ' ';
     double advance = 600;
     if (c >= 32 && c < 127) {
         advance = kAdvances[c - 32];

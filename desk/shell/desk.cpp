@@ -64,7 +64,8 @@ Desk::Desk(const DeskOptions& options, forms::Screen& screen, model::Prompter& p
       autosaves_(options.autosave && !options.stateFolder.empty()),
       breakable_(options.breakable),
       confirm_(options.confirm),
-      aside_(options.aside) {
+      aside_(options.aside),
+      readied_(options.readied) {
     prepareInstallFolder(options.installFolder, options.resources,
                          languageByCode(options.frenchDesktop ? "fr" : "en"));
     if (!options.language.empty()) chooseLanguage(options.installFolder, options.language);
@@ -139,7 +140,10 @@ std::unique_ptr<drawing::Drawing> Desk::openOrRecover(const std::string& path) {
 std::unique_ptr<drawing::Drawing> Desk::readAside(const std::string& path, Read read) const {
     if (!aside_) return read();
     const auto made = std::make_shared<std::unique_ptr<drawing::Drawing>>();
-    aside_(path, [made, read = std::move(read)] { *made = read(); });
+    aside_(path, [made, read = std::move(read), readied = readied_] {
+        *made = read();
+        if (readied) readied(**made);
+    });
     return std::move(*made);
 }
 

@@ -32,6 +32,8 @@ struct DeskOptions {
     /// Runs a reading that takes long, which touches nothing of the desk's, and returns when it is done; for
     /// a program that stays alive meanwhile. What it raises ends the opening. Empty: it is just called.
     std::function<void(const std::string& path, std::function<void()> reading)> aside;
+    /// Called by that reading with what was read, before anybody else has it. May be empty.
+    std::function<void(const drawing::Drawing&)> readied;
     /// Called again and again while a command works; it may raise UserBreak. May be empty.
     std::function<void()> watch;
     LinuxPlatform::ShowPage showPage;  ///< empty: the help tells its text
@@ -118,6 +120,7 @@ class Desk {
     const HeldBreak* break_ = nullptr;  ///< of the line that runs
     std::function<bool(const std::string&)> confirm_;
     std::function<void(const std::string&, std::function<void()>)> aside_;
+    std::function<void(const drawing::Drawing&)> readied_;
     std::unique_ptr<DrawingFile>
         file_;  ///< none for a drawing that came from a DWG file and wasn't saved yet
     std::unique_ptr<Autosave> autosave_;

@@ -2,6 +2,7 @@
 
 #include "desk/window/canvas_state.h"
 
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -18,7 +19,8 @@ namespace {
 constexpr double kFreeEdge = 0.03;
 /// Free edge of what fills half of the view.
 constexpr double kHalf = 0.25;
-constexpr double kPictureEdge = 3;  ///< of a block's picture, logical pixels
+constexpr qint64 kLongestBlock = 40;  ///< ms, for a picture of a block
+constexpr double kPictureEdge = 3;    ///< of a block's picture, logical pixels
 
 /// The largest of the stripes that a covered part leaves free.
 QRect freePart(const QRect& all, const QRect& covered) {
@@ -158,6 +160,9 @@ QPixmap Canvas::blockPicture(drawing::BlockId block, QSize box, std::optional<QC
         painter::QtCanvas canvas(painter, inks, state_->glyphs, style);
         picture::RenderOptions options;
         options.frame = view.frame();
+        QElapsedTimer timer;
+        timer.start();
+        options.leaveOff = [&timer] { return timer.elapsed() > kLongestBlock; };
         picture::Renderer(*state_->picture, canvas, options).drawBlock(block, view.projection());
     }
     if (basePoint) {

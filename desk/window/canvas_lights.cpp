@@ -2,6 +2,7 @@
 
 #include "desk/shapes/read_text.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <cmath>
 
@@ -39,10 +40,15 @@ void CanvasLights::drawWith(QPainter& painter, const Frame& frame, const Light& 
     picture::RenderOptions options;
     options.frame = frame;
     options.solidLines = true;
+    // What lights up follows the mouse; of more than that time allows a part will do.
+    constexpr qint64 kLongest = 60;
+    QElapsedTimer timer;
+    options.leaveOff = [&timer] { return timer.elapsed() > kLongest; };
     painter::QtCanvas::Style style;
     style.fillOpacity = kFillOpacity;
     const auto drawInto = [&](QPainter& on, double width) {
         style.hairline = std::max(width * ratio_, 1.0);
+        timer.start();
         painter::QtCanvas canvas(on, inks, glyphs_, style);
         picture::Renderer renderer(picture_, canvas, options);
         draw(renderer);

@@ -64,7 +64,8 @@ double CanvasState::ratio() const { return canvas.devicePixelRatioF(); }
 void CanvasState::setDrawing(const drawing::Drawing* open) {
     finished.setContent(nullptr, drawing::kNoBlock);
     drawing = open;
-    picture = open != nullptr ? std::make_unique<picture::Picture>(*open) : nullptr;
+    picture = open != nullptr ? &picture::pictureOf(*open) : nullptr;
+    if (picture != nullptr) picture->update();
     space = drawing::kNoBlock;
     marks = {};
     selection.clear();
@@ -112,7 +113,7 @@ void CanvasState::setSpace(drawing::BlockId wanted) {
     snap.reset();
     counts = picture->counts(space);
     fitWhenNew();
-    finished.setContent(picture.get(), space);
+    finished.setContent(picture, space);
     viewChanged();
     emit canvas.countsChanged();
 }

@@ -75,7 +75,7 @@ class CanvasState {
 
     Canvas& canvas;
     const drawing::Drawing* drawing = nullptr;
-    std::unique_ptr<picture::Picture> picture;
+    picture::Picture* picture = nullptr;  ///< the drawing's
     mutable painter::Glyphs glyphs;
     painter::Inks inks;
     drawing::BlockId space = drawing::kNoBlock;

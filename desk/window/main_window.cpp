@@ -1,6 +1,7 @@
 #include "desk/window/main_window.h"
 
 #include "basic/error.h"
+#include "desk/picture/picture.h"
 #include "desk/window/blocks_panel.h"
 #include "desk/window/command_line.h"
 #include "desk/window/desk_texts.h"
@@ -53,6 +54,7 @@ MainWindow::MainWindow(const shell::DeskOptions& options, const MakeFace& face, 
         showHelp(page);
         return true;
     };
+    options_.readied = picture::prepare;
     options_.confirm = [this](const std::string& question) {
         return files_->confirm(deskText(QString::fromStdString(question)));
     };

@@ -38,6 +38,7 @@ class Notes : public Canvas {
         char text[16];
         std::snprintf(text, sizeof text, "%02x%02x%02x ", color.red, color.green, color.blue);
         line << what << (color.isForeground ? "fore " : text);
+        if (ink_.opacity < 1) line << std::lround(ink_.opacity * 100) << "% ";
         if (ink_.width > 0) line << "w" << rounded(ink_.width) << " ";
         for (const Point2& p : points) line << rounded(p.x) << "," << rounded(p.y) << " ";
         lines.push_back(line.str().substr(0, line.str().size() - 1));

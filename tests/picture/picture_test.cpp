@@ -21,6 +21,40 @@ TEST(PictureTest, ColoursComeFromEntityLayerBlockAndReference) {
               (Lines{"ff0000 10,0 11,0", "0000ff 10,1 11,1", "00ff00 10,2 11,2", "010203 0,9 1,9"}));
 }
 
+TEST(PictureTest, TransparencyComesFromEntityLayerAndReference) {
+    PlainDrawing plain;
+    plain.layer("30", "GLASS 70 0 62 4 1001 AcCmTransparency 1071 33554559");  // 0x0200007F
+    plain.block("B").inBlock("LINE 8 0 440 16777216 10 0 20 0 11 1 21 0");     // ByBlock
+    plain.entity("SOLID 8 GLASS 10 0 20 0 11 1 21 0 12 0 22 1 13 1 23 1");
+    plain.entity("INSERT 2 B 8 0 440 33554483 10 0 20 5")
+        .entity("LINE 8 GLASS 440 33554687 10 0 20 9 11 1 21 9");
+    EXPECT_EQ(drawn(*plain.make()),
+              (Lines{"fill1 00ffff 50% 0,0 1,0 1,1 0,1", "fore 20% 0,5 1,5", "00ffff 0,9 1,9"}));
+}
+
+TEST(PictureTest, AnMTextCoversWhatLiesBehindIt) {
+    PlainDrawing plain;
+    const std::string text = " 10 0 20 10 40 2 71 1 1 I 45 1.5 ";
+    plain.entity("MTEXT 8 0" + text + "90 1 63 2").entity("MTEXT 8 0" + text + "90 19");
+    const Lines lines = drawn(*plain.make());
+    ASSERT_EQ(lines.size(), 5u);
+    EXPECT_EQ(lines[0].substr(0, 16), "fill1 ffff00 -1,");
+    EXPECT_EQ(lines[2].substr(0, 6), "cover ");
+    EXPECT_EQ(lines[3].substr(0, 8), "fore -1,");
+}
+
+TEST(PictureTest, ALinetypeBeginsAnewAtEachVertexUnlessItRunsThrough) {
+    PlainDrawing plain(drawing::Kind::R2000);
+    plain.entity("LWPOLYLINE 5 60 8 0 6 HIDDEN 90 3 70 0 10 0 20 0 10 8 20 0 10 8 20 8");
+    plain.entity("LWPOLYLINE 5 61 8 0 6 HIDDEN 90 3 70 128 10 0 20 0 10 8 20 0 10 8 20 8");
+    const auto drawing = plain.make();
+    Picture picture(*drawing);
+    const DisplayList& list = picture.list(drawing->modelSpace());
+    ASSERT_EQ(list.strokes.size(), 2u);
+    EXPECT_TRUE(list.strokes[0].dashesEach);
+    EXPECT_FALSE(list.strokes[1].dashesEach);
+}
+
 TEST(PictureTest, WhatIsHiddenAndWhatIsNotDrawnIsCountedApart) {
     PlainDrawing plain;
     plain.block("B").inBlock("BODY 8 0").inBlock("LINE 8 PLAIN 10 0 20 0 11 1 21 0");
@@ -66,7 +100,7 @@ TEST(PictureTest, HatchPatternsAreClippedToTheirArea) {
     Projection far = plainProjection();
     far.toX.x = far.toY.y = 0.4;
     Renderer(picture, notes, options).draw(drawing->modelSpace(), far);
-    EXPECT_EQ(notes.lines, (Lines{"fill2 fore 0,0 4,0 4,4 0,4 1.6,1.6 2.4,1.6 2.4,2.4 1.6,2.4"}));
+    EXPECT_EQ(notes.lines, (Lines{"fill2 fore 35% 0,0 4,0 4,4 0,4 1.6,1.6 2.4,1.6 2.4,2.4 1.6,2.4"}));
 }
 
 TEST(PictureTest, ALayoutShowsTheModelThroughItsViewports) {

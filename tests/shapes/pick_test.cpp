@@ -252,6 +252,31 @@ TEST(PickTest, TheIndexFollowsTheDrawing) {
     while (drawing->undo()) again("undone");
 }
 
+TEST(PickTest, LargeOnesAreFoundInPartsAndFollowed) {
+    PlainDrawing plain(Kind::R2000);
+    std::string comb = "LWPOLYLINE 5 60 8 0 90 4000 70 0";
+    for (int i = 0; i < 4000; ++i)
+        comb += " 10 " + std::to_string(i / 2) + ".5 20 " + std::to_string((i + 1) / 2 % 2 * 50);
+    plain.block("MANY").inBlock(comb);
+    for (int i = 0; i < 500; ++i)
+        plain.inBlock("LINE 8 0 10 " + std::to_string(i * 7 % 500) + " 20 100 11 " +
+                      std::to_string(i * 7 % 500) + " 21 110");
+    const auto drawing = plain.entity(comb).entity("INSERT 5 61 8 0 2 MANY 10 0 20 1000").make();
+    const auto ids = modelEntities(*drawing);
+    expectPicks(*drawing, 0, {{1234.5, 25}, {0.5, 25}, {1, 50}, {1999.5, 25}});
+    expectPicks(*drawing, 1, {{1234.5, 1025}, {7, 1105}, {499, 1105}, {2, 1105}});
+    expectPicks(*drawing, -1, {{1234, 25}, {2.5, 1105}});
+    EXPECT_EQ(windowed(*drawing, {0, -1, 0}, {2000, 51, 0}, false), std::vector<int>{0});
+    EXPECT_EQ(windowed(*drawing, {0, -1, 0}, {1500, 51, 0}, false), std::vector<int>{});
+    EXPECT_EQ(windowed(*drawing, {700, 1020, 0}, {702, 1030, 0}, true), std::vector<int>{1});
+    drawing->setVisible(ids[0], false);
+    expectPicks(*drawing, -1, {{1234.5, 25}});
+    drawing->setVisible(ids[0], true);
+    expectPicks(*drawing, 0, {{1234.5, 25}});
+    drawing->erase(ids[0]);
+    EXPECT_EQ(pickEntity(*drawing, {1234.5, 25, 0}, 0.1), std::nullopt);
+}
+
 // A door of the sample by its swing, a label by its text, the array by one of its posts.
 TEST(PickTest, Sample) {
     const auto drawing = Drawing::open(VORLANE_ROOT "/samples/apartment.dxf");

@@ -29,7 +29,7 @@ std::string laidOut(const std::string& content, double width = 0, int column = 0
 TEST(MTextTest, CodesParagraphsAndWrapping) {
     EXPECT_EQ(laidOut("AB\\PC"), "AB@0,-100 C@0,-267 ");
     EXPECT_EQ(laidOut("{\\H2x;\\C1;A}B"), "A@0,-200h200c1 B@186,-200 ");
-    EXPECT_EQ(laidOut("\\LA\\lB\\~C\\\\"), "A@0,-100u B@93,-100 \u00A0@186,-100 C@270,-100 \\@371,-100 ");
+    EXPECT_EQ(laidOut("\\LA\\lB\\~C\\\\"), "A@0,-100u B@93,-100 \u00A0@186,-100 C@225,-100 \\@326,-100 ");
     EXPECT_EQ(laidOut("AAA AAA", 4), "AAA@0,-100 AAA@0,-267 ");
     EXPECT_EQ(laidOut("AAA", 10, 2), "AAA@721,-100 ");
     EXPECT_EQ(laidOut("\\A1;%%d\\U+00E9"), "\u00B0@0,-100 \u00E9@84,-100 ");
