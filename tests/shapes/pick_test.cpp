@@ -254,7 +254,7 @@ TEST(PickTest, TheIndexFollowsTheDrawing) {
 
 TEST(PickTest, LargeOnesAreFoundInPartsAndFollowed) {
     PlainDrawing plain(Kind::R2000);
-    std::string comb = "LWPOLYLINE 5 60 8 0 90 4000 70 0";
+    std::string comb = "LWPOLYLINE 5 60 100 AcDbEntity 8 0 100 AcDbPolyline 90 4000 70 0";
     for (int i = 0; i < 4000; ++i)
         comb += " 10 " + std::to_string(i / 2) + ".5 20 " + std::to_string((i + 1) / 2 % 2 * 50);
     plain.block("MANY").inBlock(comb);
