@@ -32,7 +32,6 @@ void registerClass(HINSTANCE module, WNDPROC procedure) {
     shape.lpfnWndProc = procedure;
     shape.hInstance = module;
     shape.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    shape.hIcon = LoadIconW(module, L"VORLANE");
     shape.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     shape.lpszClassName = kClassName;
     RegisterClassExW(&shape);  // fails where it is there already
@@ -63,6 +62,7 @@ FormWindow::~FormWindow() {
     SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
     DestroyWindow(window_);
     DeleteObject(font_);
+    for (HICON icon : icons_) DestroyIcon(icon);
 }
 
 void FormWindow::makeControls(HINSTANCE module) {
@@ -113,6 +113,8 @@ void FormWindow::leave() {
 
 void FormWindow::mark(Change change) {
     formChanges_.add(change);
+    // A long act lets no message through that would ask for the cursor.
+    if (change == Change::Pointer) drawPointer();
     if (!std::exchange(posted_, true)) PostMessageW(window_, WM_APP, 0, 0);
 }
 
@@ -162,8 +164,27 @@ RECT FormWindow::frameFor(int width, int height) const {
     return area;
 }
 
+void FormWindow::drawIcon() {
+    auto* module = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(window_, GWLP_HINSTANCE));
+    const std::wstring name = basic::toWide(form_.icon());
+    for (const bool big : {false, true}) {
+        const int width = GetSystemMetricsForDpi(big ? SM_CXICON : SM_CXSMICON, scale_.dpi());
+        const int height = GetSystemMetricsForDpi(big ? SM_CYICON : SM_CYSMICON, scale_.dpi());
+        auto* icon = static_cast<HICON>(LoadImageW(module, name.c_str(), IMAGE_ICON, width, height, 0));
+        // Set on the window: a dialog's frame shows no icon of its class.
+        SendMessageW(window_, WM_SETICON, big ? ICON_BIG : ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+        HICON old = std::exchange(icons_[big ? 1 : 0], icon);
+        if (old != nullptr) DestroyIcon(old);
+    }
+}
+
+void FormWindow::drawPointer() const {
+    SetCursor(LoadCursorW(nullptr, form_.mousePointer() == kHourglass ? IDC_WAIT : IDC_ARROW));
+}
+
 void FormWindow::drawForm(const forms::Changes& changes) {
     setWindowText(window_, basic::toWide(form_.caption()));
+    if (changes.has(Change::Icon)) drawIcon();
     if (!changes.has(Change::Bounds)) return;
     // The model counts a frame of its own; what must fit is the inside.
     const RECT area = frameFor(scale_.pixels(form_.width() - Form::kFrameWidth),
@@ -211,6 +232,7 @@ void FormWindow::rescale(UINT dpi, const RECT& wanted) {
     scale_ = Scale(dpi);
     makeFont();
     for (const auto& [control, window] : controls_) changes_[control] = forms::Changes::all();
+    drawIcon();
     drawing_ = true;
     SetWindowPos(window_, nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
                  wanted.bottom - wanted.top, SWP_NOZORDER | SWP_NOACTIVATE);

@@ -5,6 +5,7 @@
 #include "forms/form.h"
 #include "forms/keys.h"
 
+#include <array>
 #include <exception>
 #include <functional>
 #include <map>
@@ -42,6 +43,8 @@ class FormWindow {
     bool takeKey(const MSG& message);
 
   private:
+    static constexpr int kHourglass = 11;  ///< of the model's pointers
+
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l);
     bool handle(UINT message, WPARAM w, LPARAM l, LRESULT& result);
     void command(forms::Control& control, HWND window, WORD code);
@@ -61,6 +64,8 @@ class FormWindow {
     void makeControls(HINSTANCE module);
     void makeFont();
     void drawForm(const forms::Changes& changes);
+    void drawIcon();
+    void drawPointer() const;
     void drawFocus();
     void markContents(const forms::Control& container, forms::Change change);
     forms::Control* controlOf(HWND window) const;
@@ -70,6 +75,7 @@ class FormWindow {
     HWND window_ = nullptr;
     HWND tips_ = nullptr;
     HFONT font_ = nullptr;
+    std::array<HICON, 2> icons_{};  ///< the small one, the large one
     Scale scale_;
     DWORD style_ = 0;
     std::vector<forms::Control*> order_;

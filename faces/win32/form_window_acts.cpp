@@ -17,8 +17,6 @@ namespace acts = forms::acts;
 
 namespace {
 
-constexpr int kHourglass = 11;
-
 struct NativeKey {
     WORD code;
     Key key;
@@ -150,7 +148,7 @@ bool FormWindow::handle(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
             return true;
         case WM_SETCURSOR:
             if (form_.mousePointer() != kHourglass) return false;
-            SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+            drawPointer();
             result = TRUE;
             return true;
         case WM_ACTIVATE:

@@ -3,7 +3,7 @@ Opened apartment.dxf
 ; language: en
 ; copy: resources/languages/English.LNG
 ; before: mkdir -p data/vorlane
-; before: LC_ALL=C sed 's/^:Language=.*/:Language=Espa\xF1ol\r/;s/^msg_54=.*/msg_54=Acerca de \r/;s/^001_6=.*/001_6=P\xE1gina web\r/;s/^006_5=.*/006_5=Nuevo\r/' English.LNG > data/vorlane/espanol.lng
+; before: LC_ALL=C sed 's/^:Language=.*/:Language=Espa\xF1ol\r/;s/^msg_54=.*/msg_54=Acerca de \r/;s/^001_6=.*/001_6=P\xE1gina web\r/;s/^006_5=.*/006_5=Nuevo\r/' English.LNG > data/vorlane/spanish.lng
 ; run: print_setting.py Lng
 ; A third language, dropped beside the two delivered ones. A choice is there at once in this dialog, and in the others
 ; from the next command on; a text that is no language falls back to the first.

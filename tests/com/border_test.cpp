@@ -82,8 +82,8 @@ TEST_F(BorderTest, CarriesCallsAndWhatComesBack) {
 
 TEST_F(BorderTest, CarriesFailures) {
     EXPECT_EQ(numberOf([&] { here_->set("Locked", 1.0); }), 70);
-    EXPECT_EQ(numberOf([&] { here_->invoke("Missing"); }), 438);
-    EXPECT_EQ(numberOf([&] { here_->invoke("Bug"); }), Dispatch::kInternalError);
+    EXPECT_EQ(numberOf([&] { here_->invoke("Missing", {1}); }), 438);
+    EXPECT_EQ(numberOf([&] { here_->invoke("Bug", {1}); }), basic::kInternalError);
 }
 
 TEST_F(BorderTest, GivesAnObjectBackAsItselfAndOnePointerToEach) {

@@ -29,16 +29,16 @@ inline const std::vector<std::string>& contractLines() {
                                                    "ListView1 # 2",
                                                    "ListView1 # 1 = x",
                                                    "ListView1 # 3 = y",
+                                                   "ListView1 column 2 1500",
                                                    "ListView1",
                                                    "ListView1 key UP",
                                                    "key HOME",
-                                                   "ListView1 column 2 1500",
                                                    "Option2 key UP",
                                                    "List1 key DOWN",
                                                    "key TAB",
                                                    "key SHIFT+TAB",
                                                    "key ALT+R",
-                                                   "resize 7120 5405",
+                                                   "resize 7125 5400",
                                                    "key F1",
                                                    "Button1",
                                                    "Button1",
@@ -69,11 +69,14 @@ class ContractFace {
         if (lines_.empty()) ADD_FAILURE() << form.name() << " waits for an act";
         return !lines_.empty();
     }
-    void next(forms::Form& form, text_face::Hand& hand) {
+    std::string takeLine() {
         const std::string line = lines_.front();
         lines_.pop_front();
+        return line;
+    }
+    void next(forms::Form& form, text_face::Hand& hand) {
         std::ostringstream output;
-        text_face::performLine(output, hand, form, line);
+        text_face::performLine(output, hand, form, takeLine());
     }
 
   private:
@@ -94,7 +97,7 @@ inline void expectContract(ContractFace& face) {
                                  forms::Answer::Yes;
                 form.CommonDialog1.showOpen(screen);
                 const std::string& path = form.CommonDialog1.fileName();
-                form.events.push_back((yes ? "yes " : "no ") + path.substr(path.rfind('/') + 1));
+                form.events.push_back((yes ? "yes " : "no ") + path.substr(path.find_last_of("/\\") + 1));
                 form.show(screen);
                 break;
             }
@@ -143,7 +146,7 @@ inline void expectContract(ContractFace& face) {
       2 | window |
       3 | y |
   Button1: [Go]
-7120 5405 0 2 1500 Button1
+7125 5400 0 2 1500 Button1
 )");
 }
 

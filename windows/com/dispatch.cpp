@@ -1,5 +1,6 @@
 #include "windows/com/dispatch.h"
 
+#include "basic/border.h"
 #include "basic/wide.h"
 #include "windows/com/enumerator.h"
 #include "windows/com/ole.h"
@@ -96,11 +97,11 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID reserved, LCID, WORD kind, DISPPARAMS
     if (parameters == nullptr) return E_POINTER;
     const host::ObjectPtr kept = object_;  // the member may release the last pointer to us
     try {
-        return invoke(id, kind, *parameters, result);
+        return basic::acrossBorder([&] { return invoke(id, kind, *parameters, result); });
     } catch (const basic::Error& error) {
         return fillException(error, info);
-    } catch (const std::exception& failure) {
-        return fillException(basic::Error(kInternalError, failure.what()), info);
+    } catch (const basic::Interruption& interruption) {
+        return fillException(basic::Error(basic::kInternalError, interruption.what()), info);
     }
 }
 

@@ -10,12 +10,9 @@ namespace com {
 ///
 /// Names match without regard to case. Without type information any name has a number, and a member that the
 /// object lacks fails in Invoke; with it a foreign name fails at once, and named arguments are known. No
-/// exception leaves: a failure becomes exception information (`fillException`), one that is no basic::Error
-/// the number kInternalError.
+/// exception leaves: a failure becomes exception information (`fillException`).
 class Dispatch final : public IDispatch {
   public:
-    static constexpr std::int32_t kInternalError = 51;
-
     Dispatch(Border& border, host::ObjectPtr object, const ObjectType* type);
     virtual ~Dispatch();
     Dispatch(const Dispatch&) = delete;

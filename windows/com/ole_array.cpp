@@ -56,7 +56,7 @@ basic::Array fromAnyElements(SAFEARRAY* array, VARTYPE type, Border& border) {
 
 SAFEARRAY* newArray(VARTYPE type, std::size_t count) {
     SAFEARRAY* array = SafeArrayCreateVector(type, 0, static_cast<ULONG>(count));
-    if (array == nullptr) throw basic::Error(kOutOfMemory, "Out of memory");
+    if (array == nullptr) throw basic::Error(basic::kOutOfMemory);
     return array;
 }
 

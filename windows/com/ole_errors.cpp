@@ -20,16 +20,11 @@ struct NumberedResult {
 };
 
 constexpr NumberedResult kNumbers[] = {
-    {DISP_E_UNKNOWNNAME, basic::kNoSuchMember},
-    {DISP_E_MEMBERNOTFOUND, basic::kNoSuchMember},
-    {DISP_E_TYPEMISMATCH, basic::kTypeMismatch},
-    {DISP_E_BADVARTYPE, basic::kTypeMismatch},
-    {DISP_E_OVERFLOW, basic::kOverflow},
-    {DISP_E_BADINDEX, basic::kSubscript},
-    {DISP_E_BADPARAMCOUNT, kArgumentCount},
-    {DISP_E_PARAMNOTOPTIONAL, kArgumentNotOptional},
-    {E_OUTOFMEMORY, kOutOfMemory},
-    {E_INVALIDARG, basic::kInvalidCall},
+    {DISP_E_UNKNOWNNAME, basic::kNoSuchMember},  {DISP_E_MEMBERNOTFOUND, basic::kNoSuchMember},
+    {DISP_E_TYPEMISMATCH, basic::kTypeMismatch}, {DISP_E_BADVARTYPE, basic::kTypeMismatch},
+    {DISP_E_OVERFLOW, basic::kOverflow},         {DISP_E_BADINDEX, basic::kSubscript},
+    {DISP_E_BADPARAMCOUNT, kArgumentCount},      {DISP_E_PARAMNOTOPTIONAL, kArgumentNotOptional},
+    {E_OUTOFMEMORY, basic::kOutOfMemory},        {E_INVALIDARG, basic::kInvalidCall},
     {E_ACCESSDENIED, basic::kPermissionDenied},
 };
 

@@ -7,7 +7,6 @@
 
 namespace com {
 
-inline constexpr std::int32_t kOutOfMemory = 7;
 inline constexpr std::int32_t kArgumentNotOptional = 449;
 inline constexpr std::int32_t kArgumentCount = 450;
 inline constexpr std::int32_t kNoSuchClass = 429;  ///< the object couldn't be created

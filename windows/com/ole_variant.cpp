@@ -23,7 +23,7 @@ std::string textOf(BSTR text) {
 BSTR newText(const std::string& text) {
     const std::wstring wide = basic::toWide(text);
     BSTR made = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
-    if (made == nullptr) throw basic::Error(kOutOfMemory, "Out of memory");
+    if (made == nullptr) throw basic::Error(basic::kOutOfMemory);
     return made;
 }
 

@@ -44,12 +44,34 @@ void printFilters(std::ostream& output, HWND box) {
     for (const std::string& label : entriesOf(filters)) output << "|  " << label << '\n';
 }
 
-/// A box with OK alone gives its button the id of cancel, so that Escape works.
-bool isLoneOk(HWND box) { return GetDlgItem(box, IDOK) == nullptr && GetDlgItem(box, IDYES) == nullptr; }
+/// A box with OK alone: Windows gives its button the id of cancel, so that Escape works; Wine doesn't.
+bool isLoneOk(HWND box) {
+    return GetDlgItem(box, IDYES) == nullptr &&
+           (GetDlgItem(box, IDOK) == nullptr || GetDlgItem(box, IDCANCEL) == nullptr);
+}
 
 bool offers(HWND box, int id) {
     if (isLoneOk(box)) return id == IDOK;
     return GetDlgItem(box, id) != nullptr;
+}
+
+struct NamedIcon {
+    LPCWSTR icon;
+    const char* mark;
+};
+// The system's icons are shared: one handle each.
+const NamedIcon kIcons[] = {{IDI_EXCLAMATION, " (!)"}, {IDI_INFORMATION, " (i)"}};
+
+/// The mark of a message box's icon, as the text face prints it; empty for none.
+const char* iconMark(HWND box) {
+    for (HWND child = GetWindow(box, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (classOf(child) != "Static" || (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) != SS_ICON)
+            continue;
+        const auto shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+        for (const NamedIcon& known : kIcons)
+            if (shown != nullptr && shown == LoadIconW(nullptr, known.icon)) return known.mark;
+    }
+    return "";
 }
 
 void choose(HWND box, std::string_view path) {
@@ -67,8 +89,13 @@ bool isFailureReport(HWND box) {
            textOf(GetDlgItem(box, kMessageText)).starts_with(kFailurePrefix);
 }
 
+std::optional<std::string> warning(HWND box) {
+    if (isFileDialog(box) || !isLoneOk(box) || iconMark(box) != std::string_view(" (!)")) return std::nullopt;
+    return textOf(GetDlgItem(box, kMessageText));
+}
+
 void printBox(std::ostream& output, HWND box) {
-    output << "+-- " << textOf(box) << '\n';
+    output << "+-- " << textOf(box) << iconMark(box) << '\n';
     if (isFileDialog(box)) {
         printFilters(output, box);
         output << "+-- [file PATH] [cancel]\n";
@@ -102,7 +129,7 @@ void answerBox(HWND box, std::string_view answer) {
     }
     for (const NamedButton& button : kButtons) {
         if (!basic::equalIgnoringCase(basic::trim(answer), button.word) || !offers(box, button.id)) continue;
-        const int id = isLoneOk(box) ? IDCANCEL : button.id;
+        const int id = GetDlgItem(box, button.id) != nullptr ? button.id : IDCANCEL;
         PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(id), 0);
         return;
     }

@@ -3,6 +3,7 @@
 #include "windows/stand_in/native.h"
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,9 @@ namespace stand_in {
 bool isFileDialog(HWND box);
 /// Whether a message box is the face's report of a failure that left a handler.
 bool isFailureReport(HWND box);
+
+/// The text of a message box that warns and asks nothing: something went wrong. Nothing for any other box.
+std::optional<std::string> warning(HWND box);
 
 /// Prints a box as the text face does.
 void printBox(std::ostream& output, HWND box);

@@ -36,6 +36,15 @@ HostSession::HostSession(const std::filesystem::path& lispFile, basic::Regional 
       output_(output),
       story_(source, output, manner),
       manner_(manner) {
+    const auto document = [this]() -> model::Document& {
+        drawing();  // raises where none is open
+        return *application_->active();
+    };
+    lisp_.setVariables(
+        {[document](std::string_view name) { return document().invoke("GetVariable", {name}); },
+         [document](std::string_view name, const basic::Variant& value) {
+             document().invoke("SetVariable", {name, value});
+         }});
     lisp_.setAcadObject(application_);
     application_->registerObject("VL.Application", [this] { return lisp_.createObject("VL.Application"); });
     application_->registerObject(kProgramId, [this] { return createComponent(); });

@@ -37,6 +37,18 @@ Kind buttonKind(HWND button) {
     }
 }
 
+struct TipSearch {
+    HWND form;
+    HWND tips;
+};
+
+BOOL CALLBACK findTips(HWND window, LPARAM search) {
+    auto& sought = *reinterpret_cast<TipSearch*>(search);
+    if (classOf(window) != "tooltips_class32" || GetWindow(window, GW_OWNER) != sought.form) return TRUE;
+    sought.tips = window;
+    return FALSE;
+}
+
 BOOL CALLBACK findTop(HWND window, LPARAM found) {
     if (!IsWindowVisible(window) || !IsWindowEnabled(window) || (!isForm(window) && !isBox(window)))
         return TRUE;
@@ -89,6 +101,21 @@ HWND controlNamed(HWND form, const std::string& name) {
     for (HWND control : controlsOf(form))
         if (basic::equalIgnoringCase(nameOf(control), name)) return control;
     throw forms::ActError("there is no control " + name);
+}
+
+std::string toolTipOf(HWND form, HWND control) {
+    TipSearch search{form, nullptr};
+    EnumThreadWindows(GetCurrentThreadId(), findTips, reinterpret_cast<LPARAM>(&search));
+    wchar_t text[1024] = L"";
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof tool;
+    tool.uFlags = TTF_IDISHWND;
+    tool.hwnd = form;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    tool.lpszText = text;
+    if (search.tips != nullptr)
+        SendMessageW(search.tips, TTM_GETTEXTW, std::size(text), reinterpret_cast<LPARAM>(&tool));
+    return basic::fromWide(text);
 }
 
 bool isForm(HWND window) { return classOf(window) == kFormClass; }

@@ -25,6 +25,9 @@ std::vector<HWND> controlsOf(HWND form);
 /// Raises forms::ActError where the form has no such control.
 HWND controlNamed(HWND form, const std::string& name);
 
+/// The text of a control's tool tip; empty for none.
+std::string toolTipOf(HWND form, HWND control);
+
 bool isForm(HWND window);
 /// A message box or a file dialog of the system.
 bool isBox(HWND window);

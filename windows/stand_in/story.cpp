@@ -67,16 +67,22 @@ void Story::step() {
     // No exception may pass through the system's frames.
     try {
         HWND top = topDialog();
-        if (top == nullptr || ended_) return;
+        if (top != nullptr && !ended_) stepOn(top);
+    } catch (const std::exception& error) {
+        cannotGoOn(error.what());
+    }
+}
+
+void Story::stepOn(HWND top) {
+    try {
         if (isBox(top)) {
             stepOnBox(top);
         } else {
             stepOnForm(top);
         }
     } catch (const forms::ActError& error) {
-        cannotGoOn("line " + std::to_string(source_.lineNumber()) + ": " + error.what());
-    } catch (const std::exception& error) {
-        cannotGoOn(error.what());
+        if (manner_ == Manner::Lenient) return cannotGoOn(error.what());
+        text_face::refuseLine(source_, output_, error.what());
     }
 }
 
@@ -113,12 +119,15 @@ void Story::stepOnBox(HWND box) {
     }
     const auto line = nextLine(isFileDialog(box) ? "a file dialog" : "a message box");
     if (ended_) return;
-    box_ = nullptr;
-    if (line) {
-        answerBox(box, *line);
-    } else {
+    if (!line) {
+        box_ = nullptr;
         PostMessageW(box, WM_CLOSE, 0, 0);
+        return;
     }
+    const std::optional<std::string> warned = warning(box);
+    answerBox(box, *line);
+    box_ = nullptr;
+    if (warned && manner_ == Manner::Strict) source_.fail(*warned);
 }
 
 void Story::announce(HWND form) {

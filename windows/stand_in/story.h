@@ -39,6 +39,7 @@ class Story {
     static LRESULT CALLBACK watch(int code, WPARAM current, LPARAM message);
 
     void step();
+    void stepOn(HWND top);
     void stepOnBox(HWND box);
     void stepOnForm(HWND form);
     void announce(HWND form);

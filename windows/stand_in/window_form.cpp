@@ -81,6 +81,8 @@ Control& WindowForm::read(HWND window) {
     Control& control = *all_.back();
     control.setVisible((GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE) != 0);
     if (control.has(forms::Property::Caption)) control.setCaption(plainCaption(textOf(window)));
+    if (control.has(forms::Property::ToolTipText))
+        control.setToolTipText(toolTipOf(GetParent(window), window));
     if (control.has(forms::Property::Enabled)) control.setEnabled(IsWindowEnabled(window) != FALSE);
     return control;
 }
