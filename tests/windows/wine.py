@@ -3,6 +3,7 @@
 import os
 import shutil
 import subprocess
+import tempfile
 from pathlib import Path
 
 DESKTOP = "acts"
@@ -20,13 +21,19 @@ class Prefix:
     def __init__(self, folder, build, dpi=96):
         self.folder, self.build, self.dpi = Path(folder).resolve(), Path(build).resolve(), dpi
         self.environment = dict(os.environ, WINEPREFIX=str(self.folder), WINEDEBUG="-all", WINEARCH="win64",
-                                WINEDLLOVERRIDES="mscoree,mshtml=;hhctrl.ocx=n", LANG="en_US.UTF-8", LC_ALL="")
-        self.display = None
+                                WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe=;hhctrl.ocx=n", LANG="en_US.UTF-8", LC_ALL="")
+        self.display = self.keeper = None
 
     def run(self, command, **options):
         """Runs a Windows program and gives what it printed."""
-        return subprocess.run(["wine", *command], env=self.environment, stdin=subprocess.DEVNULL, capture_output=True,
-                              **options)
+        # Into files: a pipe would stay open as long as the desktop lives, which a program may start.
+        with tempfile.TemporaryFile() as output, tempfile.TemporaryFile() as errors:
+            done = subprocess.run(["wine", *command], env=self.environment, stdin=subprocess.DEVNULL, stdout=output, stderr=errors,
+                                  **options)
+            for file in (output, errors):
+                file.seek(0)
+            done.stdout, done.stderr = output.read(), errors.read()
+        return done
 
     def must(self, *command):
         done = self.run([str(word) for word in command], timeout=120)
@@ -47,17 +54,23 @@ class Prefix:
         if not (self.folder / "system.reg").exists():
             self.folder.mkdir(parents=True, exist_ok=True)
             subprocess.run(["wineboot", "-i"], env=self.environment, capture_output=True, timeout=180, check=True)
+        # A session of Wine ends with its last program, and beginning one takes seconds: this one waits for its input.
+        self.keeper = subprocess.Popen(["wine", "cmd"], env=self.environment, stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                                       stderr=subprocess.DEVNULL)
         self.set_value(r"HKCU\Software\Wine\Explorer", "Desktop", DESKTOP)
         self.set_value(r"HKCU\Software\Wine\Explorer\Desktops", DESKTOP, SIZE)
         self.set_value(r"HKCU\Control Panel\Desktop", "LogPixels", str(self.dpi), "REG_DWORD")
         shutil.copy(self.build / "hhctrl.ocx", self.folder / "drive_c/windows/system32")
         opener = f'"{windows_path(self.build / "stand-in.exe")}" --opened "%1"'
-        self.set_value(r"HKCU\Software\Classes\https\shell\open\command", "", opener)
+        self.set_value(r"HKLM\Software\Classes\https\shell\open\command", "", opener)
         self.must("regsvr32", "/s", windows_path(self.build / "Vorlane.dll"))
         return self
 
     def __exit__(self, *_):
         subprocess.run(["wineserver", "-k"], env=self.environment, capture_output=True, timeout=60)
+        if self.keeper:
+            self.keeper.stdin.close()
+            self.keeper.wait()
         if self.display:
             self.display.terminate()
             self.display.wait()

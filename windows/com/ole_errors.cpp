@@ -44,11 +44,13 @@ std::string systemText(HRESULT result) {
     return basic::fromWide({text, length});
 }
 
+/// In the words of the desk's own objects; a result that has no number of ours in the system's.
 std::string describe(std::int32_t number, HRESULT result, std::string_view member) {
-    std::string text = number > 0 && number <= static_cast<std::int32_t>(kLowWord)
-                           ? basic::standardDescription(static_cast<basic::ErrorNumber>(number))
-                           : systemText(result);
-    return text.append(": '").append(member).append("'");
+    if (number <= 0 || number > static_cast<std::int32_t>(kLowWord))
+        return systemText(result).append(": '").append(member).append("'");
+    std::string text = basic::standardDescription(static_cast<basic::ErrorNumber>(number));
+    if (number == basic::kNoSuchMember) text.append(": '").append(member).append("'");
+    return text;
 }
 
 /// Takes the description out of an exception and makes its code the result; frees its texts.

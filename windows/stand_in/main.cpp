@@ -1,11 +1,12 @@
 // A program in AutoCAD's place for the tests of the add-in: see docs/autocad.md.
 //
 //   stand_in DRAWING --script FILE --lisp vorlane.lsp [--regional fr|en] [--install FOLDER] [--refuse MEMBER]
-//            [--keep-registry] [--lenient | --hold] [--counts]
+//            [--keep-registry] [--lock FILE] [--lenient | --hold] [--counts]
 //
-// --install writes the install folder into the registry unless --keep-registry; --lenient answers what comes
-// after the script's end, so that a script needn't know which boxes a failure brings; --hold
-// leaves the dialog that is up at the end as it is.
+// --install writes the install folder into the registry unless --keep-registry; --lock keeps others from
+// writing a file, as in a folder where the user may only read; --lenient answers what comes after the
+// script's end, so that a script needn't know which boxes a failure brings; --hold leaves the dialog that is
+// up at the end as it is.
 
 #include "basic/path.h"
 #include "basic/text.h"
@@ -56,6 +57,12 @@ void setInstallFolder(const std::string& folder) {
                     static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t)));
 }
 
+/// Opens a file so that others may read it and not write it, until the program ends.
+void lock(const std::string& file) {
+    CreateFileW(basic::toPath(file).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0,
+                nullptr);
+}
+
 stand_in::Story::Manner mannerOf(const Options& options) {
     using Manner = stand_in::Story::Manner;
     if (options.count("--hold") != 0) return Manner::Holding;
@@ -84,6 +91,7 @@ int run(Options options, std::ostream& output) {
         options["--regional"] == "fr" ? basic::Regional::french() : basic::Regional::english();
     setRegional(regional);
     if (options.count("--keep-registry") == 0) setInstallFolder(options["--install"]);
+    if (options.count("--lock") != 0) lock(options["--lock"]);
     std::optional<stand_in::HostSession> session;
     try {
         session.emplace(basic::toPath(options["--lisp"]), regional, prompter, lines, output,
