@@ -125,6 +125,8 @@ def compare(script, console, windows, keep):
             left, right = files(top / "linux"), files(top / "windows")
             wrong += [f"file {file} differs" for file in sorted(left.keys() | right.keys()) if left.get(file) != right.get(file)]
             if keep and wrong:
+                (top / "linux.story").write_text(there, encoding="utf-8")
+                (top / "windows.story").write_text(here, encoding="utf-8")
                 shutil.copytree(top, keep / f"{script.stem}-{number}", dirs_exist_ok=True)
     return wrong
 
