@@ -6,6 +6,7 @@
 #include "windows/stand_in/dialog_acts.h"
 #include "windows/stand_in/window_form.h"
 
+#include <filesystem>
 #include <fstream>
 
 namespace {
@@ -75,7 +76,8 @@ class NativeFace : public fakes::ContractFace, public forms::Screen {
             stand_in::passFailure(output_, box);
         } else {
             stand_in::answerBox(
-                box, stand_in::isFileDialog(box) ? std::string("file ") + fakes::kContractFile : "yes");
+                box, stand_in::isFileDialog(box) ? std::string("file ") + fakes::kContractFile : "yes",
+                folder_);
         }
     }
 
@@ -84,6 +86,7 @@ class NativeFace : public fakes::ContractFace, public forms::Screen {
     win32_face::Win32Screen win32_{GetModuleHandleW(nullptr)};
     std::ostringstream output_;
     forms::Form* form_ = nullptr;
+    const std::filesystem::path folder_ = std::filesystem::current_path();
     UINT_PTR timer_ = 0;
 };
 

@@ -83,8 +83,9 @@ def check_failures(prefix):
     expect("a missing settings file gives one box", "Erreur 53" in run.text and run.code == 0)
     run = Run(prefix, "VNABOUT\nok\nLIST\n", spoil=lambda r: r.install.rename(r.folder / "elsewhere"))
     expect("a missing install folder gives one box", "Erreur 76" in run.text and run.code == 0)
-    run = Run(prefix, ABOUT + "LIST\n", spoil=lambda r: r.settings.chmod(0o444))
-    expect("a settings file that can't be written is passed over", run.code == 0 and "[fmAbout] hidden" in run.text)
+    run = Run(prefix, ABOUT + "LIST\n", options=("--lock", r"install\Vorlane.ini"))
+    expect("a settings file that can't be written is passed over, and stays as it was",
+           run.code == 0 and "[fmAbout] hidden" in run.text and "Erreur" not in run.text and "V_" not in run.saved)
     prefix.run(["reg", "delete", r"HKLM\Software\Merovane", "/f"], timeout=60)
     run = Run(prefix, "VNABOUT\nok\nLIST\n", options=("--keep-registry",))
     expect("no registry value gives one box", "Erreur " in run.text and run.code == 0)

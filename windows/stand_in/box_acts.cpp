@@ -6,7 +6,6 @@
 #include "forms/acts.h"
 
 #include <dlgs.h>
-#include <filesystem>
 #include <ostream>
 
 namespace stand_in {
@@ -74,8 +73,7 @@ const char* iconMark(HWND box) {
     return "";
 }
 
-void choose(HWND box, std::string_view path) {
-    const std::filesystem::path full = std::filesystem::current_path() / basic::toPath(path);
+void choose(HWND box, const std::filesystem::path& full) {
     SendMessageW(nameField(box), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(full.c_str()));
     PostMessageW(box, WM_COMMAND, IDOK, 0);
 }
@@ -116,12 +114,12 @@ std::string passFailure(std::ostream& output, HWND box) {
     return text;
 }
 
-void answerBox(HWND box, std::string_view answer) {
+void answerBox(HWND box, std::string_view answer, const std::filesystem::path& folder) {
     if (isFileDialog(box)) {
         if (basic::trim(answer) == "cancel") {
             PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
         } else if (answer.starts_with("file ")) {
-            choose(box, basic::trim(answer.substr(5)));
+            choose(box, folder / basic::toPath(basic::trim(answer.substr(5))));
         } else {
             throw forms::ActError("is neither \"file PATH\" nor \"cancel\"");
         }

@@ -2,6 +2,7 @@
 
 #include "windows/stand_in/native.h"
 
+#include <filesystem>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -21,8 +22,9 @@ std::optional<std::string> warning(HWND box);
 void printBox(std::ostream& output, HWND box);
 /// Prints a failure as the text face does, and dismisses the box. Gives the failure's text.
 std::string passFailure(std::ostream& output, HWND box);
-/// Answers a box: ok, cancel, yes, no; "file PATH", a relative path counting from the current folder. Raises
+/// Answers a box: ok, cancel, yes, no; "file PATH", a relative path counting from `folder`: a file dialog may
+/// change the current folder while it is up. Raises
 /// forms::ActError for an answer that the box doesn't offer.
-void answerBox(HWND box, std::string_view answer);
+void answerBox(HWND box, std::string_view answer, const std::filesystem::path& folder);
 
 }  // namespace stand_in

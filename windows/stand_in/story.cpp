@@ -125,7 +125,7 @@ void Story::stepOnBox(HWND box) {
         return;
     }
     const std::optional<std::string> warned = warning(box);
-    answerBox(box, *line);
+    answerBox(box, *line, folder_);
     box_ = nullptr;
     if (warned && manner_ == Manner::Strict) source_.fail(*warned);
 }
@@ -140,11 +140,20 @@ void Story::announce(HWND form) {
 
 void Story::stepOnForm(HWND form) {
     if (std::find(up_.begin(), up_.end(), form) == up_.end()) return announce(form);
+    // A system dialog on its way out lets timers through while the act that brought it goes on.
+    if (std::find(acting_.begin(), acting_.end(), form) != acting_.end()) return;
     const std::string line = nextLine(nameOf(form)).value_or("close");
     if (ended_) return;
     // The close box unloads the form: it comes back as if it were new.
     if (basic::trim(line) == "close") known_.erase(nameOf(form));
-    performOnWindow(output_, form, line);
+    acting_.push_back(form);
+    try {
+        performOnWindow(output_, form, line);
+    } catch (...) {
+        acting_.pop_back();
+        throw;
+    }
+    acting_.pop_back();
 }
 
 }  // namespace stand_in

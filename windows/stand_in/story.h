@@ -3,6 +3,7 @@
 #include "faces/text/line_source.h"
 #include "windows/stand_in/native.h"
 
+#include <filesystem>
 #include <iosfwd>
 #include <optional>
 #include <set>
@@ -51,10 +52,12 @@ class Story {
     text_face::LineSource& source_;
     std::ostream& output_;
     Manner manner_;
+    std::filesystem::path folder_ = std::filesystem::current_path();  ///< as the program began
     bool ended_ = false;
     std::vector<HWND> up_;         ///< the forms told of that are visible
     std::set<std::string> known_;  ///< the dialogs that were drawn since they were loaded
-    HWND box_ = nullptr;           ///< the box told of
+    std::vector<HWND> acting_;  ///< the forms with an act under way, which may have brought the next one up
+    HWND box_ = nullptr;        ///< the box told of
     HHOOK hook_ = nullptr;
     UINT_PTR timer_ = 0;
 };
