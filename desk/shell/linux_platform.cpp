@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <sys/stat.h>
 
 namespace shell {
 
@@ -43,6 +44,16 @@ std::vector<std::string> LinuxPlatform::folderFiles(const std::string& folder) {
     if (error) throw basic::Error(basic::kPathNotFound, "Path not found: " + folder);
     std::sort(files.begin(), files.end());
     return files;
+}
+
+std::optional<platform::FileState> LinuxPlatform::fileState(const std::string& path) {
+    struct stat found {};
+    if (stat(path.c_str(), &found) != 0 || !S_ISREG(found.st_mode)) return std::nullopt;
+    // The time of the last change of anything: a copy's own times can be set back, this one can't.
+    const auto changed =
+        std::chrono::seconds(found.st_ctim.tv_sec) + std::chrono::nanoseconds(found.st_ctim.tv_nsec);
+    return platform::FileState{std::chrono::system_clock::time_point(changed),
+                               static_cast<std::uint64_t>(found.st_size), found.st_ino};
 }
 
 std::string LinuxPlatform::joinPath(std::string_view folder, std::string_view name) {

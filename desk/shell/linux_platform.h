@@ -26,6 +26,7 @@ class LinuxPlatform : public platform::Platform {
                                                          std::string_view valueName) override;
     /// In the order of the names' bytes, so that every start finds the same first language.
     std::vector<std::string> folderFiles(const std::string& folder) override;
+    std::optional<platform::FileState> fileState(const std::string& path) override;
     std::string joinPath(std::string_view folder, std::string_view name) override;
     std::string baseName(std::string_view path) override;
     std::string ownFolder() override;

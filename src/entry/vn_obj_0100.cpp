@@ -9,7 +9,6 @@
 #include "language/language.h"
 #include "platform/platform.h"
 #include "platform/version.h"
-#include "session/entry_file.h"
 #include "session/settings.h"
 
 #include <string>
@@ -38,7 +37,7 @@ void warnOfLineFeeds(Session& session) {
     std::vector<std::string> files{session.IniFile};
     for (const session::LngRecord& language : session.LngList) files.push_back(language.File);
     for (const std::string& file : files) {
-        if (session.toldFiles.contains(file) || !session::hasBareLineFeeds(file)) continue;
+        if (session.toldFiles.contains(file) || !session.entryFiles().hasBareLineFeeds(file)) continue;
         session.toldFiles.insert(file);
         forms::MessageDialog box;
         box.text = file +

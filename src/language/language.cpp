@@ -5,7 +5,6 @@
 #include "basic/numbers.h"
 #include "basic/text.h"
 #include "platform/platform.h"
-#include "session/entry_file.h"
 #include "session/settings.h"
 
 #include <algorithm>
@@ -44,7 +43,7 @@ void SetLanguage(Session& session, const std::string& Name) {
 std::string LngValue(const Session& session, const std::string& Key, std::string& File, std::int16_t Mode,
                      const std::string& Value) {
     if (File.empty()) File = session.CurLng.File;
-    return session::entryValue(Key, File, Mode, Value, session::Overwrite::EmptyOnly);
+    return session.entryFiles().value(Key, File, Mode, Value, session::Overwrite::EmptyOnly);
 }
 
 std::string GetMsg(const Session& session, std::int32_t Id) {

@@ -2,6 +2,7 @@
 
 #include "basic/numbers.h"
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -22,6 +23,14 @@ struct RegistryValue {
     std::string bytes;
 };
 
+/// What tells that a file isn't what it was.
+struct FileState {
+    std::chrono::system_clock::time_point changed;  ///< as finely as the file system counts
+    std::uint64_t size = 0;
+    std::uint64_t number = 0;  ///< another one for a file that took its place
+    bool operator==(const FileState&) const = default;
+};
+
 /// The few things that the logic asks of the operating system. Paths and texts are UTF-8.
 class Platform {
   public:
@@ -35,6 +44,8 @@ class Platform {
     /// The full paths of a folder's files, without its folders, in the order in which the system enumerates
     /// them. Raises kPathNotFound where there is no such folder.
     virtual std::vector<std::string> folderFiles(const std::string& folder) = 0;
+    /// Nothing for what isn't there or is no file, such as a folder or a pipe.
+    virtual std::optional<FileState> fileState(const std::string& path) = 0;
     /// `folder`, the system's separator, `name`: always in this form, so that an empty folder gives a path
     /// that leads nowhere, never a file of the current folder.
     virtual std::string joinPath(std::string_view folder, std::string_view name) = 0;

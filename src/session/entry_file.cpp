@@ -6,6 +6,7 @@
 #include "basic/text_file.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <limits>
@@ -99,21 +100,11 @@ void rewrite(const std::string& path, const std::vector<std::string>& lines) {
     }
 }
 
-}  // namespace
-
-bool hasBareLineFeeds(const std::string& file) {
-    TextReader reader(file);
-    return !reader.atEnd() && reader.readLine().find('\n') != std::string::npos;
-}
-
-std::string entryValue(const std::string& key, const std::string& file, std::int16_t mode,
-                       const std::string& value, Overwrite overwrite) {
-    if (key.empty()) return {};
-    const std::string trimmed(basic::trim(key));
-    const Wanted wanted(trimmed);
+/// Reads or writes line by line.
+std::string passOver(const std::string& file, const std::string& key, const std::string& entry,
+                     std::int16_t mode, const std::string& value, Overwrite overwrite) {
+    const Wanted wanted(key);
     const bool writing = mode == -1;
-    const std::string entry = trimmed + "=" + value;
-
     std::string result;
     std::vector<std::string> lines;
     bool found = false;
@@ -141,6 +132,50 @@ std::string entryValue(const std::string& key, const std::string& file, std::int
     if (!found) appendLine(file, entry);
     if (changed) rewrite(file, lines);  // lines that say it already aren't written again
     return value;
+}
+
+}  // namespace
+
+/// The file's lines, null where a pass over it has to do: it can't be read, has too many lines or is of a
+/// size that no such file has, or was changed so lately that the next change might bear the same time (two
+/// seconds apart on the coarsest file systems).
+const EntryLines* EntryFiles::kept(const std::string& file) {
+    constexpr std::uint64_t kLargest = 1 << 20;
+    constexpr std::chrono::seconds kSettled{2};
+    const std::optional<platform::FileState> state = platform_.fileState(file);
+    const auto known = known_.find(file);
+    if (known != known_.end()) {
+        if (state == known->second.state) return &known->second.lines;
+        known_.erase(known);
+    }
+    if (!state || state->size > kLargest || std::chrono::system_clock::now() - state->changed < kSettled)
+        return nullptr;
+    try {
+        EntryLines lines(file);
+        if (platform_.fileState(file) != state) return nullptr;
+        return &known_.emplace(file, Known{*state, std::move(lines)}).first->second.lines;
+    } catch (const basic::Error&) {
+        return nullptr;  // the pass raises it where the look-up comes to it
+    }
+}
+
+bool EntryFiles::hasBareLineFeeds(const std::string& file) {
+    if (const EntryLines* lines = kept(file)) return lines->firstHasLineFeed();
+    TextReader reader(file);
+    return !reader.atEnd() && reader.readLine().find('\n') != std::string::npos;
+}
+
+std::string EntryFiles::value(const std::string& key, const std::string& file, std::int16_t mode,
+                              const std::string& value, Overwrite overwrite) {
+    if (key.empty()) return {};
+    const std::string trimmed(basic::trim(key));
+    const bool writing = mode == -1;
+    const std::string entry = trimmed + "=" + value;
+    if (const EntryLines* lines = EntryLines::canFind(trimmed) ? kept(file) : nullptr) {
+        if (!writing) return mode == 0 ? lines->firstValue(trimmed) : lines->lastValue(trimmed);
+        if (lines->says(trimmed, entry, overwrite == Overwrite::EmptyOnly)) return value;
+    }
+    return passOver(file, trimmed, entry, mode, value, overwrite);
 }
 
 }  // namespace session

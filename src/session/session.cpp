@@ -15,7 +15,7 @@ bool Session::NameLess::operator()(std::string_view left, std::string_view right
 }
 
 Session::Session(platform::Platform& platform, forms::Screen& screen)
-    : platform_(platform), screen_(screen) {}
+    : platform_(platform), screen_(screen), entryFiles_(platform) {}
 
 Session::~Session() = default;
 

@@ -3,6 +3,7 @@
 #include "basic/text.h"
 #include "basic/variant.h"
 #include "host/object.h"
+#include "session/entry_file.h"
 #include "session/records.h"
 
 #include <array>
@@ -41,6 +42,8 @@ class Session {
 
     platform::Platform& platform() const { return platform_; }
     forms::Screen& screen() const { return screen_; }
+    /// The settings and the language files; what it keeps of them shows to nobody.
+    EntryFiles& entryFiles() const { return entryFiles_; }
 
     host::ObjectPtr AcadDoc;  ///< the host's drawing document: every host operation starts from it
     std::string AppName;      ///< the product name, "Vorlane"
@@ -90,6 +93,7 @@ class Session {
 
     platform::Platform& platform_;
     forms::Screen& screen_;
+    mutable EntryFiles entryFiles_;
     std::map<std::string, FormFactory, NameLess> factories_;
     std::map<std::string, std::unique_ptr<forms::Form>, NameLess> forms_;
 };

@@ -1,7 +1,5 @@
 #include "session/settings.h"
 
-#include "session/entry_file.h"
-
 #include <string>
 
 namespace session {
@@ -9,7 +7,7 @@ namespace session {
 std::string IniValue(const Session& session, const std::string& Key, std::string& File, std::int16_t Mode,
                      const std::string& Value) {
     if (File.empty()) File = session.IniFile;
-    return entryValue(Key, File, Mode, Value, Overwrite::Always);
+    return session.entryFiles().value(Key, File, Mode, Value, Overwrite::Always);
 }
 
 std::string readSetting(const Session& session, const std::string& key) {

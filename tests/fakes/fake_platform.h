@@ -4,6 +4,7 @@
 #include "platform/platform.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -49,6 +50,13 @@ class FakePlatform : public platform::Platform {
         });
         for (std::string& name : names) name = joinPath(folder, name);
         return names;
+    }
+    std::optional<platform::FileState> fileState(const std::string& path) override {
+        namespace fs = std::filesystem;
+        if (!fs::is_regular_file(path)) return std::nullopt;
+        const auto written = std::chrono::file_clock::to_sys(fs::last_write_time(path));
+        return platform::FileState{std::chrono::time_point_cast<std::chrono::system_clock::duration>(written),
+                                   fs::file_size(path), 0};
     }
     std::string joinPath(std::string_view folder, std::string_view name) override {
         return std::string(folder) + "/" + std::string(name);

@@ -2,7 +2,9 @@
 
 #include "tests/fakes/session_world.h"
 
+#include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/resource.h>
@@ -102,6 +104,46 @@ TEST_F(Settings, LinesAreCountedWithSixteenBits) {
     EXPECT_EQ(errorOf([&] { readSetting(session, "V_0_0"); }), basic::kOverflow);
     EXPECT_EQ(errorOf([&] { writeSetting(session, "Lng", "b"); }), basic::kOverflow);
     EXPECT_EQ(bytes(), "Lng=a\r\n" + lines);
+}
+
+TEST_F(Settings, AFileThatStaysAsItIsIsReadOnce) {
+    namespace fs = std::filesystem;
+    const auto written = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    const auto holdsSince = [&](std::string_view bytes, fs::file_time_type time) {
+        holds(bytes);
+        fs::last_write_time(session.IniFile, time);
+    };
+    holdsSince("Lng=a\r\nV_0_0=\r\nv_0_0=p=q\r\nV_0_0=r\r\nV_0_1=\xE9", written);
+    const auto holdsFirst = [&] {
+        EXPECT_EQ(readSetting(session, "V_0_0"), "p=q");
+        EXPECT_EQ(readSetting(session, " v_0_1 "), "é");
+        EXPECT_EQ(readSetting(session, "V_0"), "");
+        EXPECT_EQ(readSetting(session, "V_0_0=p"), "q") << "found line by line";
+        std::string file;
+        EXPECT_EQ(session::IniValue(session, "V_0_0", file, 7, ""), "r");
+    };
+    holdsFirst();
+    writeSetting(session, "Lng", "a");
+    EXPECT_EQ(fs::last_write_time(session.IniFile), written) << "it says so already";
+    holdsFirst();
+
+    holdsSince("Lng=b\r\n", written);
+    EXPECT_EQ(readSetting(session, "Lng"), "b") << "another size";
+    holdsSince("Lng=c\r\n", written + std::chrono::nanoseconds(1));
+    EXPECT_EQ(readSetting(session, "Lng"), "c") << "another time";
+    holdsSince("Lng=d\r\n", written + std::chrono::nanoseconds(1));
+    EXPECT_EQ(readSetting(session, "Lng"), "c") << "nothing shows the change";
+    for (const char* value : {"e", "f"}) {
+        writeSetting(session, "Lng", value);
+        EXPECT_EQ(readSetting(session, "Lng"), value) << "by our own write";
+    }
+    const auto now = fs::file_time_type::clock::now();
+    for (const char* value : {"g", "h"}) {
+        holdsSince(std::string("Lng=") + value + "\r\n", now);
+        EXPECT_EQ(readSetting(session, "Lng"), value) << "of one moment";
+    }
+    fs::remove(session.IniFile);
+    EXPECT_EQ(errorOf([&] { readSetting(session, "Lng"); }), basic::kFileNotFound);
 }
 
 TEST_F(Settings, RegistryValuesComeAsText) {

@@ -93,6 +93,24 @@ std::vector<std::string> WindowsPlatform::folderFiles(const std::string& folder)
     return files;
 }
 
+std::optional<platform::FileState> WindowsPlatform::fileState(const std::string& path) {
+    WIN32_FILE_ATTRIBUTE_DATA found;
+    if (GetFileAttributesExW(basic::toWide(path).c_str(), GetFileExInfoStandard, &found) == FALSE ||
+        (found.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) != 0)
+        return std::nullopt;
+    const auto whole = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; };
+    // The system counts steps of 100 ns from 1601 on, the clock from 1970 on.
+    using Steps = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+    constexpr Steps kBetween{116'444'736'000'000'000};
+    const Steps written{static_cast<std::int64_t>(
+        whole(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime))};
+    return platform::FileState{
+        std::chrono::system_clock::time_point(
+            std::chrono::duration_cast<std::chrono::system_clock::duration>(written - kBetween)),
+        whole(found.nFileSizeHigh, found.nFileSizeLow),
+        whole(found.ftCreationTime.dwHighDateTime, found.ftCreationTime.dwLowDateTime)};
+}
+
 std::string WindowsPlatform::joinPath(std::string_view folder, std::string_view name) {
     const std::string path = std::string(folder) + "\\" + std::string(name);
     return path.size() > kLongPath && isAbsolute(path) ? kLongPrefix + path : path;

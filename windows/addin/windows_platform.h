@@ -20,6 +20,7 @@ class WindowsPlatform : public platform::Platform {
                                                          std::string_view keyPath,
                                                          std::string_view valueName) override;
     std::vector<std::string> folderFiles(const std::string& folder) override;
+    std::optional<platform::FileState> fileState(const std::string& path) override;
     std::string joinPath(std::string_view folder, std::string_view name) override;
     std::string baseName(std::string_view path) override;
     std::string ownFolder() override;
