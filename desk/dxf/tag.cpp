@@ -91,9 +91,39 @@ std::optional<std::int64_t> tagInteger(const Tag& tag) {
     return static_cast<std::int64_t>(*value);
 }
 
+/// Plain decimals of up to 15 digits: whole number and power of ten are exact then, so their quotient is the
+/// nearest value.
+std::optional<double> parseDecimal(std::string_view text) {
+    constexpr std::size_t kMostDigits = 15;
+    constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                  1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const bool negative = text.starts_with('-');
+    if (negative) text.remove_prefix(1);
+    if (text.size() > kMostDigits + 1) return std::nullopt;
+    std::int64_t whole = 0;
+    std::size_t digits = 0;
+    std::size_t point = text.size();
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const auto digit = static_cast<unsigned>(text[at] - '0');
+        if (digit <= 9) {
+            whole = whole * 10 + digit;
+            ++digits;
+        } else if (text[at] == '.' && point == text.size()) {
+            point = at;
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (digits == 0 || digits > kMostDigits) return std::nullopt;
+    const std::size_t decimals = point == text.size() ? 0 : text.size() - point - 1;
+    const double value = static_cast<double>(whole) / kPowers[decimals];
+    return negative ? -value : value;
+}
+
 }  // namespace
 
 std::optional<double> parseNumber(std::string_view text) {
+    if (const std::optional<double> plain = parseDecimal(text)) return plain;
     text = withoutBlanks(text);
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -106,7 +136,18 @@ std::optional<std::int64_t> parseInteger(std::string_view text) {
     return parseWhole<std::int64_t>(withoutBlanks(text));
 }
 
-Handle parseHandle(std::string_view text) { return parseWhole<Handle>(withoutBlanks(text), 16).value_or(0); }
+Handle parseHandle(std::string_view text) {
+    // Handles of ten digits and more are read by the library, which sees an overflow.
+    if (text.size() > 9) return parseWhole<Handle>(withoutBlanks(text), 16).value_or(0);
+    Handle value = 0;
+    for (const char digit : text) {
+        const auto decimal = static_cast<unsigned>(digit - '0');
+        const auto letter = static_cast<unsigned>((digit | 0x20) - 'a');
+        if (decimal > 9 && letter > 5) return parseWhole<Handle>(withoutBlanks(text), 16).value_or(0);
+        value = value << 4 | (decimal <= 9 ? decimal : letter + 10);
+    }
+    return value;
+}
 
 std::string_view Tag::text(std::string& scratch) const {
     if (format->binary) {
