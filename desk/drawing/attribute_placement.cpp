@@ -75,8 +75,7 @@ void transformAttribute(AttribData& attribute, const Transform& map, const Vecto
     attribute.oblique = std::clamp(std::atan2(dot(direction, y), height), -kMaxOblique, kMaxOblique);
 }
 
-void placeAttribute(AttribData& attribute, const Placement& placement, const Point3& basePoint) {
-    const Transform map = referenceTransform(placement, basePoint);
+void placeAttribute(AttribData& attribute, const Placement& placement, const Transform& map) {
     if (keepsShape(placement) && attribute.common.extrusion == kZAxis) {
         placeUpright(attribute, placement, map);
     } else {

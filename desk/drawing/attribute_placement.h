@@ -11,9 +11,9 @@ namespace drawing {
 void transformAttribute(AttribData& attribute, const Transform& map, const Vector3& extrusion,
                         bool upsideDown);
 
-/// An attribute as the definition `attribute` gives it for a reference at `placement` of a block with
-/// `basePoint`.
-void placeAttribute(AttribData& attribute, const Placement& placement, const Point3& basePoint);
+/// An attribute as the definition `attribute` gives it for a reference at `placement`; `map` is the
+/// placement's, from the block to the world.
+void placeAttribute(AttribData& attribute, const Placement& placement, const Transform& map);
 
 /// Moves an attribute along when its reference goes from one placement to another.
 void moveAttribute(AttribData& attribute, const Placement& from, const Placement& to);

@@ -67,6 +67,10 @@ void AttributeWriter::writeEnds(Definition& definition, const std::string& style
     head.subclass("AcDbText");
     if (data.thickness != 0) head.number(39, data.thickness);
 
+    dxf::TagWriter(format, definition.text).text(1, data.text);
+    if (!basic::NameEqual{}(data.style, "STANDARD"))
+        dxf::TagWriter(format, definition.style).text(7, data.style);
+
     dxf::TagWriter tail(format, definition.tail);
     tail.subclass("AcDbAttribute");
     if (format.version >= dxf::Version::R2010) tail.integer(280, 0);
@@ -77,7 +81,7 @@ void AttributeWriter::writeEnds(Definition& definition, const std::string& style
     if (locked >= 0 && format.version >= dxf::Version::R2007) tail.integer(280, locked);
 }
 
-void AttributeWriter::prepare(const Placement& placement) {
+void AttributeWriter::prepare(const Placement& placement, dxf::NumberMemory& numbers) {
     const bool same = isPrepared_ && placement.scale == placement_.scale &&
                       placement.rotation == placement_.rotation &&
                       placement.extrusion == placement_.extrusion;
@@ -85,11 +89,15 @@ void AttributeWriter::prepare(const Placement& placement) {
     placement_ = placement;
     placement_.insertion = {};
     prepared_.resize(definitions_.size());
-    for (std::size_t i = 0; i < definitions_.size(); ++i) prepare(definitions_[i], prepared_[i]);
+    const Transform map = referenceTransform(placement_, basePoint_);
+    for (std::size_t i = 0; i < definitions_.size(); ++i) {
+        prepare(definitions_[i], map, numbers, prepared_[i]);
+    }
     isPrepared_ = true;
 }
 
-void AttributeWriter::prepare(const Definition& definition, Prepared& prepared) const {
+void AttributeWriter::prepare(const Definition& definition, const Transform& map, dxf::NumberMemory& numbers,
+                              Prepared& prepared) const {
     const AttribData& own = definition.data;
     AttribData placed;  // only what a placement changes
     placed.common.extrusion = own.common.extrusion;
@@ -100,7 +108,7 @@ void AttributeWriter::prepare(const Definition& definition, Prepared& prepared) 
     placed.rotation = own.rotation;
     placed.oblique = own.oblique;
     placed.generation = own.generation;
-    placeAttribute(placed, placement_, basePoint_);
+    placeAttribute(placed, placement_, map);
     prepared.position = placed.position;
     prepared.alignment = placed.alignment;
     prepared.extrusion = placed.common.extrusion;
@@ -108,12 +116,12 @@ void AttributeWriter::prepare(const Definition& definition, Prepared& prepared) 
 
     prepared.text.clear();
     dxf::TagWriter text(store_.format(), prepared.text);
-    text.number(40, placed.height);
-    text.text(1, own.text);
-    if (placed.rotation != 0) text.number(50, geometry::degreesOf(placed.rotation));
-    if (placed.widthFactor != 1) text.number(41, placed.widthFactor);
+    numbers.write(text, 40, placed.height);
+    text.raw(definition.text);
+    if (placed.rotation != 0) numbers.write(text, 50, geometry::degreesOf(placed.rotation));
+    if (placed.widthFactor != 1) numbers.write(text, 41, placed.widthFactor);
     if (std::abs(placed.oblique) > kNoSlant) text.number(51, geometry::degreesOf(placed.oblique));
-    if (!basic::NameEqual{}(own.style, "STANDARD")) text.text(7, own.style);
+    text.raw(definition.style);
     if (placed.generation != 0) text.integer(71, placed.generation);
     if (own.horizontal != 0) text.integer(72, own.horizontal);
 

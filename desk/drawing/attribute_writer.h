@@ -2,6 +2,7 @@
 
 #include "desk/drawing/drawing.h"
 #include "desk/drawing/store.h"
+#include "desk/dxf/number_memory.h"
 
 #include <string>
 #include <vector>
@@ -18,7 +19,7 @@ class AttributeWriter {
 
     std::size_t count() const { return definitions_.size(); }
     /// Settles for a placement; its insertion point may differ from call to call.
-    void prepare(const Placement& placement);
+    void prepare(const Placement& placement, dxf::NumberMemory& numbers);
     /// Appends the attribute at `index` for the placement of `prepare`, moved to `insertion` (object
     /// coordinates).
     void write(std::size_t index, const Point3& insertion, Handle handle, Handle owner,
@@ -33,8 +34,10 @@ class AttributeWriter {
         AttribData data;
         NameId layer = kNoName;
         NameId tag = kNoName;
-        std::string head;  ///< between owner and position, the same for all placements
-        std::string tail;  ///< behind the extrusion, the same for all placements
+        std::string head;   ///< between owner and position, the same for all placements
+        std::string text;   ///< its default text
+        std::string style;  ///< where it isn't the standard one
+        std::string tail;   ///< behind the extrusion, the same for all placements
     };
     /// A definition under the prepared placement, for an insertion at the origin.
     struct Prepared {
@@ -49,7 +52,8 @@ class AttributeWriter {
     Definition read(const Drawing& drawing, EntityId id) const;
     void writeEnds(Definition& definition, const std::string& style, int fieldLength, int locked) const;
     /// Fills `prepared`, whose strings keep their memory.
-    void prepare(const Definition& definition, Prepared& prepared) const;
+    void prepare(const Definition& definition, const Transform& map, dxf::NumberMemory& numbers,
+                 Prepared& prepared) const;
 
     const Store& store_;
     Point3 basePoint_;

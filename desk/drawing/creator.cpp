@@ -60,15 +60,15 @@ void Creator::writeReference(BlockId block, const Placement& placement, Handle h
     if (hasAttributes) writer.integer(66, 1);
     writer.text(2, drawing_.blocks()[block].name);
     writer.point(10, placement.insertion.x, placement.insertion.y, placement.insertion.z);
-    if (placement.scale.x != 1) writer.number(41, placement.scale.x);
-    if (placement.scale.y != 1) writer.number(42, placement.scale.y);
-    if (placement.scale.z != 1) writer.number(43, placement.scale.z);
-    if (placement.rotation != 0) writer.number(50, geometry::degreesOf(placement.rotation));
+    if (placement.scale.x != 1) numbers_.write(writer, 41, placement.scale.x);
+    if (placement.scale.y != 1) numbers_.write(writer, 42, placement.scale.y);
+    if (placement.scale.z != 1) numbers_.write(writer, 43, placement.scale.z);
+    if (placement.rotation != 0) numbers_.write(writer, 50, geometry::degreesOf(placement.rotation));
 }
 
 EntityId Creator::insert(BlockId block, const Placement& placement) {
     AttributeWriter& attributes = writerOf(block);
-    attributes.prepare(placement);
+    attributes.prepare(placement, numbers_);
     const std::size_t count = attributes.count();
     const std::size_t parts = count == 0 ? 0 : count + 1;
     const Handle first = store_.takeHandles(1 + parts);

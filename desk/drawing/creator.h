@@ -46,6 +46,7 @@ class Creator {
     Current current_;
     std::unordered_map<BlockId, AttributeWriter> writers_;
     std::string bytes_;
+    dxf::NumberMemory numbers_;
     std::vector<std::size_t> ends_;  ///< of the entities in `bytes_`
 };
 

@@ -2,6 +2,7 @@
 
 #include "desk/dxf/number_text.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -37,18 +38,24 @@ void appendAligned(std::string& bytes, std::int64_t value, std::size_t width) {
     bytes.append(digits, length);
 }
 
+char* writeNewline(char* to, const Format& format) {
+    if (format.carriageReturns) *to++ = '\r';
+    *to = '\n';
+    return to + 1;
+}
+
+constexpr std::size_t kLongestCode = 16;
 /// The line of a group code.
-void appendCode(std::string& bytes, int code, const Format& format) {
+char* writeCode(char* to, int code, const Format& format) {
     if (code < 0 || code > 999) {
-        appendAligned(bytes, code, format.paddedCodes ? 3 : 0);
-        bytes += format.newline();
-        return;
+        if (format.paddedCodes && code < 0 && code > -10) *to++ = ' ';
+        to = std::to_chars(to, to + kLongestCode, code).ptr;
+    } else {
+        if (code > 99 || format.paddedCodes) *to++ = code > 99 ? static_cast<char>('0' + code / 100) : ' ';
+        if (code > 9 || format.paddedCodes) *to++ = code > 9 ? static_cast<char>('0' + code / 10 % 10) : ' ';
+        *to++ = static_cast<char>('0' + code % 10);
     }
-    const char line[5] = {code > 99 ? static_cast<char>('0' + code / 100) : ' ',
-                          code > 9 ? static_cast<char>('0' + code / 10 % 10) : ' ',
-                          static_cast<char>('0' + code % 10), format.carriageReturns ? '\r' : '\n', '\n'};
-    const std::size_t blanks = format.paddedCodes || code > 99 ? 0 : code > 9 ? 1 : 2;
-    bytes.append(line + blanks, (format.carriageReturns ? 5 : 4) - blanks);
+    return writeNewline(to, format);
 }
 
 std::string bytesFromHex(std::string_view hex) {
@@ -66,7 +73,8 @@ std::string bytesFromHex(std::string_view hex) {
 
 void TagWriter::code(int code) {
     if (!format_.binary) {
-        appendCode(bytes_, code, format_);
+        char line[kLongestCode];
+        bytes_.append(line, static_cast<std::size_t>(writeCode(line, code, format_) - line));
     } else if (format_.wideCodes) {
         appendBytes(bytes_, static_cast<std::int16_t>(code));
     } else if (code >= 0 && code < 255) {
@@ -78,12 +86,24 @@ void TagWriter::code(int code) {
 }
 
 void TagWriter::text(int code, std::string_view utf8) {
+    const bool isPlain = std::all_of(utf8.begin(), utf8.end(), [](char character) {
+        return character >= 0x20 && character < 0x7F && character != '^';
+    });
+    if (isPlain) return rawText(code, utf8);
     this->code(code);
     format_.encoding.encode(utf8, bytes_);
     endText();
 }
 
 void TagWriter::rawText(int code, std::string_view raw) {
+    constexpr std::size_t kShort = 100;
+    if (!format_.binary && raw.size() <= kShort) {
+        char group[kLongestCode + kShort + 2];
+        char* end = writeCode(group, code, format_);
+        end = std::copy(raw.begin(), raw.end(), end);
+        bytes_.append(group, static_cast<std::size_t>(writeNewline(end, format_) - group));
+        return;
+    }
     this->code(code);
     bytes_ += raw;
     endText();
@@ -101,13 +121,13 @@ void TagWriter::number(int code, double value) {
     if (type != ValueType::Double && type != ValueType::String)
         return integer(code, static_cast<std::int64_t>(value));
     if (!std::isfinite(value)) throw basic::Error(basic::kOverflow);
-    this->code(code);
     if (format_.binary && type == ValueType::Double) {
+        this->code(code);
         appendBytes(bytes_, value);
         return;
     }
-    appendNumber(bytes_, value);
-    endText();
+    char text[kLongestNumber];
+    rawText(code, {text, static_cast<std::size_t>(writeNumber(text, value) - text)});
 }
 
 void TagWriter::integer(int code, std::int64_t value) {
@@ -137,7 +157,10 @@ void TagWriter::integer(int code, std::int64_t value) {
     }
 }
 
-void TagWriter::handle(int code, Handle value) { rawText(code, handleText(value)); }
+void TagWriter::handle(int code, Handle value) {
+    char text[16];
+    rawText(code, {text, static_cast<std::size_t>(writeHandle(text, value) - text)});
+}
 
 void TagWriter::point(int code, double x, double y) {
     number(code, x);
