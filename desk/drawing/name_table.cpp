@@ -10,16 +10,18 @@ NameTable::NameTable() {
 }
 
 NameId NameTable::internRaw(std::string_view raw, const dxf::Encoding& encoding) {
-    if (raw == lastRaw_) return lastId_;
-    const auto known = byRaw_.find(raw);
-    if (known != byRaw_.end()) {
-        lastRaw_ = known->first;
-        return lastId_ = known->second;
+    if (raw.empty()) return kNoName;
+    const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(raw[at]); };
+    const std::size_t place = raw.size() * 5 + byte(0) * 3 + byte(raw.size() - 1) * 7;
+    Met& met = met_[place % met_.size()];
+    if (met.raw == raw) return met.id;
+    auto known = byRaw_.find(raw);
+    if (known == byRaw_.end()) {
+        const NameId id = intern(encoding.decode(raw));
+        known = byRaw_.emplace(bytes_.emplace_back(raw), id).first;
     }
-    const NameId id = intern(encoding.decode(raw));
-    lastRaw_ = bytes_.emplace_back(raw);
-    byRaw_.emplace(lastRaw_, id);
-    return lastId_ = id;
+    met = {known->first, known->second};
+    return met.id;
 }
 
 NameId NameTable::intern(std::string_view text) {

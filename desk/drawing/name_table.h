@@ -3,6 +3,7 @@
 #include "desk/drawing/ids.h"
 #include "desk/dxf/encoding.h"
 
+#include <array>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -34,8 +35,12 @@ class NameTable {
     std::unordered_map<std::string_view, NameId> byRaw_;
     std::unordered_map<std::string_view, NameId> byText_;  ///< looks into texts_
     std::unordered_map<std::string, NameKey> byFolded_;
-    std::string_view lastRaw_;  ///< neighbours often share a layer
-    NameId lastId_ = kNoName;
+    struct Met {
+        std::string_view raw;  ///< looks into bytes_
+        NameId id = kNoName;
+    };
+    /// Names met lately: layers, tags and blocks come in turns.
+    std::array<Met, 64> met_;
 };
 
 }  // namespace drawing
