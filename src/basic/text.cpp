@@ -91,6 +91,7 @@ std::size_t NameHash::operator()(std::string_view name) const {
 
 bool NameEqual::operator()(std::string_view left, std::string_view right) const {
     if (left.size() != right.size()) return false;
+    if (left == right) return true;
     for (std::size_t i = 0; i < left.size(); ++i) {
         if (left[i] != right[i] && asciiLower(left[i]) != asciiLower(right[i])) return false;
     }

@@ -72,6 +72,7 @@ char32_t foldCase(char32_t character) {
 }
 
 bool equalIgnoringCase(std::string_view left, std::string_view right) {
+    if (left == right) return true;
     std::size_t l = 0, r = 0;
     while (l < left.size() && r < right.size()) {
         if (foldCase(nextCharacter(left, l)) != foldCase(nextCharacter(right, r))) return false;

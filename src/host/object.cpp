@@ -1,12 +1,32 @@
 #include "host/object.h"
 
+#include <typeinfo>
+
 namespace host {
+
+namespace {
+
+/// Whether it is an object of the host. What a class is stays true, so the classes met last aren't asked
+/// again.
+bool isObject(const basic::Referable& referable) {
+    thread_local std::array<const std::type_info*, 4> known{};
+    thread_local std::size_t oldest = 0;
+    const std::type_info& type = typeid(referable);
+    for (const std::type_info* one : known) {
+        if (one == &type) return true;
+    }
+    if (dynamic_cast<const Object*>(&referable) == nullptr) return false;
+    known[oldest++ % known.size()] = &type;
+    return true;
+}
+
+}  // namespace
 
 ObjectPtr asObject(const Variant& value) {
     if (value.isNothing()) throw basic::Error(basic::kObjectNotSet);
-    ObjectPtr object = std::dynamic_pointer_cast<Object>(value.object());
-    if (object == nullptr) throw basic::Error(basic::kObjectRequired);
-    return object;
+    const basic::ObjectRef& object = value.object();
+    if (!isObject(*object)) throw basic::Error(basic::kObjectRequired);
+    return std::static_pointer_cast<Object>(object);
 }
 
 ObjectView::ObjectView(const Variant& value) : object_(value.isNothing() ? nullptr : asObject(value)) {}

@@ -10,8 +10,9 @@ namespace session {
 
 bool Session::NameLess::operator()(std::string_view left, std::string_view right) const {
     const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
-                                        [&](char a, char b) { return small(a) < small(b); });
+    const auto [l, r] = std::mismatch(left.begin(), left.end(), right.begin(), right.end(),
+                                      [&](char a, char b) { return a == b || small(a) == small(b); });
+    return r != right.end() && (l == left.end() || small(*l) < small(*r));
 }
 
 Session::Session(platform::Platform& platform, forms::Screen& screen)
