@@ -108,6 +108,7 @@ PartRange Drawing::parts(EntityId id) const {
 std::vector<EntityId> Drawing::attributes(EntityId id) const {
     requireAlive(id);
     std::vector<EntityId> found;
+    found.reserve(store_->record(id).parts);
     for (EntityId part = id + 1; part <= id + store_->record(id).parts; ++part) {
         if (store_->record(part).type == kAttrib) found.push_back(part);
     }

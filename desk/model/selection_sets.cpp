@@ -63,7 +63,9 @@ void SelectionSet::requireAlive() const {
 
 void SelectionSet::add(const std::vector<EntityId>& found) {
     for (const EntityId id : found) {
-        if (known_.insert(id).second) entities_.push_back(id);
+        if (id >= known_.size()) known_.resize(id + std::size_t{1});
+        if (!known_[id]) entities_.push_back(id);
+        known_[id] = true;
     }
 }
 

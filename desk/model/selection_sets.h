@@ -4,8 +4,6 @@
 #include "desk/model/context.h"
 #include "desk/model/members.h"
 
-#include <unordered_set>
-
 namespace model {
 
 class SelectionSets;
@@ -44,7 +42,7 @@ class SelectionSet : public Automation {
     std::string name_;
     bool removed_ = false;
     std::vector<drawing::EntityId> entities_;
-    std::unordered_set<drawing::EntityId> known_;
+    std::vector<bool> known_;  ///< by number: whether it is in the set
 };
 
 /// The document's selection sets in the order of their making.
