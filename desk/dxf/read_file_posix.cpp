@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <new>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -32,6 +33,16 @@ std::size_t readAll(int descriptor, char* data, std::size_t size, const std::str
         done += static_cast<std::size_t>(got);
     }
     return done;
+}
+
+/// Asks for large pages, of which a file needs a five-hundredth: a page that is touched first costs more than
+/// reading what goes into it. Where the system has none, nothing changes.
+void adviseLargePages(char* data, std::size_t size) {
+    constexpr std::uintptr_t kLargePage = std::uintptr_t{2} << 20;
+    const auto address = reinterpret_cast<std::uintptr_t>(data);
+    const std::uintptr_t begin = (address + kLargePage - 1) / kLargePage * kLargePage;
+    const std::uintptr_t end = (address + size) / kLargePage * kLargePage;
+    if (begin < end) madvise(data + (begin - address), end - begin, MADV_HUGEPAGE);
 }
 
 std::unique_ptr<char[]> allocate(std::size_t size, const std::string& path) {
@@ -70,6 +81,7 @@ FileBytes readFile(const std::string& path) {
     FileBytes bytes;
     const auto size = static_cast<std::size_t>(status.st_size);
     bytes.data = allocate(size, path);
+    adviseLargePages(bytes.data.get(), size);
     bytes.size = readAll(file.get(), bytes.data.get(), size, path);
     return bytes;
 }
