@@ -13,9 +13,10 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 # Headers of the C++ standard library have no dot; these few of C's are in it by their old names or are
 # POSIX, which the desk may use.
 POSIX = {"fcntl.h", "unistd.h", "sys/stat.h", "sys/types.h", "sys/uio.h", "sys/wait.h", "sys/xattr.h", "dirent.h", "errno.h",
-         "spawn.h", "iconv.h", "poll.h", "signal.h", "limits.h", "stdlib.h", "pwd.h", "sys/resource.h", "termios.h"}
+         "spawn.h", "iconv.h", "poll.h", "signal.h", "limits.h", "stdlib.h", "pwd.h", "sys/mman.h", "sys/resource.h", "termios.h"}
 # Libraries that one room alone may use.
-LIBRARIES = {"desk/console": {"histedit.h"}}
+LIBRARIES = {"desk/console": {"histedit.h"},
+             "desk/dxf": {"emmintrin.h"}}  # what every 64-bit Intel or AMD processor has, behind its own switch
 
 
 # A room's inside that few others may see.
