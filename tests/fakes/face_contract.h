@@ -38,7 +38,7 @@ inline const std::vector<std::string>& contractLines() {
                                                    "key TAB",
                                                    "key SHIFT+TAB",
                                                    "key ALT+R",
-                                                   "resize 7170 5430",
+                                                   "resize 7620 5655",
                                                    "key F1",
                                                    "Button1",
                                                    "Button1",
@@ -146,7 +146,7 @@ inline void expectContract(ContractFace& face) {
       2 | window |
       3 | y |
   Button1: [Go]
-7170 5430 0 2 1500 Button1
+7620 5655 0 2 1500 Button1
 )");
 }
 
