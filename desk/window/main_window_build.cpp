@@ -106,7 +106,7 @@ QWidget* MainWindow::buildRightDock() {
     const auto picture = [this](drawing::BlockId block, QSize box) {
         return canvas_->blockPicture(block, box, std::nullopt, true);
     };
-    const auto edit = [this](const QString& name, std::function<void(drawing::Drawing&)> change) {
+    const auto edit = [this](const QString& name, const std::function<void(drawing::Drawing&)>& change) {
         session_->edit(name, change);
     };
     properties_ = new PropertiesPanel(picture, edit, this);
