@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Kills the console at random instants and looks at what is left.
 
-    kill_sessions.py [--saves N] [--edits N]      200 and 100 without options
+    kill_sessions.py [--build FOLDER] [--saves N] [--edits N]      of build/test, 200 and 100 without options
 
 In a script that saves a drawing of two states in turn, the file must be one of the two, whole, and no other file may
 stay beside it but the lock file. In a session at a terminal that erases one entity a line, the next session must be
@@ -130,7 +130,10 @@ def kill_edits(folder, times):
 
 
 def main():
+    global BUILD, CONSOLE
     options = dict(zip(sys.argv[1::2], sys.argv[2::2]))
+    BUILD = Path(options.get("--build", BUILD)).resolve()
+    CONSOLE = BUILD / "vorlane-console"
     folder = Path(tempfile.mkdtemp(prefix="vorlane-kill-"))
     try:
         saves, edits = int(options.get("--saves", 200)), int(options.get("--edits", 100))

@@ -9,13 +9,14 @@
 #include "desk/drawing/errors.h"
 #include "desk/jobs/run.h"
 #include "desk/shell/surroundings.h"
+#include "desk/shell/temporary_folder.h"
 #include "faces/text/text_screen.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <unistd.h>
 
 namespace console {
@@ -27,29 +28,20 @@ namespace {
 /// The folder of settings; one that goes with the session for --fresh.
 class SettingsFolder {
   public:
-    explicit SettingsFolder(const CommandLine& line) : goes_(line.fresh) {
+    explicit SettingsFolder(const CommandLine& line) {
         if (line.fresh) {
-            std::string pattern = (fs::temp_directory_path() / "vorlane-XXXXXX").string();
-            if (mkdtemp(pattern.data()) == nullptr)
-                throw basic::Error(basic::kPermissionDenied, pattern + ": can't be made");
-            folder_ = pattern;
+            folder_ = fresh_.emplace("vorlane").path();
         } else if (!line.settings.empty()) {
             folder_ = fs::absolute(line.settings);
         } else {
             folder_ = shell::installFolder(shell::readEnvironment);
         }
     }
-    ~SettingsFolder() {
-        std::error_code ignored;
-        if (goes_) fs::remove_all(folder_, ignored);
-    }
-    SettingsFolder(const SettingsFolder&) = delete;
-    SettingsFolder& operator=(const SettingsFolder&) = delete;
     const fs::path& path() const { return folder_; }
 
   private:
+    std::optional<shell::TemporaryFolder> fresh_;
     fs::path folder_;
-    bool goes_;
 };
 
 shell::DeskOptions deskOptions(const CommandLine& line, const fs::path& settings) {

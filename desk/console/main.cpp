@@ -1,6 +1,7 @@
 #include "basic/error.h"
 #include "desk/console/console.h"
 #include "desk/console/start_window.h"
+#include "desk/dxf/transient.h"
 #include "desk/jobs/help_texts.h"
 #include "desk/jobs/run.h"
 #include "desk/shell/surroundings.h"
@@ -8,6 +9,7 @@
 #include "platform/version.h"
 
 #include <csignal>
+#include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -57,14 +59,8 @@ int run(const std::string& program, std::vector<std::string> words) {
     return console::runConsole(arguments, program);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    // A full disk or a file limit is an error of the write that meets it, not the end of the program, and so
-    // is a reader that has gone.
-    std::signal(SIGXFSZ, SIG_IGN);
-    std::signal(SIGPIPE, SIG_IGN);
-    std::ios::sync_with_stdio(false);
+/// The program with what it prints guarded from control characters.
+int runShown(int argc, char** argv) {
     const text_face::ShownControls output(std::cout), errors(std::cerr);
     const std::string program = argc > 0 ? std::filesystem::path(argv[0]).filename().string() : "vorlane";
     try {
@@ -75,5 +71,22 @@ int main(int argc, char** argv) {
         return fail(program, error.description());
     } catch (const std::exception& error) {
         return fail(program, error.what());
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // A full disk or a file limit is an error of the write that meets it, not the end of the program, and so
+    // is a reader that has gone.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
+    dxf::removeTransientsAtSignals();
+    try {
+        std::ios::sync_with_stdio(false);
+        return runShown(argc, argv);
+    } catch (const std::exception& error) {  // no memory even to tell of it as usual
+        std::fprintf(stderr, "vorlane: %s\n", error.what());
+        return jobs::kNotStarted;
     }
 }

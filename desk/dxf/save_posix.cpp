@@ -1,8 +1,10 @@
 #include "desk/dxf/file.h"
 #include "desk/dxf/file_error.h"
 #include "desk/dxf/rights.h"
+#include "desk/dxf/transient.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <limits.h>
@@ -65,9 +67,11 @@ class TemporaryFile {
         int descriptor = -1;
         for (int i = 0; i < kMostTries && descriptor < 0; ++i) {
             name_ = stem + std::to_string(i) + ".tmp";
+            transient_.hold(name_);
             descriptor = open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
             if (descriptor < 0 && errno != EEXIST) break;
         }
+        if (descriptor < 0) transient_.release();
         const bool refused = errno == EACCES || errno == EPERM || errno == EROFS;
         if (descriptor < 0 && mayFail && refused) return std::nullopt;
         if (descriptor < 0) fail(path_, fileError(errno));
@@ -84,6 +88,7 @@ class TemporaryFile {
     const std::string& path_;
     const std::string& target_;
     std::string name_;
+    Transient transient_;
     bool created_ = false;
 };
 
@@ -146,6 +151,22 @@ std::string backUp(int file, const std::string& path, const std::string& folder)
     return name;
 }
 
+/// Lets no signal end the program as long as it lives.
+class HeldSignals {
+  public:
+    HeldSignals() {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_BLOCK, &all, &before_);
+    }
+    ~HeldSignals() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    HeldSignals(const HeldSignals&) = delete;
+    HeldSignals& operator=(const HeldSignals&) = delete;
+
+  private:
+    sigset_t before_{};
+};
+
 /// Writes over the file itself, once a copy of it lies in the folder of backups. The copy stays if anything
 /// fails on the way, and the error names it.
 void saveInPlace(const std::string& path, const std::string& target, std::span<const std::string_view> pieces,
@@ -162,6 +183,7 @@ void saveInPlace(const std::string& path, const std::string& target, std::span<c
         if (ftruncate(file.get(), old.st_size) == 0) unlink(backup.c_str());
         fail(path, fileError(error));
     }
+    const HeldSignals held;
     try {
         writePieces(file.get(), pieces, path);
         if (ftruncate(file.get(), size) != 0 || fsync(file.get()) != 0) fail(path, fileError(errno));

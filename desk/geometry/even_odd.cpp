@@ -58,7 +58,7 @@ double widthAt(const std::vector<const Edge*>& edges, double y) {
 
 }  // namespace
 
-double evenOddArea(const std::vector<Path>& loops) {
+double evenOddArea(const std::vector<Path>& loops, Effort& effort) {
     const std::vector<Edge> edges = edgesOf(loops);
     std::vector<double> levels;
     for (const Edge& edge : edges) levels.insert(levels.end(), {edge.low.y, edge.high.y});
@@ -74,7 +74,9 @@ double evenOddArea(const std::vector<Path>& loops) {
         const double bottom = levels[level];
         std::erase_if(active, [&](const Edge* edge) { return edge->high.y <= bottom; });
         for (; next != edges.end() && next->low.y <= bottom; ++next) active.push_back(&*next);
+        effort.spend(active.size() * active.size());
         const std::vector<double> heights = crossings(active, bottom, levels[level + 1]);
+        effort.spend(active.size() * heights.size() * 8);
         for (std::size_t i = 0; i + 1 < heights.size(); ++i) {
             const double height = heights[i + 1] - heights[i];
             if (height > 0) area += height * widthAt(active, (heights[i] + heights[i + 1]) / 2);

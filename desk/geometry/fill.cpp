@@ -10,6 +10,9 @@ bool overlap(const Box& a, const Box& b) {
     return a.low.x <= b.high.x && a.high.x >= b.low.x && a.low.y <= b.high.y && a.high.y >= b.low.y;
 }
 
+/// So many places of a loop tell whether it lies partly in another.
+constexpr std::size_t kPlaces = 16;
+
 /// Whether two straight lines cross between their ends.
 bool cross(const Point3& a, const Point3& b, const Point3& c, const Point3& d) {
     const auto sides = [](const Point3& from, const Point3& to, const Point3& one, const Point3& other) {
@@ -54,9 +57,8 @@ bool FlatLoop::holds(const FlatLoop& other) const {
 }
 
 bool FlatLoop::straddles(const FlatLoop& other) const {
-    constexpr std::size_t kMost = 16;
     const std::size_t count = points_.size();
-    const std::size_t places = std::min(count, kMost);
+    const std::size_t places = std::min(count, kPlaces);
     std::size_t inside = 0;
     for (std::size_t i = 0; i < places; ++i) {
         const std::size_t at = i * count / places;
@@ -65,8 +67,9 @@ bool FlatLoop::straddles(const FlatLoop& other) const {
     return inside > 0 && inside < places;
 }
 
-bool FlatLoop::cuts(const FlatLoop& other) const {
+bool FlatLoop::cuts(const FlatLoop& other, Effort& effort) const {
     if (points_.size() < 3 || other.points_.size() < 3 || !overlap(bounds_, other.bounds_)) return false;
+    effort.spend(std::min(size(), kPlaces) * other.size() + std::min(other.size(), kPlaces) * size());
     if (straddles(other) || other.straddles(*this)) return true;
     for (std::size_t i = 0; i < points_.size(); ++i) {
         const Point3& from = points_[i];
@@ -75,11 +78,41 @@ bool FlatLoop::cuts(const FlatLoop& other) const {
         edge.add(from);
         edge.add(to);
         if (!overlap(edge, other.bounds_)) continue;
+        effort.spend(other.size());
         for (std::size_t j = 0; j < other.points_.size(); ++j) {
             if (cross(from, to, other.points_[j], other.points_[(j + 1) % other.points_.size()])) return true;
         }
     }
     return false;
+}
+
+void forEachMeeting(const std::vector<FlatLoop>& loops, Effort& effort,
+                    const std::function<void(std::size_t, std::size_t)>& visit) {
+    // Along the direction in which the boxes are shorter against the whole, fewer stand side by side.
+    Box whole;
+    Vector3 sum;
+    for (const FlatLoop& loop : loops) {
+        if (loop.bounds().empty()) continue;
+        whole.add(loop.bounds());
+        sum = sum + (loop.bounds().high - loop.bounds().low);
+    }
+    const bool byX = sum.x * (whole.high.y - whole.low.y) <= sum.y * (whole.high.x - whole.low.x);
+    const auto along = [byX](const Point3& point) { return byX ? point.x : point.y; };
+    std::vector<std::size_t> order;
+    for (std::size_t i = 0; i < loops.size(); ++i) {
+        if (!loops[i].bounds().empty()) order.push_back(i);
+    }
+    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return along(loops[a].bounds().low) < along(loops[b].bounds().low);
+    });
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        const Box& box = loops[order[i]].bounds();
+        for (std::size_t j = i + 1;
+             j < order.size() && along(loops[order[j]].bounds().low) <= along(box.high); ++j) {
+            effort.spend(1);
+            if (overlap(box, loops[order[j]].bounds())) visit(order[i], order[j]);
+        }
+    }
 }
 
 bool Fill::contains(const Point3& point, const Transform& transform) const {

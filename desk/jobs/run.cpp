@@ -1,6 +1,7 @@
 #include "desk/jobs/run.h"
 
 #include "basic/error.h"
+#include "desk/dxf/transient.h"
 #include "desk/jobs/job.h"
 #include "desk/jobs/pool.h"
 #include "desk/jobs/report.h"
@@ -9,6 +10,7 @@
 #include "desk/jobs/worker.h"
 #include "desk/shell/install_folder.h"
 #include "desk/shell/surroundings.h"
+#include "desk/shell/temporary_folder.h"
 
 #include <algorithm>
 #include <atomic>
@@ -32,7 +34,9 @@ std::atomic<bool> interrupted = false;
 
 extern "C" void onInterrupt(int) {
     // A second time the user means it; each result that is being written is renamed only when it is whole.
-    if (interrupted.exchange(true)) _exit(kInterrupted);
+    if (!interrupted.exchange(true)) return;
+    dxf::removeTransients();
+    _exit(kInterrupted);
 }
 
 /// Settings of the verbs' own, a folder a worker: the add-in writes its settings with each command. The
@@ -40,10 +44,6 @@ extern "C" void onInterrupt(int) {
 class Settings {
   public:
     explicit Settings(const Arguments& arguments) {
-        std::string pattern = (fs::temp_directory_path() / "vorlane-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr)
-            throw basic::Error(basic::kPermissionDenied, pattern + ": can't be made");
-        folder_ = pattern;
         options_.resources = shell::resourceFolder();
         const std::string regional = arguments.value("--regional");
         options_.regional = regional.empty() ? shell::desktopRegional(shell::readEnvironment)
@@ -51,16 +51,9 @@ class Settings {
         options_.frenchDesktop = shell::isFrenchDesktop(shell::readEnvironment);
         options_.language = language(arguments);
     }
-    ~Settings() {
-        std::error_code ignored;
-        fs::remove_all(folder_, ignored);
-    }
-    Settings(const Settings&) = delete;
-    Settings& operator=(const Settings&) = delete;
-
     shell::DeskOptions of(std::size_t worker) const {
         shell::DeskOptions options = options_;
-        options.installFolder = folder_ / std::to_string(worker);
+        options.installFolder = folder_.path() / std::to_string(worker);
         return options;
     }
     const basic::Regional& regional() const { return options_.regional; }
@@ -76,7 +69,7 @@ class Settings {
         }
     }
 
-    fs::path folder_;
+    shell::TemporaryFolder folder_{"vorlane"};
     shell::DeskOptions options_;
 };
 
@@ -110,6 +103,8 @@ class CommonTable {
         const fs::path target(path_);
         const fs::path part =
             target.parent_path() / ("." + target.stem().string() + ".part" + target.extension().string());
+        dxf::Transient transient;
+        transient.hold(part.string());
         writeTable(part.string(), table_, arguments_, regional_);
         fs::rename(part, target);
         if (!arguments_.has("--quiet") && !arguments_.has("--json"))

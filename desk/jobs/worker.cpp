@@ -1,6 +1,7 @@
 #include "desk/jobs/worker.h"
 
 #include "basic/error.h"
+#include "desk/dxf/transient.h"
 #include "desk/jobs/job.h"
 #include "desk/jobs/replace_options.h"
 
@@ -36,6 +37,7 @@ class PartFile {
         path_ = (path.parent_path() / ("." + path.stem().string() + ".part" + path.extension().string()))
                     .string();
         discard();
+        transient_.hold(path_);
     }
     ~PartFile() { discard(); }
     PartFile(const PartFile&) = delete;
@@ -63,6 +65,7 @@ class PartFile {
     }
     std::string target_;
     std::string path_;
+    dxf::Transient transient_;
 };
 
 std::size_t rowCount(const Result& result) {

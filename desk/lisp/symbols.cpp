@@ -2,6 +2,8 @@
 
 #include "basic/text.h"
 
+#include <utility>
+
 namespace lisp {
 
 SymbolTable::SymbolTable()
@@ -19,22 +21,16 @@ SymbolTable::SymbolTable()
 }
 
 SymbolTable::~SymbolTable() {
-    std::vector<Value> values;
-    values.reserve(symbols_.size());
-    for (auto& [name, symbol] : symbols_) {
-        values.push_back(std::move(symbol->value));
-        symbol->value = Value();
-    }
+    for (auto& [name, symbol] : symbols_) const Value gone = std::exchange(symbol->value, Value());
 }
 
 SymbolPtr SymbolTable::intern(std::string_view name) {
     std::string key = basic::toUpper(name);
-    SymbolPtr& symbol = symbols_[key];
-    if (!symbol) {
-        symbol = std::make_shared<Symbol>();
-        symbol->name = std::move(key);
-    }
-    return symbol;
+    const auto found = symbols_.find(key);
+    if (found != symbols_.end()) return found->second;
+    const SymbolPtr symbol = std::make_shared<Symbol>();
+    symbol->name = key;
+    return symbols_.emplace(std::move(key), symbol).first->second;
 }
 
 SymbolPtr SymbolTable::find(std::string_view name) const {

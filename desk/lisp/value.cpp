@@ -2,6 +2,8 @@
 
 #include "desk/lisp/error.h"
 
+#include <new>
+
 namespace lisp {
 
 bool Value::isSoleOwner() const {
@@ -16,8 +18,13 @@ namespace {
 /// another in depth.
 class Dying {
   public:
+    /// Where memory lacks for the list, a value dies in depth after all.
     void take(Value& value) {
-        if (value.isSoleOwner()) values_.push_back(std::move(value));
+        if (!value.isSoleOwner()) return;
+        try {
+            values_.push_back(std::move(value));
+        } catch (const std::bad_alloc&) {
+        }
     }
     void free() {
         while (!values_.empty()) {

@@ -13,7 +13,8 @@ namespace {
 /// One entity of a space with all that it draws.
 class Candidate {
   public:
-    Candidate(BlockShapes& shapes, EntityId id) : shapes_(shapes) {
+    Candidate(BlockShapes& shapes, EntityId id, WalkBudget& budget) : shapes_(shapes), budget_(budget) {
+        budget_.addEntity();
         const Drawing& drawing = shapes.drawing();
         placed_ = readPlaced(drawing, id);
         showsZero_ = !drawing.layer(id).off;
@@ -28,12 +29,13 @@ class Candidate {
     template <typename Visit>
     void walk(const Rectangle& area, ShapeWalk::Copies copies, const Visit& visit) {
         if (!visit(own_, Transform{})) return;
-        if (large_ != nullptr) ShapeWalk(shapes_, area, copies, visit).walk(*large_);
-        if (placed_) ShapeWalk(shapes_, area, copies, visit).walk(*placed_, showsZero_);
+        if (large_ != nullptr) ShapeWalk(shapes_, area, copies, budget_, visit).walk(*large_);
+        if (placed_) ShapeWalk(shapes_, area, copies, budget_, visit).walk(*placed_, showsZero_);
     }
 
   private:
     BlockShapes& shapes_;
+    WalkBudget& budget_;
     Geometry own_;
     const BlockShape* large_ = nullptr;
     std::optional<Placed> placed_;
@@ -82,11 +84,12 @@ std::vector<EntityId> entitiesAt(const Drawing& drawing, BlockId space, const Po
     std::vector<Found> found;
     Scene& scene = sceneOf(drawing);
     BlockShapes& shapes = scene.blocks();
+    WalkBudget budget;
     const Vector3 reach{tolerance, tolerance, 0};
     const Rectangle area(point - reach, point + reach);
     scene.space(space).forEachNear(area, [&](EntityId id, const Rectangle&) {
         double rank = Box::kFar;
-        Candidate(shapes, id)
+        Candidate(shapes, id, budget)
             .walk(area, ShapeWalk::Copies::Near, [&](const Geometry& geometry, const Transform& transform) {
                 rank = std::min(rank, rankOf(hitTest(geometry, transform, point), tolerance));
                 return true;
@@ -108,6 +111,7 @@ std::vector<EntityId> entitiesIn(const Drawing& drawing, BlockId space, const Re
     std::vector<EntityId> result;
     Scene& scene = sceneOf(drawing);
     BlockShapes& shapes = scene.blocks();
+    WalkBudget budget;
     scene.space(space).forEachNear(area, [&](EntityId id, const Rectangle& bounds) {
         // A reference on a layer that is off needn't draw all that its box is about.
         const bool boxInside = area.contains(bounds.low) && area.contains(bounds.high);
@@ -115,7 +119,7 @@ std::vector<EntityId> entitiesIn(const Drawing& drawing, BlockId space, const Re
             result.push_back(id);
             return true;
         }
-        Candidate candidate(shapes, id);
+        Candidate candidate(shapes, id, budget);
         const bool chosen = crossing ? reachesInto(candidate, area) : liesWithin(candidate, bounds, area);
         if (chosen) result.push_back(id);
         return true;
@@ -127,9 +131,10 @@ void forEachGeometryNear(const Drawing& drawing, BlockId space, const Rectangle&
                          const VisitGeometry& visit) {
     Scene& scene = sceneOf(drawing);
     BlockShapes& shapes = scene.blocks();
+    WalkBudget budget;
     scene.space(space).forEachNear(area, [&](EntityId id, const Rectangle&) {
         bool goesOn = true;
-        Candidate(shapes, id)
+        Candidate(shapes, id, budget)
             .walk(area, ShapeWalk::Copies::Near, [&](const Geometry& geometry, const Transform& transform) {
                 return goesOn = visit(id, geometry, transform);
             });

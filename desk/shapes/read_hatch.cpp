@@ -240,27 +240,37 @@ std::vector<Path> HatchBoundary::worldLoops() const {
     return result;
 }
 
-double HatchBoundary::area() const {
+double HatchBoundary::areaWithin(geometry::Effort& effort) const {
     std::vector<FlatLoop> flat;
     flat.reserve(loops.size());
     for (const Path& loop : loops) flat.emplace_back(loop);
-    for (std::size_t i = 0; i < flat.size() && style == Style::kNormal; ++i) {
-        const auto cuts = [&](const FlatLoop& other) { return flat[i].cuts(other); };
-        if (std::any_of(flat.begin() + static_cast<std::ptrdiff_t>(i) + 1, flat.end(), cuts)) {
-            return geometry::evenOddArea(loops);
-        }
-    }
+    std::vector<std::size_t> depths(flat.size());
+    bool areCut = false;
+    geometry::forEachMeeting(flat, effort, [&](std::size_t i, std::size_t j) {
+        if (areCut) return;
+        areCut = style == Style::kNormal && flat[i].cuts(flat[j], effort);
+        effort.spend(flat[i].size() + flat[j].size());
+        if (flat[j].holds(flat[i])) ++depths[i];
+        if (flat[i].holds(flat[j])) ++depths[j];
+    });
+    if (areCut) return geometry::evenOddArea(loops, effort);
     double sum = 0;
     for (std::size_t i = 0; i < loops.size(); ++i) {
-        std::size_t depth = 0;
-        for (std::size_t j = 0; j < loops.size(); ++j) {
-            if (j != i && flat[j].holds(flat[i])) ++depth;
-        }
+        const std::size_t depth = depths[i];
         const double size = pathArea(loops[i]);
         const bool counts = style == Style::kNormal || depth == 0 || (style == Style::kOuter && depth == 1);
         if (counts) sum += depth % 2 == 0 ? size : -size;
     }
     return std::max(sum, 0.0);
+}
+
+double HatchBoundary::area() const {
+    try {
+        geometry::Effort effort;
+        return areaWithin(effort);
+    } catch (const geometry::TooMuchWork&) {
+        raise(kNotApplicable, "the hatch has too many borders across one another");
+    }
 }
 
 }  // namespace shapes

@@ -19,7 +19,12 @@ struct HatchBoundary {
     /// The hatched area: a loop inside another takes its own away under kNormal and, in the first depth only,
     /// under kOuter; loops deeper count again under kNormal. Under kNormal loops that cut one another count
     /// by the even-odd rule, elsewhere as if they didn't.
+    /// Raises kNotApplicable where so many loops lie in or across one another that it would take
+    /// more than a second or two.
     double area() const;
+
+  private:
+    double areaWithin(geometry::Effort& effort) const;
 };
 
 HatchBoundary readHatch(dxf::TagReader tags);

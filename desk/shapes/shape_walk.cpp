@@ -9,8 +9,6 @@ namespace shapes {
 namespace {
 
 constexpr int kDeepest = 100;
-/// Blocks nested in blocks may multiply beyond all bounds; a walk stops looking after so many items.
-constexpr std::size_t kMostSteps = 2'000'000;
 
 /// The whole numbers from `low` to `high` among 0 to `count` - 1, as begin and end.
 std::pair<int, int> within(double low, double high, int count) {
@@ -96,7 +94,7 @@ bool ShapeWalk::walkArray(const Placed& placed, const Transform& outer, bool sho
 }
 
 bool ShapeWalk::walkCopy(const Placed& placed, const Transform& toWorld, bool showsZero, int depth) {
-    if (++steps_ > kMostSteps) return false;
+    if (!budget_.spend()) return false;
     const BlockShape& shape = shapes_.of(placed.block);
     if (!shape.isEndless && !mayMeet(shape.bounds.transformed(toWorld))) return true;
     return walkItems(shape, toWorld, showsZero, depth);
@@ -108,14 +106,13 @@ bool ShapeWalk::walkItems(const BlockShape& shape, const Transform& toWorld, boo
         const std::size_t begin = stretch * BlockShape::kStretch;
         const std::size_t end = std::min(begin + BlockShape::kStretch, shape.items.size());
         for (std::size_t i = begin; i < end; ++i) {
-            if (!walkItem(shape.items[i], toWorld, showsZero, depth)) return false;
+            if (!budget_.spend() || !walkItem(shape.items[i], toWorld, showsZero, depth)) return false;
         }
     }
     return true;
 }
 
 bool ShapeWalk::walkItem(const ShapeItem& item, const Transform& toWorld, bool showsZero, int depth) {
-    if (++steps_ > kMostSteps) return false;
     if (!item.isEndless && !mayMeet(item.bounds.transformed(toWorld))) return true;
     // A reference on layer 0 hands on what holds for it; its own text stands on layer 0 itself.
     const bool shown = showsZero || !item.onLayerZero;

@@ -21,6 +21,19 @@ struct CellRange {
 CellRange cellsNear(const Placement& placement, const Box& first, const Vector3& columnStep,
                     const Vector3& rowStep, const Rectangle& area);
 
+/// The items that the walks of one question may look at. Blocks nested in blocks and arrays of arrays may
+/// multiply beyond all bounds; what lies behind the bound isn't found.
+class WalkBudget {
+  public:
+    /// Each entity of a space brings its own share, so that a large drawing is looked through to its end.
+    void addEntity() { left_ += kForEntity; }
+    bool spend() { return left_ > 0 && left_-- > 0; }
+
+  private:
+    static constexpr std::size_t kForEntity = 1000;
+    std::size_t left_ = 4'000'000;
+};
+
 /// Goes through what a placed block draws, nested blocks included, where it may meet a rectangle.
 class ShapeWalk {
   public:
@@ -31,8 +44,8 @@ class ShapeWalk {
     /// array, which suffice to tell how far it reaches.
     enum class Copies { Near, Corners };
 
-    ShapeWalk(BlockShapes& shapes, const Rectangle& area, Copies copies, Visit visit)
-        : shapes_(shapes), area_(area), copies_(copies), visit_(std::move(visit)) {}
+    ShapeWalk(BlockShapes& shapes, const Rectangle& area, Copies copies, WalkBudget& budget, Visit visit)
+        : shapes_(shapes), area_(area), copies_(copies), budget_(budget), visit_(std::move(visit)) {}
 
     /// Walks one reference of the space. `showsZero` is false where its layer is off, so that the content on
     /// layer 0 isn't drawn. Returns false where the visitor ended the walk.
@@ -51,8 +64,8 @@ class ShapeWalk {
     BlockShapes& shapes_;
     Rectangle area_;
     Copies copies_;
+    WalkBudget& budget_;
     Visit visit_;
-    std::size_t steps_ = 0;
 };
 
 }  // namespace shapes

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <exception>
 #include <sstream>
 #include <unistd.h>
 
@@ -48,7 +49,9 @@ bool worksOn(pid_t process) {
 Autosave::Autosave(fs::path folder, const std::string& path)
     : folder_(std::move(folder)), file_(folder_ / (nameOf(path) + std::to_string(getpid()) + ".dxf")) {}
 
-Autosave::~Autosave() { remove(); }
+Autosave::~Autosave() {
+    if (std::uncaught_exceptions() == 0) remove();
+}
 
 void Autosave::keep(const drawing::Drawing& drawing) {
     if (!drawing.isModified()) return remove();

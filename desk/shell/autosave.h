@@ -17,7 +17,7 @@ class Autosave {
   public:
     /// Of the drawing at `path`. The folder is made at the first writing.
     Autosave(std::filesystem::path folder, const std::string& path);
-    /// Takes the copy away: the end is a clean one.
+    /// Takes the copy away: the end is a clean one, unless an exception is on its way.
     ~Autosave();
     Autosave(const Autosave&) = delete;
     Autosave& operator=(const Autosave&) = delete;

@@ -11,6 +11,8 @@
 #include "desk/shell/lisp_answer.h"
 #include "desk/shell/surroundings.h"
 
+#include <algorithm>
+#include <exception>
 #include <filesystem>
 #include <optional>
 #include <ostream>
@@ -65,7 +67,8 @@ Desk::Desk(const DeskOptions& options, forms::Screen& screen, model::Prompter& p
       breakable_(options.breakable),
       confirm_(options.confirm),
       aside_(options.aside),
-      readied_(options.readied) {
+      readied_(options.readied),
+      autosaveInterval_(options.autosaveInterval) {
     prepareInstallFolder(options.installFolder, options.resources,
                          languageByCode(options.frenchDesktop ? "fr" : "en"));
     if (!options.language.empty()) chooseLanguage(options.installFolder, options.language);
@@ -74,6 +77,7 @@ Desk::Desk(const DeskOptions& options, forms::Screen& screen, model::Prompter& p
         options.showPage);
     const auto watch = [this, also = options.watch] {
         if (break_ != nullptr) break_->check();
+        if (autosave_) keepCopyInTime();
         if (also) also();
     };
     model::Environment given = environment(options, prompter);
@@ -98,7 +102,9 @@ Desk::Desk(const DeskOptions& options, forms::Screen& screen, model::Prompter& p
     lisp_->load(options.resources / "vorlane.lsp");
 }
 
-Desk::~Desk() { removeRecovered(); }
+Desk::~Desk() {
+    if (std::uncaught_exceptions() == 0) removeRecovered();
+}
 
 model::Document& Desk::document() const {
     if (!hasDrawing()) throw basic::Error(basic::kObjectNotSet, "No drawing is open");
@@ -236,10 +242,9 @@ void Desk::save(const std::string& path, Overwriting overwriting) {
 }
 
 /// Undoes the step of a line that was broken off, if it changed anything.
-Desk::Outcome Desk::takeBack(const model::ContextPtr& context, std::uint64_t revision) {
+void Desk::takeBack(const model::ContextPtr& context, std::uint64_t revision) {
     const bool isOurs = context && hasDrawing() && document().context() == context;
     if (isOurs && context->drawing->revision() != revision) document().undo();
-    return Outcome::Failed;
 }
 
 void Desk::keepCopy() {
@@ -252,6 +257,16 @@ void Desk::keepCopy() {
     }
 }
 
+/// Amid a command that takes long. What a copy costs stays a small part of the time.
+void Desk::keepCopyInTime() {
+    constexpr int kPart = 50;
+    const auto start = std::chrono::steady_clock::now();
+    if (start < nextCopy_) return;
+    keepCopy();
+    const auto end = std::chrono::steady_clock::now();
+    nextCopy_ = end + std::max(autosaveInterval_, (end - start) * kPart);
+}
+
 Desk::Outcome Desk::run(const std::string& line) {
     const std::string text(basic::trim(line));
     if (text.empty()) return Outcome::Done;
@@ -259,6 +274,7 @@ Desk::Outcome Desk::run(const std::string& line) {
     const auto back = [this, before = break_](const HeldBreak*) { break_ = before; };
     const std::unique_ptr<const HeldBreak, decltype(back)> running(&held, back);
     break_ = &held;
+    nextCopy_ = std::chrono::steady_clock::now() + autosaveInterval_;
     const model::ContextPtr context = hasDrawing() ? document().context() : nullptr;
     const std::uint64_t revision = context ? context->drawing->revision() : 0;
     try {
@@ -268,10 +284,13 @@ Desk::Outcome Desk::run(const std::string& line) {
         return outcome;
     } catch (const UserBreak& userBreak) {
         fail(Outcome::Failed, userBreak.what());
-        return takeBack(context, revision);
+        takeBack(context, revision);
+        keepCopy();
+        return Outcome::Failed;
     } catch (const lisp::IncompleteInput&) {
         return Outcome::Incomplete;
     } catch (const basic::Error& error) {
+        keepCopy();  // a command that fails may have done its part
         return fail(Outcome::Failed, "Error " + std::to_string(error.number()) + ": " + error.description());
     }
 }

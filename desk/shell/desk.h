@@ -8,6 +8,7 @@
 #include "desk/shell/user_break.h"
 #include "entry/component.h"
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <iosfwd>
@@ -25,7 +26,9 @@ struct DeskOptions {
     bool frenchDesktop = false;  ///< decides the language while the user has chosen none
     /// For copies of what isn't saved yet and of files that can only be written in place; empty for none.
     std::filesystem::path stateFolder;
-    bool autosave = false;   ///< whether a copy is kept after each command that leaves something unsaved
+    bool autosave = false;  ///< whether a copy is kept after each command that leaves something unsaved
+    /// A copy is kept within a command, too, that goes on for so long.
+    std::chrono::milliseconds autosaveInterval = std::chrono::minutes(1);
     bool breakable = false;  ///< whether Ctrl-C breaks off what runs rather than ending the program
     /// Asks a person a question of yes and no; empty where nobody is there.
     std::function<bool(const std::string& question)> confirm;
@@ -108,7 +111,8 @@ class Desk {
     std::unique_ptr<drawing::Drawing> readAside(const std::string& path, Read read) const;
     void requireOverwriting(const std::string& path, Overwriting overwriting) const;
     std::string backupFolder() const;
-    Outcome takeBack(const model::ContextPtr& context, std::uint64_t revision);
+    void keepCopyInTime();
+    void takeBack(const model::ContextPtr& context, std::uint64_t revision);
     void removeRecovered();
 
     std::ostream& output_;
@@ -124,6 +128,8 @@ class Desk {
     std::unique_ptr<DrawingFile>
         file_;  ///< none for a drawing that came from a DWG file and wasn't saved yet
     std::unique_ptr<Autosave> autosave_;
+    std::chrono::steady_clock::duration autosaveInterval_;
+    std::chrono::steady_clock::time_point nextCopy_;  ///< when one is due amid a command
     std::filesystem::path
         recovered_;             ///< the copy of a session before, which goes with a save or a clean end
     bool isRecovered_ = false;  ///< the drawing is that copy's and isn't saved yet

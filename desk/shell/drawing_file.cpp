@@ -105,6 +105,7 @@ bool DrawingFile::takeLock() {
     const std::string text = userName() + "\n" + machineName() + "\n" + now() + "\n" + std::string(kProcess) +
                              std::to_string(getpid()) + "\n";
     isOurs_ = true;
+    transient_.hold(lock_.string());
     // An incomplete lock still says that the drawing is open.
     return write(file.get(), text.data(), text.size()) >= 0;
 }

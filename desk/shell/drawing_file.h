@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desk/dxf/file.h"
+#include "desk/dxf/transient.h"
 
 #include <filesystem>
 #include <string>
@@ -43,6 +44,7 @@ class DrawingFile {
     dxf::FileStamp stamp_;
     Holder other_;
     bool isOurs_ = false;
+    dxf::Transient transient_;
 };
 
 }  // namespace shell

@@ -3,8 +3,8 @@
 #include "basic/error.h"
 #include "desk/shell/process.h"
 #include "desk/shell/surroundings.h"
+#include "desk/shell/temporary_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <vector>
@@ -14,14 +14,6 @@ namespace shell {
 namespace fs = std::filesystem;
 
 namespace {
-
-fs::path temporaryFolder() {
-    std::string pattern = (fs::temp_directory_path() / "vorlane-dwg-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-        throw basic::Error(basic::kDeviceError, "No temporary folder for the conversion of a DWG file");
-    }
-    return pattern;
-}
 
 /// Ours for Node: beside the delivered resources or in the tree that they came from. Nothing where it or what
 /// it needs isn't installed.
@@ -70,25 +62,17 @@ std::string convertDwg(const std::string& dwgPath) {
     const fs::path source = fs::absolute(dwgPath);
     if (std::error_code error; !fs::is_regular_file(source, error))
         throw basic::Error(basic::kFileNotFound, dwgPath + " isn't there");
-    const fs::path folder = temporaryFolder();
-    const fs::path made = folder / (source.stem().string() + ".dxf");
-    std::error_code ignored;
-    int status = 0;
+    const TemporaryFolder folder("vorlane-dwg");
+    const fs::path made = folder.path() / (source.stem().string() + ".dxf");
+    std::vector<std::string> command = conversion(source, made);
+    // Debian's own guard: ends the program when its time is over.
+    if (const auto timeout = findProgram("timeout"))
+        command.insert(command.begin(), {*timeout, "--kill-after=5", kSecondsAllowed});
     std::string printed;
-    try {
-        std::vector<std::string> command = conversion(source, made);
-        // Debian's own guard: ends the program when its time is over.
-        if (const auto timeout = findProgram("timeout"))
-            command.insert(command.begin(), {*timeout, "--kill-after=5", kSecondsAllowed});
-        status = runProgram(command, &printed);
-    } catch (const basic::Error&) {
-        fs::remove_all(folder, ignored);
-        throw;
-    }
-    const fs::path result = folder.string() + ".dxf";
-    std::error_code error;
+    const int status = runProgram(command, &printed);
+    const fs::path result = folder.path().string() + ".dxf";
+    std::error_code error, ignored;
     fs::rename(made, result, error);
-    fs::remove_all(folder, ignored);
     if (status != 0 || error) {
         fs::remove(result, ignored);
         throw basic::Error(basic::kDeviceError,

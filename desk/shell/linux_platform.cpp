@@ -67,7 +67,9 @@ std::string LinuxPlatform::ownFolder() { return programFile().parent_path().stri
 void LinuxPlatform::openDocument(const std::string& document, const std::string&, const std::string&) {
     const bool hasDisplay =
         !readEnvironment("DISPLAY").empty() || !readEnvironment("WAYLAND_DISPLAY").empty();
-    if (hasDisplay && startProgram({"xdg-open", document})) return;
+    // Its name could pass for an option; xdg-open doesn't know "--".
+    const std::string name = document.starts_with('-') ? "./" + document : document;
+    if (hasDisplay && startProgram({"xdg-open", name})) return;
     tell_(document);
 }
 

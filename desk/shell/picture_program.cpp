@@ -5,9 +5,9 @@
 #include "desk/drawing/drawing.h"
 #include "desk/shell/process.h"
 #include "desk/shell/surroundings.h"
+#include "desk/shell/temporary_folder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -35,28 +35,15 @@ std::string pictureProgram() {
 class TemporaryDrawing {
   public:
     explicit TemporaryDrawing(const drawing::Drawing& drawing) {
-        std::error_code error;
-        std::string pattern = (fs::temp_directory_path(error) / "vorlane-picture-XXXXXX").string();
-        if (error || mkdtemp(pattern.data()) == nullptr) {
-            throw basic::Error(basic::kDeviceError, "No temporary folder for the picture");
-        }
-        folder_ = pattern;
         std::ofstream stream(file(), std::ios::binary);
         stream << drawing.savedBytes();
         stream.flush();
         if (!stream) throw basic::Error(basic::kDiskFull, "No room for the picture's copy of the drawing");
     }
-    ~TemporaryDrawing() {
-        std::error_code ignored;
-        fs::remove_all(folder_, ignored);
-    }
-    TemporaryDrawing(const TemporaryDrawing&) = delete;
-    TemporaryDrawing& operator=(const TemporaryDrawing&) = delete;
-
-    fs::path file() const { return folder_ / "drawing.dxf"; }
+    fs::path file() const { return folder_.path() / "drawing.dxf"; }
 
   private:
-    fs::path folder_;
+    TemporaryFolder folder_{"vorlane-picture"};
 };
 
 /// The program's own words about a failure, with the picture's name in place of its own.
@@ -103,8 +90,9 @@ PictureGaps writePicture(const drawing::Drawing& drawing, const std::string& pat
         throw basic::Error(basic::kBadFileName, "A picture's name ends in .png, .svg or .pdf: " + path);
     const std::string program = pictureProgram();
     const TemporaryDrawing copy(drawing);
-    std::vector<std::string> command{program, copy.file().string(), path};
+    std::vector<std::string> command{program};
     command.insert(command.end(), options.begin(), options.end());
+    command.insert(command.end(), {"--", copy.file().string(), path});
     std::string printed;
     if (runProgram(command, &printed) != 0)
         throw basic::Error(basic::kPathFileAccess, reasonIn(printed, path));

@@ -1,4 +1,5 @@
 #include "basic/error.h"
+#include "desk/dxf/transient.h"
 #include "desk/shell/surroundings.h"
 #include "desk/window/main_window.h"
 #include "faces/qt/qt_screen.h"
@@ -60,6 +61,7 @@ qt_face::QtHooks hooks(QWidget& owner) {
 int main(int argc, char** argv) {
     // A full disk or a file limit is an error of the write that meets it, not the end of the program.
     std::signal(SIGXFSZ, SIG_IGN);
+    dxf::removeTransientsAtSignals();
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     QApplication::setApplicationName("vorlane");

@@ -61,7 +61,10 @@ std::optional<std::string> LineSource::nextAct(std::ostream& output, std::string
 
 std::optional<std::string> StreamLines::read() {
     std::string line;
-    if (!std::getline(input_, line)) return std::nullopt;
+    if (!std::getline(input_, line)) {
+        if (input_.bad() && !interactive_) throw ScriptError("the script can't be read on");
+        return std::nullopt;
+    }
     if (!line.empty() && line.back() == '\r') line.pop_back();
     if (!started_ && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
     started_ = true;

@@ -1,8 +1,11 @@
 // What keeps a drawing safe from the machine and from other programs: lock file, changed file, recovery.
 #include "bench/big_drawing.h"
+#include "desk/dxf/transient.h"
+#include "desk/shell/temporary_folder.h"
 #include "shell_world.h"
 
 #include <csignal>
+#include <fstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,6 +22,9 @@ class SafetyTest : public testing::Test {
   protected:
     /// A desk with a person before it, who answers with `answer`.
     std::unique_ptr<Desk> person(bool answer = true) {
+        return std::make_unique<Desk>(optionsOfPerson(answer), screen, prompter, output);
+    }
+    DeskOptions optionsOfPerson(bool answer = true) {
         DeskOptions options = ShellWorld::optionsIn(folder);
         options.stateFolder = folder.file("state");
         options.autosave = true;
@@ -26,7 +32,7 @@ class SafetyTest : public testing::Test {
             questions.push_back(question);
             return answer;
         };
-        return std::make_unique<Desk>(options, screen, prompter, output);
+        return options;
     }
     std::unique_ptr<Desk> script() {
         DeskOptions options = ShellWorld::optionsIn(folder);
@@ -35,14 +41,24 @@ class SafetyTest : public testing::Test {
     }
     /// A session that is killed after `line`, as by a power cut.
     void killAfter(const std::string& line) {
-        const pid_t child = fork();
-        if (child == 0) {
+        inChild([&] {
             const auto desk = person();
             desk->open(house);
             desk->run(line);
             kill(getpid(), SIGKILL);
+        });
+    }
+    /// Runs `session` in a process of its own; the signal that ended it.
+    template <typename Session>
+    static int inChild(const Session& session) {
+        const pid_t child = fork();
+        if (child == 0) {
+            session();
+            _exit(0);
         }
-        waitpid(child, nullptr, 0);
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
     }
     std::string told() { return std::exchange(output, {}).str(); }
     /// The copies of unsaved changes that there are.
@@ -86,6 +102,44 @@ TEST_F(SafetyTest, UnsavedChangesOutliveAKill) {
     desk->save("");
     EXPECT_NE(folder.read("house.dxf"), bytes);
     EXPECT_EQ(copies(), 0);
+}
+
+TEST_F(SafetyTest, SignalsTakeWhatIsTemporaryAndLeaveTheCopy) {
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        const int ended = inChild([&] {
+            dxf::removeTransientsAtSignals();
+            const ChangedVariable temporary("TMPDIR", folder.path());
+            const TemporaryFolder passing("passing");
+            std::ofstream(passing.path() / "file") << "x";
+            DeskOptions options = optionsOfPerson();
+            options.autosaveInterval = {};
+            const drawing::Drawing* drawing = nullptr;
+            options.watch = [&] {  // amid the command
+                if (drawing != nullptr && drawing->isModified()) raise(signal);
+            };
+            Desk desk(options, screen, prompter, output);
+            desk.open(house);
+            drawing = &desk.document().drawing();
+            desk.run(std::string("(progn ") + kErase + " (while t))");
+        });
+        EXPECT_EQ(ended, signal);
+        EXPECT_EQ(copies(), 1);
+        EXPECT_FALSE(fs::exists(folder.file("house.dwl")));
+        for (const auto& entry : fs::directory_iterator(folder.path()))
+            EXPECT_FALSE(entry.path().filename().string().starts_with("passing")) << entry;
+        fs::remove_all(folder.file("state"));
+    }
+}
+
+TEST_F(SafetyTest, AnExceptionThatEndsTheSessionLeavesTheCopy) {
+    try {
+        const auto desk = person();
+        desk->open(house);
+        desk->run(kErase);
+        throw std::bad_alloc();
+    } catch (const std::bad_alloc&) {
+        EXPECT_EQ(copies(), 1);
+    }
 }
 
 TEST_F(SafetyTest, ACleanEndLeavesNothing) {
