@@ -1,5 +1,6 @@
 #pragma once
 
+#include "basic/border.h"
 #include "desk/model/document.h"
 
 #include <memory>
@@ -8,20 +9,29 @@
 
 namespace fuzz {
 
-/// Answers every prompt with the same entity and point.
+/// Answers prompts with the same point, angle and empty selection. Commands go on asking until they are broken off,
+/// which comes with the last answer.
 class Answers : public model::Prompter {
   public:
-    model::EntityPick getEntity(const drawing::Drawing&, const std::string&) override { return {}; }
+    model::EntityPick getEntity(const drawing::Drawing&, const std::string&) override { return {next()}; }
     model::PointPick getPoint(const std::optional<drawing::Point3>&, const std::string&) override {
-        return {model::Answer::Given, {1, 2, 0}};
+        return {next(), {1, 2, 0}};
     }
-    model::AnglePick getAngle(const drawing::Point3&, const std::string&) override {
-        return {model::Answer::Given, 1};
-    }
+    model::AnglePick getAngle(const drawing::Point3&, const std::string&) override { return {next(), 1}; }
     model::SelectionPick selectEntities(const drawing::Drawing&, const std::string&) override {
-        return {model::Answer::Given, {}};
+        return {next(), {}};
     }
     void message(const std::string&) override {}
+
+  private:
+    /// Given, and now and then the end of a series.
+    model::Answer next() {
+        constexpr int kSeries = 8;
+        if (++asked_ > 400) throw basic::Interruption("enough");
+        return asked_ % kSeries == 0 ? model::Answer::BrokenOff : model::Answer::Given;
+    }
+
+    int asked_ = 0;
 };
 
 /// A drawing behind its automation objects.

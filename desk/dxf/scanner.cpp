@@ -1,5 +1,6 @@
 #include "desk/dxf/scanner.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace dxf {
@@ -127,16 +128,19 @@ Event Scanner::outOfGroups(TagReader::Step step, Tag& tag) {
             "the file breaks off in section " + std::string(outline_.sections.back().name);
         if (!mayBreakOff(kind_)) source.fail(reader_.position(), text);
         report(reader_.position(), 0, finding::kBrokenOff, text);
+        // A piece of a group that stands last stays last: what is added comes in front of it.
+        wholeEnd_ = reader_.position();
         reader_.seek(size);
-        setEmpty(tag, size, source);
-        return endSection(size, size);
+        setEmpty(tag, wholeEnd_, source);
+        return endSection(wholeEnd_, wholeEnd_);
     }
     if (step == TagReader::Step::CutOff) {
         report(reader_.position(), 0, finding::kCutOff, "the file ends in the middle of a group");
+        wholeEnd_ = reader_.position();
         reader_.seek(size);
     }
     report(size, 0, finding::kNoFileEnd, "the file doesn't end with EOF");
-    setEmpty(tag, size, source);
+    setEmpty(tag, std::min(wholeEnd_, size), source);
     return finish(tag);
 }
 

@@ -103,6 +103,8 @@ class Scanner {
     SectionKind kind_ = SectionKind::Unknown;
     bool inSection_ = false;
     bool strayReported_ = false;
+    /// Where the whole groups of a file end that breaks off.
+    std::size_t wholeEnd_ = static_cast<std::size_t>(-1);
 };
 
 }  // namespace dxf

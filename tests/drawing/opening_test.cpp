@@ -99,5 +99,22 @@ TEST(Opening, ListsWhatIsWrongAndKeepsItsBytes) {
     EXPECT_THROW(Drawing::parse(text, "wrong.dxf", Reading::Strict), dxf::ReadError);
 }
 
+// What is added stands in front of a piece of a group at the end, so that the file can be read again.
+TEST(Opening, AFileThatEndsAmidAGroupTakesWhatIsAdded) {
+    const std::string zero(1, '\0');
+    for (const std::string& text : {"AutoCAD Binary DXF\r\n\x1a" + zero + zero + zero + "SECTION" + zero +
+                                        "\x02" + zero + "SPARE" + zero + zero + "LI",
+                                    std::string("  0\nSECTION\n  2\nSPARE\n  0"),
+                                    std::string("  0\nSECTION\n  2\nSPARE\n  0\nENDSEC\n  9")}) {
+        const auto drawing = Drawing::parse(text, "cut.dxf");
+        EXPECT_EQ(drawing->savedBytes(), text);
+        drawing->addLine({0, 0, 0}, {1, 1, 0});
+        const auto again = Drawing::parse(drawing->savedBytes(), "saved.dxf");
+        EXPECT_EQ(again->entityCount(again->modelSpace()), 1u);
+        drawing->undo();
+        EXPECT_EQ(drawing->savedBytes(), text);
+    }
+}
+
 }  // namespace
 }  // namespace drawing
