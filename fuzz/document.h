@@ -9,8 +9,8 @@
 
 namespace fuzz {
 
-/// Answers prompts with the same point, angle and empty selection. Commands go on asking until they are broken off,
-/// which comes with the last answer.
+/// Answers prompts with the same point, angle and empty selection. Commands go on asking until they are
+/// broken off, which comes with the last answer.
 class Answers : public model::Prompter {
   public:
     model::EntityPick getEntity(const drawing::Drawing&, const std::string&) override { return {next()}; }
