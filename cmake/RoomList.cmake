@@ -42,7 +42,7 @@ else()
     set_source_files_properties(${PROJECT_SOURCE_DIR}/desk/shell/surroundings.cpp
         PROPERTIES COMPILE_DEFINITIONS VORLANE_RESOURCES="${PROJECT_SOURCE_DIR}/resources")
     vorlane_room(answers desk/answers LINKS shapes)
-    vorlane_room(jobs desk/jobs LINKS shell answers)
+    vorlane_room(jobs desk/jobs LINKS shell answers text_face)
     vorlane_room(console desk/console LINKS jobs text_face SYSTEM edit)
 
     # One program under two names: vorlane-console never becomes the window.

@@ -115,6 +115,8 @@ std::vector<EntityId> Selection::findHandles(const std::vector<std::string_view>
     std::vector<EntityId> found;
     for (const std::string_view part : parts) {
         const auto handle = parseHandleAnswer(part);
+        if (!handle && part.starts_with('@'))
+            throw AnswerError("\"" + std::string(part.substr(1)) + "\" is no handle");
         if (!handle) {
             throw AnswerError(
                 "is no selection: all, w x,y x,y, c x,y x,y, f x,y x,y..., p, l, r, a, first NAME, "

@@ -1,6 +1,25 @@
 #include "desk/console/arguments.h"
 
+#include "faces/text/control_names.h"
+
+#include <filesystem>
+
 namespace console {
+
+void refuseUnknownVerb(const jobs::Arguments& arguments) {
+    if (arguments.operands.empty()) return;
+    const std::string& word = arguments.operands.front();
+    std::error_code ignored;
+    const bool mayBeDrawing = word.find_first_of("./") != std::string::npos;
+    if (mayBeDrawing || std::filesystem::exists(word, ignored)) return;
+    std::vector<std::string> verbs;
+    for (const jobs::VerbText& verb : jobs::allVerbs()) {
+        if (*verb.name != 0) verbs.emplace_back(verb.name);
+    }
+    const std::string near = text_face::nearText(word, verbs);
+    if (!near.empty() || arguments.operands.size() > 1)
+        throw jobs::UsageError("there is no verb and no drawing " + word + near);
+}
 
 CommandLine readCommandLine(const jobs::Arguments& arguments) {
     CommandLine line;

@@ -20,6 +20,9 @@ struct CommandLine {
     std::string language;
 };
 
+/// A first word that is no drawing but may be meant for a verb. Raises jobs::UsageError.
+void refuseUnknownVerb(const jobs::Arguments& arguments);
+
 /// Raises jobs::UsageError.
 CommandLine readCommandLine(const jobs::Arguments& arguments);
 

@@ -1,4 +1,5 @@
 #include "basic/error.h"
+#include "desk/console/arguments.h"
 #include "desk/console/console.h"
 #include "desk/console/start_window.h"
 #include "desk/dxf/transient.h"
@@ -55,6 +56,7 @@ int run(const std::string& program, std::vector<std::string> words) {
         return jobs::kDone;
     }
     if (verb != nullptr) return jobs::runVerb(arguments, std::cout, std::cerr);
+    console::refuseUnknownVerb(arguments);
     if (program != "vorlane-console" && console::wantsWindow(arguments)) console::startWindow(words);
     return console::runConsole(arguments, program);
 }

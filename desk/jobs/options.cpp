@@ -1,5 +1,7 @@
 #include "desk/jobs/options.h"
 
+#include "faces/text/control_names.h"
+
 #include <algorithm>
 
 namespace jobs {
@@ -167,8 +169,13 @@ const Option& optionNamed(Verb verb, const std::string& name) {
     for (const Option& option : allOptions()) {
         if (option.name == full && (option.verbs & verb) != 0) return option;
     }
+    std::vector<std::string> names;
+    for (const Option& option : allOptions()) {
+        if ((option.verbs & verb) != 0) names.emplace_back(option.name);
+    }
     const char* of = textOf(verb).name;
-    throw UsageError("unknown option " + name + (*of == 0 ? std::string() : " of " + std::string(of)));
+    throw UsageError("unknown option " + name + (*of == 0 ? std::string() : " of " + std::string(of)) +
+                     text_face::nearText(name, names));
 }
 
 /// Whether the value is one of the words that the option is limited to, such as "fr|en".

@@ -30,10 +30,23 @@ std::string words(const std::string& name) {
     return text;
 }
 
+/// "rows" and "rowsWithoutReference" as of one.
+std::string singular(const std::string& name) {
+    for (const char* plural : {"rows", "blocks", "references", "findings"}) {
+        const std::string_view word = plural;
+        if (name.starts_with(word))
+            return std::string(word.substr(0, word.size() - 1)) + name.substr(word.size());
+    }
+    return name.ends_with("Rows") ? name.substr(0, name.size() - 1) : name;
+}
+
 std::string countsText(const std::vector<std::pair<std::string, std::int64_t>>& counts) {
     std::string text;
     for (const auto& [name, number] : counts) {
-        text.append(text.empty() ? "" : ", ").append(std::to_string(number)).append(" ").append(words(name));
+        text.append(text.empty() ? "" : ", ")
+            .append(std::to_string(number))
+            .append(" ")
+            .append(words(number == 1 ? singular(name) : name));
     }
     return text;
 }

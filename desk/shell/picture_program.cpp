@@ -26,9 +26,10 @@ std::string pictureProgram() {
     std::error_code ignored;
     if (fs::exists(beside, ignored)) return beside.string();
     if (const std::optional<std::string> found = findProgram(kProgram)) return *found;
-    throw basic::Error(basic::kFileNotFound,
-                       "The program vorlane-picture, which draws pictures, isn't installed beside " +
-                           programFile().filename().string() + " nor on PATH");
+    throw basic::Error(
+        basic::kFileNotFound,
+        "The program vorlane-picture, which draws pictures, isn't installed: it comes with the window "
+        "(package vorlane-window)");
 }
 
 /// The drawing's bytes in a file of their own, gone with this.

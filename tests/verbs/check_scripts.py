@@ -25,6 +25,7 @@ CASES = [  # what fails, the script up to it, what the error stream has to tell
     ("a table that can't be written", "VNEXTRACT\nBtnSave\nfile /nowhere/t.txt", "there is no folder /nowhere"),
     ("a handle that isn't there", "VNEXTRACT\nBtnNew\n@FFFF", "the handle FFFF"),
     ("one of several handles", "SELECT\n@CF @FFFF", "the handle FFFF"),
+    ("a handle of other letters", "SELECT\n@CF @XYZ", '"XYZ" is no handle'),
     ("a wrong button of a message box", "VNEXTRACT\nBtnNew\nesc\nmaybe", "is no button"),
     ("the end in the middle of a dialog", "VNREPLACE", "ended while fmReplace"),
 ]

@@ -95,6 +95,10 @@ def properties_are_taken_over(verbs):
              or after[place][2].lower() != before[place][2].lower()]
     verbs.hold(not wrong, f"taken over: {wrong}")
     verbs.run(*REPLACE, "--keep", "weight", "coloured.dxf", "--dry-run", code=2)
+    done = verbs.run("replace", "--form", "PORTE_80", "coloured.dxf", code=2)
+    verbs.hold("unknown option --form of replace (near: --from" in done.stderr, done.stderr)
+    done = verbs.run("repalce", "coloured.dxf", code=2)
+    verbs.hold("no verb and no drawing repalce (near: replace)" in done.stderr, done.stderr)
 
 
 def layouts_are_kept(verbs):
@@ -137,7 +141,7 @@ def rows_that_fail(verbs):
     done = verbs.run(*words, code=1)
     verbs.hold("1 of 360 rows failed" in done.stderr and not (verbs.folder / "o.dxf").exists(), done.stderr)
     done = verbs.run(*words, "--keep-going")
-    verbs.hold("359 inserted, 1 failed rows" in done.stdout, done.stdout)
+    verbs.hold("359 inserted, 1 failed row" in done.stdout, done.stdout)
 
 
 def a_round_trip_changes_one_value(verbs):
@@ -152,7 +156,7 @@ def a_round_trip_changes_one_value(verbs):
     rows.append(rows[-1].rsplit(",", 1)[0] + ",FFFF\r\n")
     (verbs.folder / "table.csv").write_text("".join(rows), encoding="utf-8", newline="")
     done = verbs.run("update", "--data", "table.csv", "apartment.dxf", "--out", "updated.dxf")
-    verbs.hold("1 updated, 1 rows without reference" in done.stdout, done.stdout)
+    verbs.hold("1 updated, 1 row without reference" in done.stdout, done.stdout)
     before, after = verbs.bytes("apartment.dxf").split(b"\n"), verbs.bytes("updated.dxf").split(b"\n")
     changed = [i for i in range(min(len(before), len(after))) if before[i] != after[i]]
     # The value, and the first point of its text, which is centred.
