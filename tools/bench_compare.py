@@ -20,7 +20,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ACCEPTED = ROOT / "bench" / "accepted.json"
-SMALL, LARGE = 500, 2500
+SMALL, LARGE = 100, 600
 ALLOWED = 1.02
 REPLACE = (ROOT / "tools" / "measure_job.vns").read_text()
 
