@@ -103,7 +103,7 @@ TEST(Opening, ListsWhatIsWrongAndKeepsItsBytes) {
 TEST(Opening, AFileThatEndsAmidAGroupTakesWhatIsAdded) {
     const std::string zero(1, '\0');
     for (const std::string& text : {"AutoCAD Binary DXF\r\n\x1a" + zero + zero + zero + "SECTION" + zero +
-                                        "\x02" + zero + "SPARE" + zero + zero + "LI",
+                                        "\x02" + zero + "SPARE" + zero + zero + zero + "LI",
                                     std::string("  0\nSECTION\n  2\nSPARE\n  0"),
                                     std::string("  0\nSECTION\n  2\nSPARE\n  0\nENDSEC\n  9")}) {
         const auto drawing = Drawing::parse(text, "cut.dxf");
