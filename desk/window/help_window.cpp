@@ -6,6 +6,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -21,6 +22,7 @@ namespace window {
 namespace {
 
 constexpr QSize kSize{940, 680};
+constexpr int kBesidePicture = 56;
 /// These come first, in this order; then the others by title.
 constexpr const char* kFirstPages[] = {"start", "labels", "replace", "extract", "reinsert"};
 
@@ -42,6 +44,26 @@ QString sheetFor(Scheme scheme) {
                "h1 { color: %1; } h2, h3 { color: %1; } a { color: %2; } th { color: %3; }"
                "td, th { padding: 4px 8px; } p.nav { color: %3; } li { margin-bottom: 3px; }")
         .arg(of(Token::Text), of(Token::Accent), of(Token::Text2));
+}
+
+/// Pictures that are wider than the page's room are drawn smaller.
+QString withPicturesThatFit(const QString& content, const QString& folder, int room) {
+    static const QRegularExpression picture("<img [^>]*src=\"([^\"]+)\"[^>]*>");
+    static const QRegularExpression given(" width=\"(\\d+)\"");
+    QString made;
+    qsizetype last = 0;
+    for (auto found = picture.globalMatch(content); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        QString tag = match.captured();
+        const QRegularExpressionMatch width = given.match(tag);
+        const int wanted = width.hasMatch() ? width.captured(1).toInt()
+                                            : QImageReader(folder + "/" + match.captured(1)).size().width();
+        tag.remove(given);
+        tag.insert(4, QString(" width=\"%1\"").arg(std::min(wanted, room)));
+        made += content.mid(last, match.capturedStart() - last) + tag;
+        last = match.capturedEnd();
+    }
+    return made + content.mid(last);
 }
 
 }  // namespace
@@ -110,9 +132,9 @@ void HelpWindow::showPage(const QString& path) {
     const QString full = QFileInfo(path).absoluteFilePath();
     if (QFileInfo(full).absolutePath() != folder_) readFolder(QFileInfo(full).absolutePath());
     search_->clear();
+    show();
     open(full);
     fillContents();
-    show();
     raise();
     activateWindow();
     browser_->setFocus();
@@ -169,7 +191,8 @@ void HelpWindow::open(const QString& path) {
     content.remove(sheetLink);
     browser_->document()->setDefaultStyleSheet(sheetFor(scheme_));
     browser_->setSearchPaths({QFileInfo(path).absolutePath()});
-    browser_->setHtml(content);
+    const int room = browser_->viewport()->width() - kBesidePicture;
+    browser_->setHtml(withPicturesThatFit(content, QFileInfo(path).absolutePath(), room));
     markFound();
 }
 

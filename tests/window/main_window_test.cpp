@@ -1,5 +1,6 @@
 #include "desk/window/blocks_panel.h"
 #include "desk/window/drawing_lists.h"
+#include "desk/window/help_window.h"
 #include "desk/window/layers_panel.h"
 #include "desk/window/parts.h"
 #include "desk/window/properties_panel.h"
@@ -8,7 +9,10 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QSignalSpy>
+#include <QTextBrowser>
 
 namespace window {
 namespace {
@@ -136,6 +140,20 @@ TEST_F(MainWindowTest, RowsThatAnInsertionRefusesStandOutWithTheirReason) {
     EXPECT_TRUE(face_->acts.empty());
     EXPECT_EQ(window_->status().resultText(), "1 inserted");
     EXPECT_TRUE(window_->action("undo")->text().endsWith("Insertion of PORTE_90"));
+}
+
+TEST_F(MainWindowTest, TheHelpHasContentsAndASearch) {
+    window_->action("help")->trigger();
+    auto* help = window_->findChild<HelpWindow*>();
+    ASSERT_TRUE(help != nullptr && help->isVisible());
+    auto* contents = help->findChild<QListWidget*>("helpContents");
+    const int all = contents->count();
+    help->findChild<QLineEdit*>()->setText("vnlabel");
+    EXPECT_TRUE(contents->count() > 0 && contents->count() < all);
+    contents->setCurrentRow(contents->count() - 1);
+    auto* page = help->findChild<QTextBrowser*>();
+    EXPECT_TRUE(page->toPlainText().contains("VNLABEL"));
+    EXPECT_FALSE(page->extraSelections().isEmpty()) << "what was searched is lit";
 }
 
 TEST_F(MainWindowTest, AnotherProgramsChangeIsOfferedAndNeverTakenSilently) {
