@@ -171,7 +171,7 @@ void CanvasState::paintShownRow(QPainter& painter) {
     label.moveTopLeft({box.right() + 8, box.top()});
     if (label.right() > canvas.width() - 4) label.moveRight(box.left() - 8);
     label.moveTop(std::clamp(label.top(), 4.0, std::max(4.0, canvas.height() - label.height() - 4)));
-    painter.setPen(Qt::NoPen);
+    painter.setPen(QPen(tone(Token::Hairline), 1));
     painter.setBrush(tone(Token::Raised));
     painter.drawRoundedRect(label, 3, 3);
     painter.setPen(tone(Token::Text));
@@ -347,7 +347,7 @@ void CanvasState::paintSnapName(QPainter& painter, const QPointF& at) {
     QRectF chip(0, 0, metrics.horizontalAdvance(name) + 16, metrics.height() + 8);
     chip.moveTopRight(at + QPointF(-14, 12));
     if (chip.left() < 4 || chip.bottom() > canvas.height() - 4) return;
-    painter.setPen(Qt::NoPen);
+    painter.setPen(QPen(tone(Token::Hairline), 1));
     painter.setBrush(tone(Token::Raised));
     painter.drawRoundedRect(chip, 3, 3);
     painter.setPen(tone(Token::Snap));

@@ -153,7 +153,7 @@ void CanvasState::paintPill(QPainter& painter) {
             const QRectF place(x, y, chip.width, height);
             painter.setPen(chip.isActive  ? QPen(tone(Token::Accent), 2)
                            : chip.isField ? QPen(tone(Token::Border), 1)
-                                          : QPen(Qt::NoPen));
+                                          : QPen(tone(Token::Hairline), 1));
             painter.setBrush(tone(chip.isField ? Token::Field : Token::Raised));
             painter.drawRoundedRect(chip.isField ? place.adjusted(1, 1, -1, -1) : place, 3, 3);
             QRectF inner = place.adjusted(8, 0, -8, 0);
