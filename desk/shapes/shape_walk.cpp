@@ -9,6 +9,9 @@ namespace shapes {
 namespace {
 
 constexpr int kDeepest = 100;
+/// A look at a place, which follows the mouse, stops after so many items, long before the budget of its
+/// question does.
+constexpr std::size_t kMostNear = 100'000;
 
 /// The whole numbers from `low` to `high` among 0 to `count` - 1, as begin and end.
 std::pair<int, int> within(double low, double high, int count) {
@@ -53,6 +56,8 @@ CellRange cellsNear(const Placement& placement, const Box& first, const Vector3&
 
 bool ShapeWalk::walk(const Placed& placed, bool showsZero) { return walk(placed, {}, showsZero, 0); }
 
+bool ShapeWalk::maySpend() { return budget_.spend() && (copies_ != Copies::Near || ++near_ <= kMostNear); }
+
 bool ShapeWalk::mayMeet(const Box& box) const {
     return !box.empty() && box.low.x <= area_.high.x && box.high.x >= area_.low.x &&
            box.low.y <= area_.high.y && box.high.y >= area_.low.y;
@@ -94,7 +99,7 @@ bool ShapeWalk::walkArray(const Placed& placed, const Transform& outer, bool sho
 }
 
 bool ShapeWalk::walkCopy(const Placed& placed, const Transform& toWorld, bool showsZero, int depth) {
-    if (!budget_.spend()) return false;
+    if (!maySpend()) return false;
     const BlockShape& shape = shapes_.of(placed.block);
     if (!shape.isEndless && !mayMeet(shape.bounds.transformed(toWorld))) return true;
     return walkItems(shape, toWorld, showsZero, depth);
@@ -106,7 +111,7 @@ bool ShapeWalk::walkItems(const BlockShape& shape, const Transform& toWorld, boo
         const std::size_t begin = stretch * BlockShape::kStretch;
         const std::size_t end = std::min(begin + BlockShape::kStretch, shape.items.size());
         for (std::size_t i = begin; i < end; ++i) {
-            if (!budget_.spend() || !walkItem(shape.items[i], toWorld, showsZero, depth)) return false;
+            if (!maySpend() || !walkItem(shape.items[i], toWorld, showsZero, depth)) return false;
         }
     }
     return true;

@@ -59,12 +59,14 @@ class ShapeWalk {
     bool walkCopy(const Placed& placed, const Transform& toWorld, bool showsZero, int depth);
     bool walkItems(const BlockShape& shape, const Transform& toWorld, bool showsZero, int depth);
     bool walkItem(const ShapeItem& item, const Transform& toWorld, bool showsZero, int depth);
+    bool maySpend();
     bool mayMeet(const Box& box) const;
 
     BlockShapes& shapes_;
     Rectangle area_;
     Copies copies_;
     WalkBudget& budget_;
+    std::size_t near_ = 0;  ///< items that a look at a place has come by
     Visit visit_;
 };
 
