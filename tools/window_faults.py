@@ -41,6 +41,8 @@ class Case:
 
     def open(self, **options):
         self.window = Window(self.desktop, self.drawing, **options)
+        if not options.get("keep"):  # else a question comes before the drawing
+            self.window.until(lambda: "plan.dxf" in self.window.main.get_name(), "the drawing is open", 30)
         return self.window
 
     def edit(self):
