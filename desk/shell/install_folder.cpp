@@ -22,8 +22,14 @@ constexpr const char* kSettingsFile = "Vorlane.ini";
 constexpr const char* kDeliveryList = "delivered.txt";
 
 std::string readBytes(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    const std::streamoff size = file.tellg();
+    if (size <= 0) return {};
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    file.seekg(0);
+    file.read(bytes.data(), size);
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    return bytes;
 }
 
 /// FNV-1a over 64 bits: enough to tell a changed file from an unchanged one.
