@@ -14,6 +14,7 @@ build_preset windows
 say "Testing the border to automation"
 /usr/bin/python3 tests/windows/run_tests.py build/windows
 if [ $# -eq 0 ]; then
+    packaging/windows/build.sh
     say "Testing registration, failures and the installer"
     /usr/bin/python3 tests/windows/check_server.py build/windows
 fi

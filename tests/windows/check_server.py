@@ -14,6 +14,7 @@ CLASS = "{5B7C8E0A-6D1F-4B7B-9C56-3A1D6C0F7E21}"
 KEYS = [r"Software\Classes\Vorlane.VnObj0100", rf"Software\Classes\CLSID\{CLASS}", r"Software\Merovane"]
 ABOUT = "VNABOUT\nOKButton\n"
 REPLACE = "VNREPLACE\nlstDestination = PORTE_80\nCboBlocReplacer = PORTE_90\nBtnReplace\n"
+END = "ok\nBtnClose\n"
 
 failed = []
 
@@ -75,7 +76,20 @@ def check_commands(prefix):
     run = Run(prefix, "VNINSERT\nBtnClose\nVNHELP\n")
     expect("VNINSERT shows fmReInsert, VNHELP opens the help", "[fmReInsert]" in run.text and "[help: Vorlane.chm" in run.text)
     expect("the released object has written its 155 settings", run.saved.count("V_") == 155)
-    expect("nothing of the host is held at the end", "given 0, " in Run(prefix, ABOUT).text)
+    # The public variables live as long as the component is loaded: the drawing, after a replacement the selection too.
+    expect("of the host the drawing alone is held at the end", "given 1, taken 0" in Run(prefix, ABOUT).text)
+    few, many = Run(prefix, REPLACE + END).text, Run(prefix, REPLACE + "VNREPLACE\nBtnClose\n" * 3).text
+    expect("and its selection, however often", all("given 2, taken 0" in text for text in (few, many)))
+
+
+def check_lisp(prefix):
+    """Creation by program id from Lisp, two objects at a time, two calls of one."""
+    make = "(setq %s (vla-GetInterfaceObject (vlax-get-acad-object) \"Vorlane.VnObj0100\"))\n"
+    call = "(vlax-invoke-method %s 'Exec (vla-get-ActiveDocument (vlax-get-acad-object)))\n"
+    run = Run(prefix, make % "a" + make % "b" + "(setq ZOL101 \"5\")\n" + (call % "a" + "OKButton\n") * 2 + "(vlax-release-object a)\n"
+              + "(setq ZOL101 5)\n" + call % "b" + "OKButton\n(setq ZOL101 \"6\")\n" + call % "b" + "(vlax-release-object b)\nLIST\n")
+    expect("Lisp makes two objects; each runs its commands, also after the other's release, and none for another code",
+           run.text.count("[fmAbout] hidden") == 3 and run.code == 0 and run.saved.count("V_") == 155)
 
 
 def check_failures(prefix):
@@ -103,33 +117,32 @@ def check_refusals(prefix):
 
 def check_installer(prefix):
     setup = prefix.build / "Vorlane-1.0-setup.exe"
-    if not setup.exists():
-        print("left out: no installer (packaging/windows/build.sh makes it)")
-        return
     prefix.must("regsvr32", "/s", "/u", wine.windows_path(prefix.build / "Vorlane.dll"))
-    prefix.must(setup, "/S", "/CurrentUser")
-    bundle = next(prefix.folder.glob("drive_c/users/*/AppData/Roaming/Autodesk/ApplicationPlugins/Vorlane.bundle"))
-    contents = bundle / "Contents"
-    files = {path.name for path in contents.iterdir()}
-    expect("a silent install fills the bundle",
-           {"Vorlane.dll", "vorlane.lsp", "English.LNG", "Francais.LNG", "Vorlane.ini"} <= files)
-    expect("and registers for the user", all(registered(prefix, "HKCU")) and not any(registered(prefix, "HKLM")))
-    (contents / "Vorlane.ini").write_bytes(b"Lng=Deutsch\r\n")
-    (contents / "Deutsch.LNG").write_bytes(b":Language=Deutsch\r\n")
-    prefix.must(setup, "/S", "/CurrentUser")
-    expect("an update keeps the settings", (contents / "Vorlane.ini").read_bytes() == b"Lng=Deutsch\r\n")
-    # Without "_?=" the uninstaller goes on in a copy of itself.
-    prefix.must(bundle / "uninstall.exe", "/S", "/CurrentUser", "_?=" + prefix.windows_name(bundle))
-    left = {path.name for path in contents.iterdir()}
-    expect("removing leaves the user's files alone", left == {"Vorlane.ini", "Deutsch.LNG"})
-    expect("and no key", not any(registered(prefix, "HKCU")))
-    shutil.rmtree(bundle)
+    for scope, root, other, folder in (("/CurrentUser", "HKCU", "HKLM", "users/*/AppData/Roaming"),
+                                       ("/AllUsers", "HKLM", "HKCU", "ProgramData")):
+        prefix.must(setup, "/S", scope)
+        bundle = next(prefix.folder.glob(f"drive_c/{folder}/Autodesk/ApplicationPlugins/Vorlane.bundle"))
+        contents = bundle / "Contents"
+        files = {path.name for path in contents.iterdir()}
+        expect(f"a silent install {scope} fills the bundle",
+               {"Vorlane.dll", "vorlane.lsp", "English.LNG", "Francais.LNG", "Vorlane.ini"} <= files)
+        expect(f"and registers below {root}", all(registered(prefix, root)) and not any(registered(prefix, other)))
+        (contents / "Vorlane.ini").write_bytes(b"Lng=Deutsch\r\n")
+        (contents / "Deutsch.LNG").write_bytes(b":Language=Deutsch\r\n")
+        prefix.must(setup, "/S", scope)
+        expect("an update keeps the settings", (contents / "Vorlane.ini").read_bytes() == b"Lng=Deutsch\r\n")
+        # Without "_?=" the uninstaller goes on in a copy of itself.
+        prefix.must(bundle / "uninstall.exe", "/S", scope, "_?=" + prefix.windows_name(bundle))
+        left = {path.name for path in contents.iterdir()}
+        expect("removing leaves the user's files alone", left == {"Vorlane.ini", "Deutsch.LNG"})
+        expect("and no key", not any(registered(prefix, root)))
+        shutil.rmtree(bundle)
 
 
 def main():
     build = Path(sys.argv[1]).resolve()
     with wine.Prefix(build / "prefix", build) as prefix:
-        for check in (check_registration, check_commands, check_failures, check_refusals, check_installer):
+        for check in (check_registration, check_commands, check_lisp, check_failures, check_refusals, check_installer):
             check(prefix)
     print(f"{len(failed)} wrong")
     return 1 if failed else 0

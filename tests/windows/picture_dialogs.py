@@ -14,8 +14,8 @@ import wine
 
 ROOT = Path(__file__).resolve().parent.parent.parent
 SCRIPTS = {
-    "fmReplace": "VNREPLACE\nlstDestination = PORTE_80\nCboBlocReplacer = PORTE_90\nchkXScale\n",
-    "fmAttSet": "VNREPLACE\nlstDestination = PORTE_80\nCboBlocReplacer = PORTE_90\nChkAttSet\nBtnAttSet\n",
+    "fmReplace": "VNREPLACE\nlstDestination = PORTE_80\nCboBlocReplacer : PORTE_90\nchkXScale\n",
+    "fmAttSet": "VNREPLACE\nlstDestination = PORTE_80\nCboBlocReplacer : PORTE_90\nChkAttSet\nBtnAttSet\n",
     "fmLabels": "VNLABEL\nCombo2 = ETIQUETTE_PIECE\n",
     "fmAttFormat": "VNLABEL\nCombo2 = ETIQUETTE_PIECE\nListView1 # 1\nCombo1 = Compteur Auto\nBtnAttFormat\n",
     "fmParamIns": "VNLABEL\nCombo2 = ETIQUETTE_PIECE\nBtnParametre\n",

@@ -46,8 +46,10 @@ std::string systemText(HRESULT result) {
 
 /// In the words of the desk's own objects; a result that has no number of ours in the system's.
 std::string describe(std::int32_t number, HRESULT result, std::string_view member) {
-    if (number <= 0 || number > static_cast<std::int32_t>(kLowWord))
-        return systemText(result).append(": '").append(member).append("'");
+    if (number <= 0 || number > static_cast<std::int32_t>(kLowWord)) {
+        const std::string known = systemText(result);
+        return (known.empty() ? "Automation error" : known) + ": '" + std::string(member) + "'";
+    }
     std::string text = basic::standardDescription(static_cast<basic::ErrorNumber>(number));
     if (number == basic::kNoSuchMember) text.append(": '").append(member).append("'");
     return text;
