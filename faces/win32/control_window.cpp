@@ -41,9 +41,9 @@ Shape shapeOf(const Control& control) {
         case Kind::Button:
             return {WC_BUTTONW, DWORD{WS_TABSTOP} | BS_MULTILINE | BS_NOTIFY | defaultStyle(control)};
         case Kind::CheckBox:
-            return {WC_BUTTONW, WS_TABSTOP | BS_NOTIFY | BS_3STATE};
+            return {WC_BUTTONW, WS_TABSTOP | BS_NOTIFY | BS_MULTILINE | BS_3STATE};
         case Kind::OptionButton:
-            return {WC_BUTTONW, WS_TABSTOP | BS_NOTIFY | BS_RADIOBUTTON};
+            return {WC_BUTTONW, WS_TABSTOP | BS_NOTIFY | BS_MULTILINE | BS_RADIOBUTTON};
         case Kind::TextBox:
             return {WC_EDITW, WS_TABSTOP | textStyle(control), WS_EX_CLIENTEDGE};
         case Kind::ListBox:

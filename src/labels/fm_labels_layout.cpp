@@ -22,7 +22,7 @@ fmLabels::fmLabels(session::Session& session)
 }
 
 void fmLabels::layOut() {
-    resizeTo(9360, 6090);
+    resizeTo(9360 + kFrameWidth, 5685 + kFrameHeight);
     Label1.place(120, 120, 2040, kFieldHeight);
     Label1.setCaption("Nom du bloc à insérer :");
     Combo2.place(2220, 120, 3720, kFieldHeight);

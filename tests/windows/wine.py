@@ -7,7 +7,6 @@ import tempfile
 from pathlib import Path
 
 DESKTOP = "acts"
-SIZE = "1280x1024"
 
 
 def windows_path(path):
@@ -22,6 +21,7 @@ class Prefix:
         self.folder, self.build, self.dpi = Path(folder).resolve(), Path(build).resolve(), dpi
         self.environment = dict(os.environ, WINEPREFIX=str(self.folder), WINEDEBUG="-all", WINEARCH="win64",
                                 WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe=;hhctrl.ocx=n", LANG="en_US.UTF-8", LC_ALL="")
+        self.size = f"{1280 * dpi // 96}x{1024 * dpi // 96}"
         self.display = self.keeper = None
 
     def run(self, command, **options):
@@ -58,7 +58,7 @@ class Prefix:
         self.keeper = subprocess.Popen(["wine", "cmd"], env=self.environment, stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
                                        stderr=subprocess.DEVNULL)
         self.set_value(r"HKCU\Software\Wine\Explorer", "Desktop", DESKTOP)
-        self.set_value(r"HKCU\Software\Wine\Explorer\Desktops", DESKTOP, SIZE)
+        self.set_value(r"HKCU\Software\Wine\Explorer\Desktops", DESKTOP, self.size)
         self.set_value(r"HKCU\Control Panel\Desktop", "LogPixels", str(self.dpi), "REG_DWORD")
         shutil.copy(self.build / "hhctrl.ocx", self.folder / "drive_c/windows/system32")
         opener = f'"{windows_path(self.build / "stand-in.exe")}" --opened "%1"'
@@ -78,7 +78,7 @@ class Prefix:
     def start_display(self):
         """An X server of its own, on the first number that is free."""
         read, write = os.pipe()
-        self.display = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", SIZE + "x24", "-nolisten", "tcp"],
+        self.display = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", self.size + "x24", "-nolisten", "tcp"],
                                         pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as pipe:
