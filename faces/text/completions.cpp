@@ -53,7 +53,9 @@ std::vector<std::string> fileCompletions(std::string_view before, std::string_vi
                                 return basic::equalIgnoringCase(one, extension);
                             });
         if (name.starts_with('.') || (!isFolder && !wanted)) continue;
-        lines.push_back(std::string(before) + folder + name + (isFolder ? "/" : ""));
+        std::string& line = lines.emplace_back(before);
+        line.append(folder).append(name);
+        if (isFolder) line += '/';
     }
     return lines;
 }

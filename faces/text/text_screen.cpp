@@ -154,6 +154,7 @@ Answer TextScreen::messageBox(const MessageDialog& box) {
     while (true) {
         source_.offer([&answers](std::string_view) {
             std::vector<std::string> words;
+            words.reserve(answers.size());
             for (const NamedAnswer& named : answers) words.emplace_back(named.word);
             return words;
         });
