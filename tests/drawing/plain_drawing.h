@@ -28,8 +28,8 @@ inline std::string groups(const std::string& words, bool old = false) {
     for (std::string code, value; stream >> code >> value;) {
         if (old && (code == "100" || code == "330")) continue;
         std::replace(value.begin(), value.end(), '~', ' ');
-        result +=
-            std::string(3 - std::min<std::size_t>(code.size(), 3), ' ') + code + "\r\n" + value + "\r\n";
+        result.append(3 - std::min<std::size_t>(code.size(), 3), ' ').append(code).append("\r\n");
+        result.append(value).append("\r\n");
     }
     return result;
 }

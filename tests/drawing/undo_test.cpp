@@ -12,7 +12,7 @@ TEST(Undo, StepsComeBackOneByOne) {
     {
         const UndoStep step(*drawing);
         const EntityId made = drawing->insertBlock(drawing->blocks().find("DOOR"), {1, 1, 0}, {1, 1, 1}, 0);
-        for (int i = 0; i < 3; ++i)
+        for (std::size_t i = 0; i < 3; ++i)
             drawing->setAttributeText(drawing->attributes(made)[0], std::string(20 * i, 'x'));
         drawing->setRotation(old, 1);
         drawing->setRotation(old, 2);
