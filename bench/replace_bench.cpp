@@ -71,7 +71,7 @@ void listManyBlocks(benchmark::State& state) {
     blocks::BlockNames names;
     for (std::size_t i = 0; i < count; ++i) names.Add("BLOCK_" + std::to_string(i * 7919 % count));
     for (auto _ : state) {
-        forms::Form form("fmReplace");
+        forms::Form form("fmReplace", "", "");
         forms::ListBox list(form, "lstDestination");
         replace::AddItemSorted(list, names);
         if (list.listCount() != names.Count()) state.SkipWithError("blocks are missing");

@@ -76,7 +76,7 @@ scripts, or by one command on a folder of drawings. What nobody touched keeps
 its bytes.")
 set(CPACK_DEBIAN_WINDOW_PACKAGE_NAME vorlane-window)
 set(CPACK_DEBIAN_WINDOW_PACKAGE_DEPENDS "vorlane (= ${PROJECT_VERSION})")
-set(CPACK_DEBIAN_WINDOW_PACKAGE_RECOMMENDS "fonts-liberation, qt6-wayland")
+set(CPACK_DEBIAN_WINDOW_PACKAGE_RECOMMENDS "fonts-liberation, qt6-translations-l10n, qt6-wayland")
 set(CPACK_COMPONENT_WINDOW_DESCRIPTION "manages block references in CAD drawings - the window
 The window of vorlane, in which a drawing is seen and picked in while its
 dialogs are up, and vorlane-picture, which draws PNG, SVG and PDF pictures
