@@ -2,7 +2,7 @@
 # Holds the sources to .clang-format and .clang-tidy: all of them, or the files of the arguments. Says what is wrong and changes
 # nothing. A header is looked at through one source that includes it, its own if it has one. What only Windows compiles is
 # formatted like the rest and left out of clang-tidy.
-#   tools/tidy.sh [--most N] [FILE...]    --most N: clang-tidy looks at N sources, spread over all, and names those left out
+#   tools/tidy.sh [--most N] [FILE...]    --most N: clang-tidy looks at N sources of many, and names those left out
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
@@ -30,13 +30,14 @@ source_of() {
         git grep -lF "#include \"${header#faces/}\"" -- '*.cpp' | awk 'NR == 1' || true
     fi
 }
-mapfile -t sources < <(for file in "${files[@]}"; do source_of "$file"; done | sort -u)
+# In an order that a file more or less doesn't change, so that what N sources are stays about the same.
+in_order() { while IFS= read -r name; do printf '%s %s\n' "$(cksum <<<"$name" | cut -d' ' -f1)" "$name"; done | sort -n | cut -d' ' -f2-; }
+mapfile -t sources < <(for file in "${files[@]}"; do source_of "$file"; done | sort -u | in_order)
 looked=() foreign=() left=()
 for source in "${sources[@]}"; do
     if ! grep -qF "\"file\": \"$PWD/$source\"" build/tidy/compile_commands.json; then
         foreign+=("$source")
-    elif [ "$most" -gt 0 ] && [ ${#sources[@]} -gt "$most" ] &&
-        [ $(((${#looked[@]} + ${#left[@]}) * most / ${#sources[@]})) -lt ${#looked[@]} ]; then
+    elif [ "$most" -gt 0 ] && [ ${#looked[@]} -ge "$most" ]; then
         left+=("$source")
     else
         looked+=("$source")
