@@ -101,7 +101,7 @@ std::string TextReader::readLine() {
         if (end < bytes_.size() && end + 1 < bytes_.size()) break;
         if (!fill()) break;
     }
-    const std::string line = fromCodePage(std::string_view(bytes_).substr(position_, length));
+    std::string line = fromCodePage(std::string_view(bytes_).substr(position_, length));
     position_ += length;
     if (position_ < bytes_.size()) ++position_;
     if (position_ < bytes_.size() && bytes_[position_] == '\n') ++position_;

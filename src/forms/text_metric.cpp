@@ -48,7 +48,9 @@ int linesIn(std::string_view text, Twips room, const TextMetric& metric) {
         const std::string word(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
         if (metric.width(word) > room) return 0;
-        const std::string longer = line.empty() ? word : line + ' ' + word;
+        std::string longer = line;
+        if (!line.empty()) longer += ' ';
+        longer += word;
         if (metric.width(longer) > room) ++lines;
         line = metric.width(longer) > room ? word : longer;
     }

@@ -71,7 +71,9 @@ TEST_F(TextFile, ReadsPairsAcrossChunksAndStopsAtAnEndlessLine) {
     for (const std::size_t length : {65534, 65535, 65536}) {
         const std::string line(length, 'x');
         EXPECT_EQ(linesOf(write("a", line + "\r\n\r\nlast")), (Lines{line, "", "last"})) << length;
-        EXPECT_EQ(linesOf(write("b", line + "\r" + line + "\r")), (Lines{line, line})) << length;
+        EXPECT_EQ(linesOf(write("b", std::string(line).append("\r").append(line).append("\r"))),
+                  (Lines{line, line}))
+            << length;
     }
     write("long", "");
     fs::resize_file(path("long"), std::uintmax_t{1} << 34);  // a hole of 16 GB

@@ -27,17 +27,17 @@ class RecordingScreen : public forms::Screen {
     int changes = 0;
 
     // The common acts by control name, in the order in which they are to run.
-    void click(std::string name) { on(name, forms::acts::click); }
-    void type(std::string name, std::string text) {
+    void click(const std::string& name) { on(name, forms::acts::click); }
+    void type(const std::string& name, const std::string& text) {
         on(name, [text](forms::Control& control) { forms::acts::type(control, text); });
     }
-    void choose(std::string name, std::string text) {
+    void choose(const std::string& name, const std::string& text) {
         on(name, [text](forms::Control& control) { forms::acts::chooseText(control, text); });
     }
-    void choose(std::string name, int index) {
+    void choose(const std::string& name, int index) {
         on(name, [index](forms::Control& control) { forms::acts::chooseIndex(control, index); });
     }
-    void key(std::string name, forms::Key key) {
+    void key(const std::string& name, forms::Key key) {
         on(name, [key](forms::Control& control) { forms::acts::key(control, key); });
     }
     void closeBox() {
@@ -73,7 +73,7 @@ class RecordingScreen : public forms::Screen {
     }
 
   private:
-    void on(const std::string& name, std::function<void(forms::Control&)> act) {
+    void on(const std::string& name, const std::function<void(forms::Control&)>& act) {
         acts.push_back([=](forms::Form& form) { act(forms::acts::controlNamed(form, name)); });
     }
     template <typename Value>

@@ -62,7 +62,7 @@ TEST_F(MembersTest, TheDocumentLeadsToItsParts) {
     for (const char* wrong : {"BAD", "no handle"})
         EXPECT_EQ(errorOf([&] { byHandle(wrong); }), drawing::kKeyNotFound);
 
-    const auto part = std::make_shared<Blocks>(application->active()->context());
+    auto part = std::make_shared<Blocks>(application->active()->context());
     application->registerObject("Some.Object", [&] { return part; });
     EXPECT_EQ(called(host, "GetInterfaceObject", {"SOME.object"}), part);
     EXPECT_EQ(errorOf([&] { host->invoke("GetInterfaceObject", {"Other.Object"}); }), kUnknownProgId);
