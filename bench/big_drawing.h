@@ -157,7 +157,7 @@ class BigDrawing {
     /// Returns the reference's handle.
     std::string insert(const char* head, const char* name, double x, double y, double degrees = 0) {
         groups("0|INSERT|5|#|330|1F|100|AcDbEntity|8|LIGHTS|100|AcDbBlockReference");
-        const std::string handle = hex_;
+        std::string handle = hex_;
         if (*head != 0) groups(head);
         value("2", name);
         point(x, y);
@@ -171,9 +171,9 @@ class BigDrawing {
         groups("0|SECTION|2|ENTITIES");
         insert("", "SPOT", -10, -10);
         for (int i = 0; i < references; ++i) {
-            const double x = (i % 200) * 20.0, y = (i / 200) * 20.0;
-            const std::string owner =
-                insert("66|1", "LAMP", x, y, turned_ ? i * 0.37 - 360 * (i * 37 / 36000) : 0);
+            const int row = i / 200, turns = i * 37 / 36000;
+            const double x = (i % 200) * 20.0, y = row * 20.0;
+            const std::string owner = insert("66|1", "LAMP", x, y, turned_ ? i * 0.37 - 360 * turns : 0);
             attribute("ATTRIB", owner, "TAG", "L-" + std::to_string(i + 1), x + 2, y + 2);
             attribute("ATTRIB", owner, "ROOM", "Room " + std::to_string(i / 12 + 1), x + 2, y - 1);
             attribute("ATTRIB", owner, "POWER", std::to_string(40 + 20 * (i % 5)), x + 2, y - 4);
