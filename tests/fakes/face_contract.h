@@ -70,7 +70,7 @@ class ContractFace {
         return !lines_.empty();
     }
     std::string takeLine() {
-        const std::string line = lines_.front();
+        std::string line = lines_.front();
         lines_.pop_front();
         return line;
     }

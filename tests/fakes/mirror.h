@@ -33,7 +33,9 @@ class Mirror {
     /// same.
     std::vector<std::string> differences() {
         std::vector<std::string> found;
-        for (auto& [form, drawn] : forms_) {
+        for (auto& entry : forms_) {
+            auto* const form = entry.first;
+            auto& drawn = entry.second;
             if (!form->visible()) continue;
             const auto update = [&](auto& element, forms::Changes& dirty, Aspects& aspects,
                                     const std::string& name) {
