@@ -155,7 +155,9 @@ TEST_F(ReferenceTest, EveryKindHasItsClassAndItsMeasuresOnly) {
         EXPECT_EQ(textOf(entity, "ObjectName"), row.objectName);
         const std::pair<char, const char*> measures[] = {
             {'L', "length"}, {'A', "Area"}, {'C', "Circumference"}, {'P', "Perimeter"}};
-        for (const auto& [letter, member] : measures) {
+        for (const auto& measure : measures) {
+            const char letter = measure.first;
+            const char* const member = measure.second;
             const bool has = std::string_view(row.has).find(letter) != std::string_view::npos;
             EXPECT_EQ(errorOf([&] { entity->get(member); }), has ? 0 : basic::kNoSuchMember)
                 << row.objectName << " " << member;

@@ -202,7 +202,7 @@ void expectFreshAnswers(const Drawing& drawing) {
     const auto fresh = Drawing::parse(drawing.savedBytes(), "fresh.dxf");
     for (int x = -1; x < 14; ++x) {
         for (int y = -1; y < 14; ++y) {
-            const Point3 point(x, y, 0);
+            const Point3 point{double(x), double(y), 0};
             EXPECT_EQ(indexOf(drawing, pickEntity(drawing, point, 0.1)),
                       indexOf(*fresh, pickEntity(*fresh, point, 0.1)))
                 << x << ',' << y;
