@@ -30,6 +30,7 @@ from pathlib import Path
 import ezdxf
 
 ROOT = Path(__file__).resolve().parent.parent
+LOCK_FILES = shutil.ignore_patterns("*.dwl")  # of tests beside this one that have a sample open
 RECIPE = re.compile(r"^```(sh|vns) recipe *([^\n]*)\n(.*?)^```$", re.M | re.S)
 EXAMPLE = re.compile(r"<!-- try ([^\n]*)\n(.*?)-->", re.S)
 FILE = re.compile(r"^= (\S+)\n(.*?)^=\n", re.S | re.M)
@@ -53,7 +54,7 @@ class Run:
 
 
 def recipe_faults(run, kind, drawing, text):
-    shutil.copytree(ROOT / "samples", run.folder, dirs_exist_ok=True)
+    shutil.copytree(ROOT / "samples", run.folder, ignore=LOCK_FILES, dirs_exist_ok=True)
     samples = set(run.folder.iterdir())
     command = ["sh", "-ec", text] if kind == "sh" else [run.folder / "bin/vorlane", drawing, "--script", "-"]
     code, told, errors = run(command, text)
@@ -64,7 +65,7 @@ def recipe_faults(run, kind, drawing, text):
 
 
 def example_faults(run, options, script):
-    shutil.copytree(ROOT / "samples", run.folder / "samples")
+    shutil.copytree(ROOT / "samples", run.folder / "samples", ignore=LOCK_FILES)
     for name, content in FILE.findall(script):
         (run.folder / name).write_bytes(content.replace("\\t", "\t").replace("\n", "\r\n").encode("cp1252"))
     lines = [line for line in FILE.sub("", script).splitlines(True) if not line.startswith(";=")]

@@ -51,7 +51,7 @@ class PlainDrawing {
                                   "PLAIN 70 0 62 7", "OFF 70 0 62 -7"})
             layer(std::to_string(handle++), words);
         if (!isSample_) return;
-        header(std::string("9 $ACADVER 1 ") + (old_ ? "AC1009" : "AC1015"));
+        header(old_ ? "9 $ACADVER 1 AC1009" : "9 $ACADVER 1 AC1015");
         header("9 $DWGCODEPAGE 3 ANSI_1252 9 $HANDSEED 5 " + seed);
         if (!old_) block("*Model_Space").block("*Paper_Space");
         block("DOOR", 1).inBlock("LINE 5 31 8 0 10 0.0 20 0.0 11 1.0 21 0.0");
