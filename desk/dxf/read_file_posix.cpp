@@ -13,7 +13,7 @@ namespace dxf {
 
 namespace {
 
-[[noreturn]] void fail(const std::string& path, const FileError& error) {
+[[noreturn]] void failToRead(const std::string& path, const FileError& error) {
     throw ReadError(error.number, path + ": " + error.text);
 }
 
@@ -29,7 +29,7 @@ std::size_t readAll(int descriptor, char* data, std::size_t size, const std::str
         const ssize_t got = read(descriptor, data + done, size - done);
         if (got == 0) break;
         if (got < 0 && errno == EINTR) continue;
-        if (got < 0) fail(path, fileError(errno));
+        if (got < 0) failToRead(path, fileError(errno));
         done += static_cast<std::size_t>(got);
     }
     return done;
@@ -49,7 +49,7 @@ std::unique_ptr<char[]> allocate(std::size_t size, const std::string& path) {
     try {
         return std::make_unique_for_overwrite<char[]>(size);
     } catch (const std::bad_alloc&) {
-        fail(path, {basic::kDeviceError, "the file is larger than this machine's memory"});
+        failToRead(path, {basic::kDeviceError, "the file is larger than this machine's memory"});
     }
 }
 
@@ -66,18 +66,18 @@ FileStamp stampOf(const std::string& path) {
 }
 
 FileBytes readFile(const std::string& path) {
-    if (path.empty()) fail(path, {basic::kBadFileName, "a file name is missing"});
+    if (path.empty()) failToRead(path, {basic::kBadFileName, "a file name is missing"});
     // Without waiting, should somebody name a pipe.
     const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.isOpen()) {
         if (errno == ENOENT && folderExists(path))
-            fail(path, {basic::kFileNotFound, "there is no such file"});
-        fail(path, fileError(errno));
+            failToRead(path, {basic::kFileNotFound, "there is no such file"});
+        failToRead(path, fileError(errno));
     }
     struct stat status;
-    if (fstat(file.get(), &status) != 0) fail(path, fileError(errno));
-    if (S_ISDIR(status.st_mode)) fail(path, fileError(EISDIR));
-    if (!S_ISREG(status.st_mode)) fail(path, {basic::kPathFileAccess, "this is a device, not a file"});
+    if (fstat(file.get(), &status) != 0) failToRead(path, fileError(errno));
+    if (S_ISDIR(status.st_mode)) failToRead(path, fileError(EISDIR));
+    if (!S_ISREG(status.st_mode)) failToRead(path, {basic::kPathFileAccess, "this is a device, not a file"});
     FileBytes bytes;
     const auto size = static_cast<std::size_t>(status.st_size);
     bytes.data = allocate(size, path);

@@ -15,15 +15,15 @@ double magnitude(const Vector3& value) { return length(value); }
 /// Gauss and Legendre's rule with eight places: exact for polynomials up to degree 15.
 template <typename Value, typename Function>
 Value gauss(const Function& function, double from, double to) {
-    static constexpr std::array<double, 4> kPlaces{0.1834346424956498, 0.5255324099163290, 0.7966664774136267,
-                                                   0.9602898564975363};
+    static constexpr std::array<double, 4> kNodes{0.1834346424956498, 0.5255324099163290, 0.7966664774136267,
+                                                  0.9602898564975363};
     static constexpr std::array<double, 4> kWeights{0.3626837833783620, 0.3137066458778873,
                                                     0.2223810344533745, 0.1012285362903763};
     const double middle = (from + to) / 2;
     const double half = (to - from) / 2;
     Value sum{};
-    for (std::size_t i = 0; i < kPlaces.size(); ++i) {
-        const double step = half * kPlaces[i];
+    for (std::size_t i = 0; i < kNodes.size(); ++i) {
+        const double step = half * kNodes[i];
         sum = sum + (function(middle - step) + function(middle + step)) * kWeights[i];
     }
     return sum * half;

@@ -15,7 +15,7 @@ namespace {
 namespace acts = forms::acts;
 using drawing::EntityId;
 
-constexpr const char* kDialog = "fmExtract";
+constexpr const char* kExtractDialog = "fmExtract";
 
 /// The dialog's table as it stands.
 void readTable(forms::Form& form, Table& table) {
@@ -92,15 +92,15 @@ void extractBlocks(Job& job) {
                                      [&](EntityId id) { return !job.drawing().insert(id).isArray; });
     job.prompter.entity = single == wanted.end() ? wanted.front() : *single;
     job.prompter.selection = wanted;
-    job.dialogs.click(kDialog, "BtnNew");
+    job.dialogs.click(kExtractDialog, "BtnNew");
     job.dialogs.click("fmVnMessage", "OKButton");
     Table table;
-    job.dialogs.on(kDialog, [&table](forms::Form& form) { readTable(form, table); });
+    job.dialogs.on(kExtractDialog, [&table](forms::Form& form) { readTable(form, table); });
     if (byDialog) {
         job.dialogs.answerFile(job.output);
-        job.dialogs.click(kDialog, "BtnSave");
+        job.dialogs.click(kExtractDialog, "BtnSave");
     }
-    job.dialogs.click(kDialog, "BtnClose");
+    job.dialogs.click(kExtractDialog, "BtnClose");
     job.runCommand("VNEXTRACT");
 
     job.result.count("rows", table.rows.size());

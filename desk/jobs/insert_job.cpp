@@ -16,7 +16,7 @@ namespace {
 
 namespace acts = forms::acts;
 
-constexpr const char* kDialog = "fmReInsert";
+constexpr const char* kInsertDialog = "fmReInsert";
 constexpr int kBrowseEntry = 1;
 
 /// Gives a parameter its mapping: a column's header as the file spells it, or a constant.
@@ -68,23 +68,23 @@ void insertRows(Job& job) {
     dialogs.tolerateWarnings();
     if (fromFile) {
         dialogs.answerFile(std::filesystem::absolute(wanted).string());
-        dialogs.chooseIndex(kDialog, "Combo1", kBrowseEntry);
+        dialogs.chooseIndex(kInsertDialog, "Combo1", kBrowseEntry);
     } else {
-        dialogs.choose(kDialog, "Combo1", block);
+        dialogs.choose(kInsertDialog, "Combo1", block);
     }
     dialogs.answerFile(data);
-    dialogs.click(kDialog, "BtnData");
+    dialogs.click(kInsertDialog, "BtnData");
     for (const std::string& text : job.arguments.values("--map")) {
         const auto [parameter, column] = readPair("--map", text);
-        dialogs.on(kDialog, [&job, parameter = parameter, column = column](forms::Form& form) {
+        dialogs.on(kInsertDialog, [&job, parameter = parameter, column = column](forms::Form& form) {
             map(form, parameter, column, job.result);
         });
     }
-    if (job.arguments.has("--leader")) dialogs.click(kDialog, "Check1");
+    if (job.arguments.has("--leader")) dialogs.click(kInsertDialog, "Check1");
     int rows = 0;
-    dialogs.on(kDialog, [&rows](forms::Form& form) { rows = rowCount(form); });
-    dialogs.click(kDialog, "BtnInsert");
-    dialogs.click(kDialog, "BtnClose");
+    dialogs.on(kInsertDialog, [&rows](forms::Form& form) { rows = rowCount(form); });
+    dialogs.click(kInsertDialog, "BtnInsert");
+    dialogs.click(kInsertDialog, "BtnClose");
     job.runCommand("VNINSERT");
 
     const std::size_t inserted = findReferences(job.drawing(), block).inSpaces() - before;

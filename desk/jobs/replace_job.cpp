@@ -16,7 +16,7 @@ namespace {
 
 namespace acts = forms::acts;
 
-constexpr const char* kDialog = "fmReplace";
+constexpr const char* kReplaceDialog = "fmReplace";
 constexpr const char* kTable = "fmAttSet";
 
 /// The entry of the replacement list that browses for a file.
@@ -96,7 +96,7 @@ void planAttributes(Job& job, const std::shared_ptr<ReplaceOptions>& options) {
                                       [](const AttributePair& pair) { return pair.required; });
     DialogRun& dialogs = job.dialogs;
     Result& result = job.result;
-    dialogs.on(kDialog, [&dialogs, &result, options, required](forms::Form& form) {
+    dialogs.on(kReplaceDialog, [&dialogs, &result, options, required](forms::Form& form) {
         forms::Control& check = acts::controlNamed(form, "ChkAttSet");
         if (!check.enabled()) {
             if (required) throw JobError("the two blocks don't both have attributes");
@@ -107,7 +107,8 @@ void planAttributes(Job& job, const std::shared_ptr<ReplaceOptions>& options) {
         dialogs.next(kTable, [](forms::Form& table) { acts::click(acts::controlNamed(table, "OKButton")); });
         dialogs.next(kTable,
                      [&result, options](forms::Form& table) { PairTable(*options, result).fill(table); });
-        dialogs.next(kDialog, [](forms::Form& up) { acts::click(acts::controlNamed(up, "BtnAttSet")); });
+        dialogs.next(kReplaceDialog,
+                     [](forms::Form& up) { acts::click(acts::controlNamed(up, "BtnAttSet")); });
         acts::click(check);
     });
 }
@@ -115,13 +116,13 @@ void planAttributes(Job& job, const std::shared_ptr<ReplaceOptions>& options) {
 void planParameters(Job& job, const ReplaceOptions& options) {
     const auto override = [&](const char* check, const char* field, const std::optional<double>& value) {
         if (!value) return;
-        job.dialogs.click(kDialog, check);
-        job.dialogs.type(kDialog, field, basic::toText(*value, job.regional));
+        job.dialogs.click(kReplaceDialog, check);
+        job.dialogs.type(kReplaceDialog, field, basic::toText(*value, job.regional));
     };
     override("chkRotation", "txtRotation", options.rotation);
     if (options.visible) {
-        job.dialogs.click(kDialog, "chkVisibility");
-        job.dialogs.chooseIndex(kDialog, "cboVisibility", *options.visible ? 0 : 1);
+        job.dialogs.click(kReplaceDialog, "chkVisibility");
+        job.dialogs.chooseIndex(kReplaceDialog, "cboVisibility", *options.visible ? 0 : 1);
     }
     if (options.scale) {
         override("chkXScale", "txtXScale", options.scale->x);
@@ -132,14 +133,14 @@ void planParameters(Job& job, const ReplaceOptions& options) {
 
 void planReplacement(Job& job, const std::string& name) {
     if (isDrawingFile(name)) {
-        job.dialogs.chooseIndex(kDialog, "CboBlocReplacer", kBrowseEntry);
+        job.dialogs.chooseIndex(kReplaceDialog, "CboBlocReplacer", kBrowseEntry);
         job.dialogs.answerFile(name);
         return;
     }
     const std::string block = blockNamed(job.drawing(), name);
     if (block.empty())
         throw JobError("no block " + name + " in the drawing; --to FILE.dxf brings one in from a file");
-    job.dialogs.choose(kDialog, "CboBlocReplacer", block);
+    job.dialogs.choose(kReplaceDialog, "CboBlocReplacer", block);
 }
 
 }  // namespace
@@ -158,20 +159,20 @@ void replaceBlocks(Job& job) {
     } else {
         if (!options->keep.empty()) job.desk.document().invoke("SetVariable", {"VNKEEP", options->keep});
         DialogRun& dialogs = job.dialogs;
-        dialogs.choose(kDialog, "lstDestination", from);
+        dialogs.choose(kReplaceDialog, "lstDestination", from);
         planReplacement(job, options->to);
         if (wanted.size() != references.inSpaces()) {
             job.prompter.selection = wanted;
-            dialogs.click(kDialog, "optZoneSelection");
+            dialogs.click(kReplaceDialog, "optZoneSelection");
         }
         planAttributes(job, options);
         planParameters(job, *options);
-        dialogs.on(kDialog, [&job](forms::Form& form) {
+        dialogs.on(kReplaceDialog, [&job](forms::Form& form) {
             const std::string& number = acts::controlNamed(form, "LblNbrSelected").caption();
             job.result.count("replaced", std::strtoul(number.c_str(), nullptr, 10));
         });
-        dialogs.click(kDialog, "BtnReplace");
-        dialogs.click(kDialog, "BtnClose");
+        dialogs.click(kReplaceDialog, "BtnReplace");
+        dialogs.click(kReplaceDialog, "BtnClose");
         job.runCommand("VNREPLACE");
     }
     if (!references.locked.empty()) job.result.count("onLockedLayers", references.locked.size());

@@ -7,11 +7,11 @@
 namespace forms {
 
 namespace {
-const std::string kNoText;
+const std::string kNoEntry;
 }  // namespace
 
 const std::string& ListControl::list(int index) const {
-    if (index < 0 || index >= listCount()) return kNoText;
+    if (index < 0 || index >= listCount()) return kNoEntry;
     return state_.entries[static_cast<std::size_t>(index)];
 }
 

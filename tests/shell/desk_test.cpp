@@ -5,7 +5,7 @@ namespace {
 
 using Outcome = Desk::Outcome;
 
-constexpr const char* kErase =
+constexpr const char* kEraseAll =
     "(vla-Delete (vla-Item (vla-get-ModelSpace (vla-get-ActiveDocument (vlax-get-acad-object))) 0))";
 
 struct DeskTest : testing::Test, ShellWorld {};
@@ -20,7 +20,7 @@ TEST_F(DeskTest, AFailedOpenLeavesTheCurrentDrawing) {
         {"OPEN " + folder.path(), "Error "},
         {"OPEN " + folder.write("notes.dxf", "Dear diary"), "notes.dxf"},
     };
-    tell(kErase);
+    tell(kEraseAll);
     for (const auto& row : rows) {
         const std::string story = tell(row.line, Outcome::Failed);
         EXPECT_TRUE(story.starts_with("Error ")) << story;
@@ -33,14 +33,14 @@ TEST_F(DeskTest, AFailedOpenLeavesTheCurrentDrawing) {
 TEST_F(DeskTest, SavingUnderAnotherNameMakesItTheDrawingsOwn) {
     tell("SAVE " + folder.file("copy.dxf"));
     EXPECT_EQ(folder.read("copy.dxf"), bytes) << "unchanged, so the same to the byte";
-    tell(kErase);
+    tell(kEraseAll);
     EXPECT_TRUE(desk.hasUnsavedChanges());
     EXPECT_EQ(tell("save"), "Saved " + folder.file("copy.dxf") + "\n");
     EXPECT_FALSE(desk.hasUnsavedChanges());
     EXPECT_NE(folder.read("copy.dxf"), bytes);
     EXPECT_EQ(folder.read("house.dxf"), bytes);
 
-    tell(kErase);
+    tell(kEraseAll);
     const std::string before = folder.read("copy.dxf");
     for (const std::string& target : {folder.file("no/such/folder.dxf"), folder.path()}) {
         EXPECT_TRUE(tell("SAVE " + target, Outcome::Failed).starts_with("Error ")) << target;
