@@ -1,6 +1,7 @@
 #include "desk/window/block_list_model.h"
 
 #include "desk/window/panel.h"
+#include "faces/qt/qt_text.h"
 
 #include <QPainter>
 
@@ -13,7 +14,7 @@ constexpr int kRowHeight = 44;
 
 QString joined(const std::vector<std::string>& texts) {
     QStringList list;
-    for (const std::string& text : texts) list.append(QString::fromStdString(text));
+    for (const std::string& text : texts) list.append(qt_face::toShown(text));
     return list.join(", ");
 }
 
@@ -40,7 +41,7 @@ int BlockListModel::rowCount(const QModelIndex& parent) const {
 QVariant BlockListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const BlockRow& shown = row(index.row());
-    const QString name = QString::fromStdString(shown.name);
+    const QString name = qt_face::toShown(shown.name);
     if (role == Qt::DisplayRole) return name;
     if (role == Qt::AccessibleTextRole) {
         return tr("%1, %2 references, attributes: %3")
@@ -48,7 +49,8 @@ QVariant BlockListModel::data(const QModelIndex& index, int role) const {
             .arg(shown.references)
             .arg(joined(shown.tags));
     }
-    if (role == Qt::ToolTipRole && !shown.tags.empty()) return name + "\n" + joined(shown.tags);
+    if (role == Qt::ToolTipRole && !shown.tags.empty())
+        return qt_face::plainTip(name + "\n" + joined(shown.tags));
     return {};
 }
 
@@ -95,7 +97,7 @@ void BlockDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QRect text(box.right() + 13, option.rect.y() + 4, right.left() - box.right() - 21,
                      option.rect.height() - 8);
     painter->setFont(option.font);
-    const QString name = QString::fromStdString(row.name);
+    const QString name = qt_face::toShown(row.name);
     const Qt::Alignment place = row.tags.empty() ? Qt::AlignVCenter : Qt::AlignTop;
     painter->drawText(text, static_cast<int>(place | Qt::AlignLeft),
                       painter->fontMetrics().elidedText(name, Qt::ElideRight, text.width()));

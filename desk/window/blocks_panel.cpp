@@ -42,7 +42,7 @@ BlocksPanel::BlocksPanel(Picture picture, QWidget* parent)
 
     connect(eye_, &QToolButton::toggled, this, &BlocksPanel::filter);
     connect(list_, &QListView::activated, this, [this](const QModelIndex& index) {
-        emit selectReferences(model_->data(index, Qt::DisplayRole).toString());
+        emit selectReferences(QString::fromStdString(model_->row(index.row()).name));
     });
     retranslate();
     show(nullptr);
@@ -101,7 +101,7 @@ void BlocksPanel::choose(const QString& block) {
 
 QString BlocksPanel::chosen() const {
     const QModelIndex index = list_->currentIndex();
-    return index.isValid() ? model_->data(index, Qt::DisplayRole).toString() : QString();
+    return index.isValid() ? QString::fromStdString(model_->row(index.row()).name) : QString();
 }
 
 void BlocksPanel::focusList() {

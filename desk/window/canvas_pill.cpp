@@ -1,6 +1,7 @@
 // What is written at the cursor: the prompt with coordinates or measures, and the tip of what lies there.
 
 #include "desk/window/canvas_state.h"
+#include "faces/qt/qt_text.h"
 
 #include <QFontDatabase>
 #include <QPainter>
@@ -72,7 +73,7 @@ void CanvasState::paintPill(QPainter& painter) {
             const auto own = std::count_if(inRectangle.begin(), inRectangle.end(), count);
             chip.strong = QString::number(own);
             chip.text = Canvas::tr("%1 in %n found", nullptr, static_cast<int>(inRectangle.size()))
-                            .arg(QString::fromStdString(drawing->blocks()[prompt.job].name));
+                            .arg(qt_face::toShown(drawing->blocks()[prompt.job].name));
         }
         rows[0].push_back(chip);
     } else if (asksPoint && prompt.isPolygon && !prompt.corners.empty()) {
@@ -179,15 +180,15 @@ void CanvasState::paintPill(QPainter& painter) {
 QStringList CanvasState::tipLines() const {
     constexpr int kMostAttributes = 4;
     const EntityId id = cycleList.chosen();
-    const QString layer = QString::fromStdString(std::string(drawing->layerName(id)));
+    const QString layer = qt_face::toShown(drawing->layerName(id));
     const bool isReference = drawing->type(id) == "INSERT";
     const std::string name = isReference ? drawing->name(id) : std::string(drawing->type(id));
-    QStringList lines{QString::fromStdString(name) + '\t' + Canvas::tr("on %1").arg(layer)};
+    QStringList lines{qt_face::toShown(name) + '\t' + Canvas::tr("on %1").arg(layer)};
     int count = 0;
     for (const EntityId attribute : drawing->attributes(id)) {
         if (++count > kMostAttributes) break;
-        const QString value = QString::fromStdString(drawing->attributeText(attribute));
-        lines << QString::fromStdString(drawing->attributeTag(attribute)) + '\t' +
+        const QString value = qt_face::toShown(drawing->attributeText(attribute));
+        lines << qt_face::toShown(drawing->attributeTag(attribute)) + '\t' +
                      (value.isEmpty() ? QString::fromUtf8("—") : value);
     }
     if (cycleList.count() > 1) {
@@ -197,7 +198,7 @@ QStringList CanvasState::tipLines() const {
         lines << Canvas::tr("%1 of %2 here, Tab shows %3")
                      .arg(cycleList.place() + 1)
                      .arg(cycleList.count())
-                     .arg(QString::fromStdString(nextName));
+                     .arg(qt_face::toShown(nextName));
     }
     return lines;
 }

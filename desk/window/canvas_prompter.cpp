@@ -3,6 +3,7 @@
 #include "desk/answers/typed_answer.h"
 #include "desk/answers/typed_selection.h"
 #include "desk/window/command_line.h"
+#include "faces/qt/qt_text.h"
 
 #include <QEventLoop>
 #include <algorithm>
@@ -54,7 +55,7 @@ void CanvasPrompter::forget() {
 model::EntityPick CanvasPrompter::getEntity(const drawing::Drawing& drawing, const std::string& prompt) {
     prompt_ = {};
     prompt_.asking = Asking::Entity;
-    prompt_.text = QString::fromStdString(prompt);
+    prompt_.text = qt_face::toShown(prompt);
     drawing_ = &drawing;
     wait();
     if (answer_ == Answer::Given) canvas_.flash({entity_});
@@ -66,7 +67,7 @@ model::PointPick CanvasPrompter::getPoint(const std::optional<Point3>& base, con
     polygon_ = {};
     prompt_ = {};
     prompt_.asking = Asking::Point;
-    prompt_.text = QString::fromStdString(prompt);
+    prompt_.text = qt_face::toShown(prompt);
     prompt_.base = base;
     wait();
     return {answer_, point_};
@@ -80,7 +81,7 @@ model::PointPick CanvasPrompter::nextCorner(const std::string& prompt) {
         prompt_ = {};
         prompt_.asking = Asking::Point;
         prompt_.isPolygon = true;
-        prompt_.text = QString::fromStdString(prompt);
+        prompt_.text = qt_face::toShown(prompt);
         wait();
         polygon_.isClosed = true;
     }
@@ -94,7 +95,7 @@ model::PointPick CanvasPrompter::nextCorner(const std::string& prompt) {
 model::AnglePick CanvasPrompter::getAngle(const Point3& base, const std::string& prompt) {
     prompt_ = {};
     prompt_.asking = Asking::Angle;
-    prompt_.text = QString::fromStdString(prompt);
+    prompt_.text = qt_face::toShown(prompt);
     prompt_.base = base;
     wait();
     return {answer_, radians_};
@@ -106,7 +107,7 @@ model::SelectionPick CanvasPrompter::selectEntities(const drawing::Drawing& draw
     prompt_.asking = Asking::Selection;
     // The host's own words, in the window's language.
     prompt_.text = prompt.empty() || prompt.starts_with("Select objects:") ? tr("Select objects:")
-                                                                           : QString::fromStdString(prompt);
+                                                                           : qt_face::toShown(prompt);
     drawing_ = &drawing;
     removing_ = false;
     canvas_.setSelection({});
@@ -121,7 +122,7 @@ model::SelectionPick CanvasPrompter::selectEntities(const drawing::Drawing& draw
     return pick;
 }
 
-void CanvasPrompter::message(const std::string& text) { emit told(QString::fromStdString(text)); }
+void CanvasPrompter::message(const std::string& text) { emit told(qt_face::toShown(text)); }
 
 void CanvasPrompter::showPrompt() {
     canvas_.ask(prompt_);
@@ -281,7 +282,7 @@ void CanvasPrompter::answerSelection(const QString& line) {
         found.add(line.toStdString());
         select(found.entities());
     } catch (const answers::AnswerError& error) {
-        refuse(line, QString::fromStdString(error.what()));
+        refuse(line, qt_face::toShown(error.what()));
     }
 }
 

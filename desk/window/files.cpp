@@ -6,6 +6,7 @@
 #include "desk/window/session.h"
 #include "desk/window/status_line.h"
 #include "desk/window/work.h"
+#include "faces/qt/qt_text.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -46,13 +47,14 @@ bool Files::reads(const QString& path) { return path.endsWith(".dxf", Qt::CaseIn
 
 QString Files::shownName() const {
     if (!session_.hasDrawing()) return {};
-    return QFileInfo(QString::fromStdString(session_.drawing().path())).fileName();
+    return qt_face::toShown(QFileInfo(QString::fromStdString(session_.drawing().path())).fileName());
 }
 
 void Files::tellFailure(const QString& head, const QString& why) {
-    session_.tell(head + " " + why);
-    QMessageBox box(QMessageBox::Warning, tr("Vorlane"), head, QMessageBox::Ok, &window_);
-    box.setInformativeText(why);
+    session_.tell(qt_face::toShown(head + " " + why));
+    QMessageBox box(QMessageBox::Warning, tr("Vorlane"), qt_face::toShown(head), QMessageBox::Ok, &window_);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(qt_face::toShown(why));
     box.exec();
 }
 
@@ -100,7 +102,8 @@ bool Files::open(const QString& path) {
 }
 
 void Files::readAside(const QString& path, std::function<void()> reading) {
-    if (!workAside(bar_, status_, tr("Opening %1").arg(QFileInfo(path).fileName()), std::move(reading))) {
+    if (!workAside(bar_, status_, tr("Opening %1").arg(qt_face::toShown(QFileInfo(path).fileName())),
+                   std::move(reading))) {
         throw shell::UserBreak();
     }
 }
@@ -131,8 +134,10 @@ bool Files::saveTo(const QString& path) {
                        QFileInfo(QString::fromStdString(session_.drawing().path())).absoluteFilePath();
     if (isOwn && !isConverted_) return save();
     if (wanted.exists()) {
-        QMessageBox box(QMessageBox::Question, tr("Vorlane"), tr("%1 exists already.").arg(wanted.fileName()),
+        QMessageBox box(QMessageBox::Question, tr("Vorlane"),
+                        tr("%1 exists already.").arg(qt_face::toShown(wanted.fileName())),
                         QMessageBox::NoButton, &window_);
+        box.setTextFormat(Qt::PlainText);
         auto* over = box.addButton(tr("Put this drawing in its place"), QMessageBox::DestructiveRole);
         box.addButton(tr("Cancel"), QMessageBox::RejectRole);
         box.exec();
@@ -160,6 +165,7 @@ bool Files::write(const QString& path) {
 
 bool Files::confirm(const QString& question) {
     QMessageBox box(QMessageBox::Question, tr("Vorlane"), question, QMessageBox::NoButton, &window_);
+    box.setTextFormat(Qt::PlainText);
     auto* yes = box.addButton(QCoreApplication::translate("window", "Yes"), QMessageBox::YesRole);
     box.setEscapeButton(box.addButton(QCoreApplication::translate("window", "No"), QMessageBox::NoRole));
     box.exec();
@@ -171,6 +177,7 @@ bool Files::mayLeave() {
     QMessageBox box(QMessageBox::Question, tr("Vorlane"), tr("Save the changes to %1?").arg(shownName()),
                     QMessageBox::NoButton, &window_);
     box.setInformativeText(tr("Changes that aren't saved are lost."));
+    box.setTextFormat(Qt::PlainText);
     auto* saving = box.addButton(tr("Save"), QMessageBox::AcceptRole);
     auto* discarding = box.addButton(tr("Discard"), QMessageBox::DestructiveRole);
     box.addButton(tr("Cancel"), QMessageBox::RejectRole);

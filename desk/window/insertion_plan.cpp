@@ -1,6 +1,7 @@
 #include "desk/window/insertion_plan.h"
 
 #include "basic/error.h"
+#include "faces/qt/qt_text.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 
@@ -69,7 +70,7 @@ InsertionPlan insertionPlan(forms::Form& form, const basic::Regional& regional) 
                 values[i] = basic::toDouble(text, regional);
             } catch (const basic::Error&) {
                 reason = QCoreApplication::translate("window", kNoNumber)
-                             .arg(QString::fromUtf8(kNumbers[i]), QString::fromStdString(text));
+                             .arg(QString::fromUtf8(kNumbers[i]), qt_face::toShown(text));
                 failing = i;
                 break;
             }

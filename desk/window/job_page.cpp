@@ -1,6 +1,7 @@
 #include "desk/window/job_page.h"
 
 #include "desk/window/panel.h"
+#include "faces/qt/qt_text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -83,7 +84,7 @@ void JobPage::addRows(const QString& title, const std::vector<std::pair<QString,
         row->setContentsMargins(14, 0, 12, 0);
         row->setSpacing(0);
         const auto label = [&](const QString& text, const char* style) {
-            auto* made = new QLabel(text, body_);
+            auto* made = new QLabel(qt_face::toShown(text), body_);
             made->setTextFormat(Qt::PlainText);
             if (style != nullptr) made->setObjectName(style);
             row->addWidget(made);
@@ -112,7 +113,7 @@ void JobPage::addRows(const QString& title, const std::vector<std::pair<QString,
 }
 
 void JobPage::addNote(const QString& text) {
-    auto* note = new QLabel(text, body_);
+    auto* note = new QLabel(qt_face::toShown(text), body_);
     note->setObjectName("secondText");
     note->setFont(smallFont(font()));
     note->setWordWrap(true);
@@ -135,8 +136,8 @@ void JobPage::show(const ReplacementView& view) {
     second_->show();
     fromPicture_->setPixmap(view.fromPicture);
     toPicture_->setPixmap(view.toPicture);
-    from_->setText(view.from.isEmpty() ? QString::fromUtf8("—") : view.from);
-    to_->setText(view.to.isEmpty() ? QString::fromUtf8("—") : view.to);
+    from_->setText(view.from.isEmpty() ? QString::fromUtf8("—") : qt_face::toShown(view.from));
+    to_->setText(view.to.isEmpty() ? QString::fromUtf8("—") : qt_face::toShown(view.to));
     fromCount_->setText(tr("%1 references").arg(view.fromReferences));
     toCount_->setText(view.to.isEmpty() ? QString() : tr("%1 references").arg(view.toReferences));
     clearRows();
@@ -149,7 +150,7 @@ void JobPage::show(const InsertionView& view) {
     head_->setTitle(tr("Insertion"));
     second_->hide();
     fromPicture_->setPixmap(view.picture);
-    from_->setText(view.block.isEmpty() ? QString::fromUtf8("—") : view.block);
+    from_->setText(view.block.isEmpty() ? QString::fromUtf8("—") : qt_face::toShown(view.block));
     fromCount_->clear();
     clearRows();
     addRows(tr("Rows"), view.counts, Rows::Counts);

@@ -3,6 +3,7 @@
 #include "basic/error.h"
 #include "desk/window/canvas_prompter.h"
 #include "desk/window/drawing_lists.h"
+#include "faces/qt/qt_text.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 
@@ -97,7 +98,7 @@ void JobView::choosePrefilled() {
         try {
             list->setListIndex(i);
         } catch (const basic::Error& error) {
-            session_.tell(textOf(error.description()));
+            session_.tell(qt_face::toShown(error.description()));
         }
         return;
     }
@@ -175,8 +176,10 @@ void JobView::showReplacement(forms::Form& form) {
     if (!from.isEmpty()) marks_.lit = replaced(from, isOn(&form, "optZoneAll"));
     marks_.stepsBack = true;
     marks_.toCome = to;
-    if (!marks_.lit.empty()) marks_.legend = tr("%1, %2 lit").arg(from).arg(marks_.lit.size());
-    if (to != drawing::kNoBlock && !marks_.lit.empty()) marks_.legendToCome = tr("%1 to come").arg(chosen);
+    if (!marks_.lit.empty())
+        marks_.legend = tr("%1, %2 lit").arg(qt_face::toShown(from)).arg(marks_.lit.size());
+    if (to != drawing::kNoBlock && !marks_.lit.empty())
+        marks_.legendToCome = tr("%1 to come").arg(qt_face::toShown(chosen));
     canvas_.setMarks(marks_);
     emit replacementShown(replacementView(form, from, to == drawing::kNoBlock ? QString() : chosen));
     pageShown_ = true;
@@ -275,7 +278,7 @@ void JobView::showExtraction(forms::Form& form) {
         marks_.shownRowText = tr("Row %1 of %2").arg(row).arg(rows);
         const std::vector<EntityId> attributes = drawing.attributes(marks_.shownRow);
         if (!attributes.empty())
-            marks_.shownRowText += ", " + textOf(drawing.attributeText(attributes.front()));
+            marks_.shownRowText += ", " + qt_face::toShown(drawing.attributeText(attributes.front()));
         shown += "   " + tr("row %1 shown").arg(row);
     }
     canvas_.setMarks(marks_);
@@ -337,7 +340,8 @@ void JobView::showInsertion(forms::Form& form) {
         marks_.toCome = block;
         marks_.toComeAt = std::move(plan.places);
         marks_.stepsBack = true;
-        if (readable > 0) marks_.legendToCome = tr("%1, %2 to come").arg(plan.block).arg(readable);
+        if (readable > 0)
+            marks_.legendToCome = tr("%1, %2 to come").arg(qt_face::toShown(plan.block)).arg(readable);
     }
     canvas_.setMarks(marks_);
     emit insertionShown(view);

@@ -3,6 +3,7 @@
 #include "desk/window/icons.h"
 #include "desk/window/layers_panel.h"
 #include "desk/window/panel.h"
+#include "faces/qt/qt_text.h"
 
 #include <QPainter>
 
@@ -31,7 +32,7 @@ int LayerListModel::rowCount(const QModelIndex& parent) const {
 QVariant LayerListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const LayerRow& shown = row(index.row());
-    const QString name = QString::fromStdString(shown.name);
+    const QString name = qt_face::toShown(shown.name);
     if (role == Qt::DisplayRole) return name;
     if (role != Qt::AccessibleTextRole) return {};
     QStringList states{name};
@@ -98,7 +99,7 @@ void LayerDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QRect text(x - 2, option.rect.y(), right.left() - x - 4, option.rect.height());
     painter->drawText(
         text, Qt::AlignVCenter | Qt::AlignLeft,
-        painter->fontMetrics().elidedText(QString::fromStdString(row.name), Qt::ElideRight, text.width()));
+        painter->fontMetrics().elidedText(qt_face::toShown(row.name), Qt::ElideRight, text.width()));
     painter->restore();
 }
 

@@ -2,6 +2,7 @@
 
 #include "desk/window/color_choice.h"
 #include "desk/window/panel.h"
+#include "faces/qt/qt_text.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -126,7 +127,7 @@ void LayersPanel::openMenu(const QPoint& place) {
     if (!index.isValid()) return;
     const LayerRow row = model_->row(index.row());
     QMenu menu(this);
-    menu.addSection(QString::fromStdString(row.name));
+    menu.addSection(qt_face::toShown(row.name));
     menu.addAction(tr("Make current"), this, [this] { ask(LayerAct::MakeCurrent); })
         ->setEnabled(!row.current);
     menu.addAction(row.on ? tr("Switch off") : tr("Switch on"), this, [this] { ask(LayerAct::SwitchOn); });

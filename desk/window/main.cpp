@@ -3,6 +3,7 @@
 #include "desk/shell/surroundings.h"
 #include "desk/window/main_window.h"
 #include "faces/qt/qt_screen.h"
+#include "faces/qt/qt_text.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -88,9 +89,9 @@ int main(int argc, char** argv) {
         if (!parser.positionalArguments().isEmpty()) window.open(parser.positionalArguments().front());
         return QApplication::exec();
     } catch (const basic::Error& error) {
-        QMessageBox::critical(nullptr, "Vorlane", QString::fromStdString(error.description()));
+        QMessageBox::critical(nullptr, "Vorlane", qt_face::toShown(error.description()));
     } catch (const std::exception& error) {
-        QMessageBox::critical(nullptr, "Vorlane", error.what());
+        QMessageBox::critical(nullptr, "Vorlane", qt_face::toShown(error.what()));
     }
     return 2;
 }

@@ -14,6 +14,7 @@
 #include "desk/window/properties_panel.h"
 #include "desk/window/run_watch.h"
 #include "desk/window/status_line.h"
+#include "faces/qt/qt_text.h"
 #include "forms/form.h"
 
 #include <QAction>
@@ -56,7 +57,7 @@ MainWindow::MainWindow(const shell::DeskOptions& options, const MakeFace& face, 
     };
     options_.readied = picture::prepare;
     options_.confirm = [this](const std::string& question) {
-        return files_->confirm(deskText(QString::fromStdString(question)));
+        return files_->confirm(deskText(qt_face::toShown(question)));
     };
     session_ = new Session(options_, *watch_, *prompter_, this);
     files_ = new Files(*this, *session_, *busy_, *status_, *notice_, settings_);
@@ -127,7 +128,7 @@ void MainWindow::updateActions() {
     const drawing::Drawing& open = session_->drawing();
     const auto named = [&](const char* id, bool can, const std::string& step, const QString& plain) {
         actions_[id]->setEnabled(free && can);
-        const QString name = QString::fromStdString(step);
+        const QString name = qt_face::toShown(step);
         actions_[id]->setText(can && !name.isEmpty() ? QString("%1: %2").arg(plain, name) : plain);
     };
     named("undo", open.canUndo(), open.undoName(), tr("&Undo"));
@@ -165,10 +166,9 @@ void MainWindow::updatePrompt() {
         return;
     }
     if (isBlocked()) {
-        const QString name =
-            watch_->shown().empty()
-                ? session_->runningName()
-                : QString::fromStdString(watch_->shown().back()->caption()).section(" : ", -1);
+        const QString name = watch_->shown().empty()
+                                 ? session_->runningName()
+                                 : qt_face::toShown(watch_->shown().back()->caption()).section(" : ", -1);
         commandLine_->setBlocked(
             true, tr("%1 is open. The wheel and the middle button still move the drawing.").arg(name));
         return;
@@ -198,7 +198,7 @@ void MainWindow::drawingOpened() {
             if (blocks[id].isPaperSpace && !blocks[id].isErased) spaces_.push_back(id);
         }
         for (const drawing::BlockId space : spaces_) {
-            const QString name = QString::fromStdString(std::string(blocks[space].shownLayoutName()));
+            const QString name = qt_face::toShown(blocks[space].shownLayoutName());
             names.append(name.isEmpty() ? tr("Layout") : name);
         }
     }

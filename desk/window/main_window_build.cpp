@@ -10,6 +10,7 @@
 #include "desk/window/properties_panel.h"
 #include "desk/window/run_watch.h"
 #include "desk/window/status_line.h"
+#include "faces/qt/qt_text.h"
 
 #include <QAction>
 #include <QMenu>
@@ -313,7 +314,7 @@ void MainWindow::connectSession() {
         QMenu* menu = actions_["recent"]->menu();
         menu->clear();
         for (const QString& path : files_->recent()) {
-            menu->addAction(QString(path).replace("&", "&&"), this, [this, path] {
+            menu->addAction(qt_face::toShown(path).replace("&", "&&"), this, [this, path] {
                 if (!isBlocked() && files_->mayLeave()) files_->open(path);
             });
         }

@@ -1,6 +1,7 @@
 #include "desk/window/parts.h"
 
 #include "desk/window/icons.h"
+#include "faces/qt/qt_text.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -125,7 +126,7 @@ NoticeBar::NoticeBar(QWidget* parent)
 void NoticeBar::tell(const QString& text, const QStringList& answers) {
     const Scheme scheme = schemeOf(palette());
     sign_->setPixmap(iconPixmap("warning", 16, devicePixelRatioF(), color(Token::Warn, scheme), scheme));
-    text_->setText(text);
+    text_->setText(qt_face::toShown(text));
     while (QLayoutItem* item = answers_->takeAt(0)) {
         if (item->widget() != nullptr) {
             item->widget()->hide();

@@ -4,6 +4,7 @@
 #include "desk/window/icons.h"
 #include "desk/window/panel.h"
 #include "desk/window/property_field.h"
+#include "faces/qt/qt_text.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -190,7 +191,7 @@ QWidget* PropertiesPanel::addRow(const PropertyRow& row) {
     layout->setSpacing(0);
     QLabel* label = secondLabel(row.label, line);
     label->setFixedWidth(kLabelWidth);
-    label->setToolTip(row.label);
+    label->setToolTip(qt_face::plainTip(row.label));
     layout->addWidget(label);
     const QString shown = row.varies ? tr("varies") : row.value;
     QWidget* value = nullptr;
@@ -214,7 +215,7 @@ QWidget* PropertiesPanel::addRow(const PropertyRow& row) {
             for (const drawing::Layer& layer : drawing_->layers().all()) {
                 if (layer.record != drawing::kNoEntity && !drawing_->isErased(layer.record)) {
                     const QString name = QString::fromStdString(layer.name);
-                    choice->addItem(name, name);
+                    choice->addItem(qt_face::toShown(name), name);
                 }
             }
             choice->model()->sort(0);

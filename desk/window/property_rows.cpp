@@ -3,6 +3,7 @@
 #include "basic/error.h"
 #include "desk/dxf/tag_reader.h"
 #include "desk/window/color_choice.h"
+#include "faces/qt/qt_text.h"
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -29,7 +30,7 @@ std::optional<QString> groupText(const Drawing& drawing, EntityId id, int code) 
     dxf::TagReader reader = drawing.tags(id);
     dxf::Tag tag;
     while (reader.next(tag)) {
-        if (tag.code == code) return QString::fromStdString(tag.text());
+        if (tag.code == code) return qt_face::toShown(tag.text());
     }
     return std::nullopt;
 }
@@ -66,16 +67,17 @@ PropertyGroup attributeGroup(const Drawing& drawing, const std::vector<EntityId>
             }
             return drawing::kNoEntity;
         };
-        auto row = common(drawing, entities, QString::fromStdString(tag),
+        auto row = common(drawing, entities, qt_face::toShown(tag),
                           [&find](const Drawing& in, EntityId id) -> std::optional<QString> {
                               const EntityId part = isReference(in, id) ? find(in, id) : drawing::kNoEntity;
                               if (part == drawing::kNoEntity) return std::nullopt;
-                              return QString::fromStdString(in.attributeText(part));
+                              return qt_face::toShown(in.attributeText(part));
                           });
         if (!row) continue;
         row->edit = PropertyEdit::Text;
         row->apply = [find](Drawing& in, EntityId id, const QString& value) {
-            in.setAttributeText(find(in, id), value.toStdString());
+            const EntityId part = find(in, id);
+            in.setAttributeText(part, qt_face::fromShown(in.attributeText(part), value));
         };
         group.rows.push_back(std::move(*row));
     }
@@ -109,7 +111,7 @@ PropertyGroup generalGroup(const Drawing& drawing, const std::vector<EntityId>& 
     };
     add(
         "Layer", PropertyEdit::Layer,
-        [](const Drawing& in, EntityId id) { return QString::fromStdString(std::string(in.layerName(id))); },
+        [](const Drawing& in, EntityId id) { return qt_face::toShown(in.layerName(id)); },
         [](Drawing& in, EntityId id, const QString& value) {
             in.setText(id, 8, kCommonPart, value.toStdString());
         });
@@ -206,7 +208,7 @@ PropertyGroup definitionGroup(const Drawing& drawing, drawing::BlockId id) {
     add("Base Y", figure(block.basePoint.y), true);
     add("Entities", QString::number(drawing.entityCount(id)), true);
     add("Attributes", QString::number(block.attributeDefinitions.size()), true);
-    if (block.isXRef()) add("File", QString::fromStdString(block.xrefPath), false);
+    if (block.isXRef()) add("File", qt_face::toShown(block.xrefPath), false);
     return group;
 }
 
@@ -239,8 +241,7 @@ PropertyTitle propertyTitle(const Drawing& drawing, const std::vector<EntityId>&
     PropertyTitle title;
     if (entities.empty()) return title;
     title.block = commonBlock(drawing, entities);
-    if (title.block != drawing::kNoBlock)
-        title.name = QString::fromStdString(drawing.blocks()[title.block].name);
+    if (title.block != drawing::kNoBlock) title.name = qt_face::toShown(drawing.blocks()[title.block].name);
     if (entities.size() > 1) {
         const QString count = text("%1 selected").arg(entities.size());
         title.kind = title.name.isEmpty() ? QString() : count;
@@ -248,10 +249,10 @@ PropertyTitle propertyTitle(const Drawing& drawing, const std::vector<EntityId>&
         return title;
     }
     const EntityId id = entities.front();
-    const QString type = QString::fromStdString(std::string(drawing.type(id)));
+    const QString type = qt_face::toShown(drawing.type(id));
     title.kind = isReference(drawing, id) ? text("Block reference") : text("Entity");
     if (title.name.isEmpty())
-        title.name = isReference(drawing, id) ? QString::fromStdString(drawing.name(id)) : type;
+        title.name = isReference(drawing, id) ? qt_face::toShown(drawing.name(id)) : type;
     if (drawing.handle(id) != 0)
         title.handle = text("handle %1").arg(QString::number(drawing.handle(id), 16).toUpper());
     return title;

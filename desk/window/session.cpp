@@ -2,6 +2,7 @@
 
 #include "basic/error.h"
 #include "desk/window/desk_texts.h"
+#include "faces/qt/qt_text.h"
 
 #include <exception>
 
@@ -12,7 +13,7 @@ using Outcome = shell::Desk::Outcome;
 Session::Session(const shell::DeskOptions& options, DialogWatch& screen, model::Prompter& prompter,
                  QObject* parent)
     : QObject(parent),
-      lines_([this](const std::string& line) { emit told(deskText(QString::fromStdString(line))); }),
+      lines_([this](const std::string& line) { emit told(deskText(qt_face::toShown(line))); }),
       output_(&lines_) {
     desk_ = std::make_unique<shell::Desk>(options, screen, prompter, output_);
 }
@@ -39,7 +40,7 @@ void Session::run(const QString& line) {
     try {
         outcome = desk_->run(whole.toStdString());
     } catch (const std::exception& failure) {
-        emit told(tr("The command failed: %1").arg(failure.what()));
+        emit told(tr("The command failed: %1").arg(qt_face::toShown(failure.what())));
     }
     lines_.finishLine();
     if (outcome == Outcome::Incomplete) begun_ = whole;
@@ -95,7 +96,7 @@ bool Session::edit(const QString& name, const std::function<void(drawing::Drawin
         try {
             change(drawing());
         } catch (const basic::Error& error) {
-            emit told(tr("Not changed: %1").arg(QString::fromStdString(error.description())));
+            emit told(tr("Not changed: %1").arg(qt_face::toShown(error.description())));
             done = false;
         }
     }
@@ -108,7 +109,7 @@ bool Session::edit(const QString& name, const std::function<void(drawing::Drawin
 
 bool Session::undo() {
     if (running_ || !hasDrawing()) return false;
-    const QString name = QString::fromStdString(drawing().undoName());
+    const QString name = qt_face::toShown(drawing().undoName());
     const bool done = desk_->document().undo();
     emit told(done ? tr("Undone: %1").arg(name) : tr("Nothing to undo"));
     fresh_.clear();
@@ -119,7 +120,7 @@ bool Session::undo() {
 
 bool Session::redo() {
     if (running_ || !hasDrawing()) return false;
-    const QString name = QString::fromStdString(drawing().redoName());
+    const QString name = qt_face::toShown(drawing().redoName());
     const bool done = desk_->document().redo();
     emit told(done ? tr("Redone: %1").arg(name) : tr("Nothing to redo"));
     fresh_.clear();

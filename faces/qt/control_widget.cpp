@@ -82,7 +82,7 @@ class FrameWidget : public ControlWidget {
     void drawOwn(Changes changes) override {
         if (!changes.has(Change::Caption) && !changes.has(Change::Bounds)) return;
         // The title's font may be wider than the one that captions are measured in.
-        const QString whole = toQt(control_.caption());
+        const QString whole = toShown(control_.caption());
         const double plain = window_.fontMetrics().horizontalAdvance(whole);
         const double drawn = box_->fontMetrics().horizontalAdvance(whole);
         const double room = (box_->width() - 24) * (drawn > plain ? plain / drawn : 1);
@@ -169,7 +169,7 @@ class ButtonWidget : public ControlWidget {
                                         style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
         const int lines = linesIn(button_->height() - (isPush ? 6 : 0), *button_);
         button_->setText(window_.captionOf(control_, button_->width() - beside, lines, true, &isCaptionCut_));
-        button_->setAccessibleName(toQt(control_.caption()));
+        button_->setAccessibleName(toShown(control_.caption()));
         setTip();
     }
     void drawValue() {
@@ -193,14 +193,14 @@ class FieldWidget : public ControlWidget {
         widget_ = field_;
         field_->setReadOnly(box().locked());
         QObject::connect(field_, &QLineEdit::textEdited, field_, [this](const QString& text) {
-            window_.act(&control_, [&] { acts::type(control_, fromQt(text)); });
+            window_.act(&control_, [&] { acts::type(control_, fromShown(box().text(), text)); });
         });
     }
 
   protected:
     void drawOwn(Changes changes) override {
         // A text that is the same stays, and with it the place of the cursor.
-        const QString text = toQt(box().text());
+        const QString text = toShown(box().text());
         if (changes.has(Change::Text) && field_->text() != text) {
             field_->setText(text);
             if (!field_->hasFocus()) field_->setCursorPosition(0);
@@ -222,13 +222,14 @@ class NoticeWidget : public ControlWidget {
         text_->setReadOnly(box().locked());
         text_->setTabChangesFocus(true);
         QObject::connect(text_, &QPlainTextEdit::textChanged, text_, [this] {
-            window_.act(&control_, [&] { acts::type(control_, fromQt(text_->toPlainText())); });
+            window_.act(&control_,
+                        [&] { acts::type(control_, fromShown(box().text(), text_->toPlainText())); });
         });
     }
 
   protected:
     void drawOwn(Changes changes) override {
-        const QString text = toQt(box().text()).remove('\r');
+        const QString text = toShown(box().text());
         if (changes.has(Change::Text) && text_->toPlainText() != text) text_->setPlainText(text);
     }
 
@@ -244,8 +245,8 @@ void ControlWidget::drawPlace() { widget_->setGeometry(window_.placeOf(control_.
 
 /// The control's own tip, or else the whole of a caption that is cut short.
 void ControlWidget::setTip() {
-    QString tip = control_.has(forms::Property::ToolTipText) ? toQt(control_.toolTipText()) : QString();
-    if (tip.isEmpty() && isCaptionCut_) tip = toQt(control_.caption());
+    QString tip = control_.has(forms::Property::ToolTipText) ? toShown(control_.toolTipText()) : QString();
+    if (tip.isEmpty() && isCaptionCut_) tip = toShown(control_.caption());
     widget_->setToolTip(plainTip(tip));
 }
 

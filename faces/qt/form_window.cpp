@@ -40,7 +40,7 @@ class FontMetric : public forms::TextMetric {
   public:
     FontMetric(const QFont& font, float scale) : metrics_(font), scale_(scale) {}
     forms::Twips width(std::string_view text) const override {
-        return static_cast<float>(metrics_.horizontalAdvance(toQt(text))) / scale_;
+        return static_cast<float>(metrics_.horizontalAdvance(toShown(text))) / scale_;
     }
 
   private:
@@ -233,7 +233,7 @@ void FormWindow::flush() {
 }
 
 void FormWindow::drawForm(Changes changes) {
-    if (changes.has(Change::Caption)) setWindowTitle(toQt(form_.caption()));
+    if (changes.has(Change::Caption)) setWindowTitle(toShown(form_.caption()));
     if (changes.has(Change::Icon) && hooks_.icon) setWindowIcon(hooks_.icon(form_.icon()));
     if (!changes.has(Change::Bounds)) return;
     const std::pair modelPlace{form_.left(), form_.top()};
@@ -273,16 +273,16 @@ QWidget* FormWindow::buddyOf(const Control& label) const {
 
 QString FormWindow::nameOf(const Control& control) const {
     for (const auto& [label, field] : fields_)
-        if (field == &control) return toQt(label->caption()).remove(':').trimmed();
+        if (field == &control) return toShown(label->caption()).remove(':').trimmed();
     return {};
 }
 
 QString FormWindow::captionOf(const Control& control, int room, int lines, bool marked, bool* isCut) const {
-    QString text = toQt(control.caption());
+    QString text = toShown(control.caption());
     const auto letter = letters_.find(&control);
     qsizetype mark = -1;
     if (marked && letter != letters_.end())
-        mark = toQt(std::string_view(control.caption()).substr(0, letter->second)).size();
+        mark = toShown(std::string_view(control.caption()).substr(0, letter->second)).size();
     const QFontMetrics metrics(font());
     qsizetype start = 0;
     for (int line = 1; line < lines && metrics.horizontalAdvance(text.mid(start)) > room; ++line) {

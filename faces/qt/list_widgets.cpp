@@ -22,7 +22,7 @@ using forms::Control;
 QStringList entriesOf(const forms::ListControl& list) {
     QStringList entries;
     entries.reserve(list.listCount());
-    for (int i = 0; i < list.listCount(); ++i) entries << toQt(list.list(i));
+    for (int i = 0; i < list.listCount(); ++i) entries << toShown(list.list(i));
     return entries;
 }
 
@@ -106,7 +106,7 @@ class ComboWidget : public ControlWidget {
         combo_->setInsertPolicy(QComboBox::NoInsert);
         combo_->setCompleter(nullptr);  // what isn't typed isn't in the text
         QObject::connect(combo_->lineEdit(), &QLineEdit::textEdited, combo_, [this](const QString& text) {
-            window_.act(&control_, [&] { acts::type(control_, fromQt(text)); });
+            window_.act(&control_, [&] { acts::type(control_, fromShown(box().text(), text)); });
         });
     }
     std::vector<QObject*> inputs() const override {
@@ -124,7 +124,7 @@ class ComboWidget : public ControlWidget {
         if (hasMoved && combo_->currentIndex() != box().listIndex())
             combo_->setCurrentIndex(box().listIndex());
         if (box().editable() && (hasMoved || changes.has(Change::Text))) {
-            const QString text = toQt(box().text());
+            const QString text = toShown(box().text());
             if (combo_->currentText() != text) combo_->setEditText(text);
             if (!combo_->hasFocus()) combo_->lineEdit()->setCursorPosition(0);
         }

@@ -15,7 +15,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
-#include <QTextDocument>
 #include <algorithm>
 
 namespace qt_face {
@@ -69,17 +68,13 @@ QString filterOf(const forms::FileDialog::FilterEntry& entry, const QtHooks& hoo
         for (const QString& form : {text == "*.*" ? QString("*") : text, text.toUpper(), text.toLower()})
             if (!patterns.contains(form) && !(text == "*.*" && form == text)) patterns << form;
     }
-    QString label = toQt(entry.label);
+    QString label = toShown(entry.label);
     const qsizetype bracket = label.indexOf('(');
     if (bracket > 0) label.truncate(bracket);
     return label.trimmed() + " (" + patterns.join(' ') + ')';
 }
 
 }  // namespace
-
-QString plainTip(const QString& text) {
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
-}
 
 QtScreen::QtScreen(QtHooks hooks) : hooks_(std::move(hooks)) { qApp->installEventFilter(this); }
 
@@ -212,8 +207,8 @@ Answer QtScreen::messageBox(const MessageDialog& box) {
     QMessageBox drawn(owner());
     drawn.setObjectName("messageBox");
     drawn.setTextFormat(Qt::PlainText);
-    drawn.setWindowTitle(toQt(box.title.empty() ? "Vorlane" : box.title));
-    drawn.setText(toQt(box.text).remove('\r'));
+    drawn.setWindowTitle(toShown(box.title.empty() ? "Vorlane" : box.title));
+    drawn.setText(toShown(box.text));
     drawn.setIcon(iconOf(box.icon));
     const std::vector<BoxButton> buttons = buttonsOf(box.buttons);
     std::map<QAbstractButton*, Answer> answers;
@@ -234,7 +229,7 @@ std::optional<std::string> QtScreen::fileDialog(const forms::FileDialog& dialog,
     const bool isOpen = mode == forms::FileDialogMode::Open;
     QFileDialog drawn(owner());
     drawn.setObjectName("fileDialog");
-    const QString title = toQt(dialog.dialogTitle());
+    const QString title = toShown(dialog.dialogTitle());
     drawn.setWindowTitle(title.isEmpty() ? word(isOpen ? "Open" : "Save as") : title);
     drawn.setAcceptMode(isOpen ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     drawn.setFileMode(isOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

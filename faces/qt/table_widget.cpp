@@ -56,7 +56,7 @@ class RowModel : public QAbstractTableModel {
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
         if (orientation != Qt::Horizontal || section >= view_.columnHeaders().count()) return {};
-        const QString text = toQt(view_.columnHeaders().item(section + 1).text);
+        const QString text = toShown(view_.columnHeaders().item(section + 1).text);
         if (role == Qt::DisplayRole) return text;
         if (role == Qt::ToolTipRole) return plainTip(text);
         if (role == Qt::TextAlignmentRole) return alignmentOf(section);
@@ -97,7 +97,7 @@ class RowModel : public QAbstractTableModel {
     QString cell(int row, int column) const {
         if (row >= view_.listItems().count() || column >= view_.columnHeaders().count()) return {};
         const forms::ListItem& item = std::as_const(view_).listItems().item(row + 1);
-        return toQt(column == 0 ? item.text() : item.subItem(column));
+        return toShown(column == 0 ? item.text() : item.subItem(column));
     }
     int alignmentOf(int column) const {
         return static_cast<int>(Qt::AlignVCenter | (isNumeric(column) ? Qt::AlignRight : Qt::AlignLeft));
@@ -241,7 +241,11 @@ class TableWidget : public ControlWidget {
         table_ = new Table(parent);
         widget_ = table_;
         rows_ = new RowModel(view(), table_, [this](const QString& text) {
-            window_.act(&control_, [&] { acts::endEdit(control_, fromQt(text)); });
+            window_.act(&control_, [&] {
+                const int row = view().editedRow();
+                const std::string before = row > 0 ? view().listItems().item(row).text() : std::string();
+                acts::endEdit(control_, fromShown(before, text));
+            });
         });
         table_->setModel(rows_);
         table_->setItemDelegate(new RowDelegate(view(), *table_, window.hooks()));

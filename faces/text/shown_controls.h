@@ -2,13 +2,13 @@
 
 #include <ostream>
 #include <streambuf>
+#include <string>
 #include <string_view>
 
 namespace text_face {
 
-/// Shows the control characters of whatever is printed on a stream instead of sending them, as long as it
-/// lives: names and texts of a drawing or a file could else rule the user's terminal. Line feeds and tabs
-/// pass, and what is no UTF-8 isn't touched.
+/// Prints whatever is printed on a stream as basic::shownText shows it, as long as it lives: names and texts
+/// of a drawing or a file could else rule the user's terminal.
 class ShownControls : private std::streambuf {
   public:
     explicit ShownControls(std::ostream& stream) : stream_(stream), target_(stream.rdbuf(this)) {}
@@ -21,11 +21,10 @@ class ShownControls : private std::streambuf {
     std::streamsize xsputn(const char* text, std::streamsize size) override;
     int sync() override;
     bool put(std::string_view text);
-    bool take(char byte);
 
     std::ostream& stream_;
     std::streambuf* target_;
-    bool behindC2_ = false;  ///< the lead byte of the controls U+0080 to U+009F is held back
+    std::string held_;  ///< the beginning of a character whose rest may still come
 };
 
 }  // namespace text_face

@@ -1,6 +1,7 @@
 #include "basic/text.h"
 
 #include "basic/code_page.h"
+#include "basic/shown_text.h"
 
 #include <gtest/gtest.h>
 #include <unordered_set>
@@ -26,6 +27,23 @@ TEST(Utf8, KeepsWellFormedAndIllFormedTexts) {
     position = 0;
     nextCharacter("\xE2\x82", position);
     EXPECT_EQ(position, 1u);  // one byte, one character
+}
+
+TEST(ShownText, ShowsWhatWouldRuleTheScreenAndKeepsItUnderAnEdit) {
+    const std::string raw =
+        "caf\u00E9\tA\x1B[2J\x07\r\n\x7F\u009B \x9BxÀ\xE9 abc\u202Edef\u2066\u2028\u200F\u061C";
+    EXPECT_EQ(shownText(raw),
+              "caf\u00E9\tA^[[2J^G^M\n^?\\x9B \\x9BxÀ\xE9 abc\\U+202Edef\\U+2066\\U+2028\\U+200F\\U+061C");
+    struct Edit {
+        const char *before, *edited, *meant;
+    };
+    for (const Edit& edit : {Edit{"a\x1B|b\u202E", "a^[|b\\U+202E", "a\x1B|b\u202E"},
+                             {"a\x1B|b\u202E", "a^[|Xb\\U+202E", "a\x1B|Xb\u202E"},
+                             {"a\x1B|b\u202E", "a^|b\\U+202E", "a^|b\u202E"},
+                             {"a\x1B|b\u202E", "", ""},
+                             {"aa", "a", "a"},
+                             {"", "^[", "^["}})
+        EXPECT_EQ(meantText(edit.before, edit.edited), edit.meant);
 }
 
 TEST(Case, MapsTheThreeAlphabets) {

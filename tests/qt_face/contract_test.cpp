@@ -4,7 +4,9 @@
 #include "tests/qt_face/widget_hand.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -83,6 +85,56 @@ TEST(QtContractTest, TheQtFaceKeepsTheContract) {
     WidgetFace face;
     fakes::expectContract(face);
     EXPECT_EQ(face.failures, std::vector<std::string>{"1000failed"});
+}
+
+/// A text with a control character, one that turns what follows, and markup; and as it must be shown.
+constexpr char kRaw[] = "<b>a\x1B[2J\u202Eb";
+constexpr char kShown[] = "<b>a^[[2J\\U+202Eb";
+
+TEST(QtFaceTest, ShowsNoControlCharacterAndKeepsItInWhatIsEdited) {
+    fakes::SampleForm form;
+    form.setCaption(kRaw);
+    form.Frame1.setCaption(kRaw);
+    form.Check1.setCaption(kRaw);
+    form.Check1.setToolTipText(kRaw);
+    form.Text1.setEnabled(true);
+    form.Text1.setText(kRaw);
+    for (forms::ListControl* list : std::initializer_list<forms::ListControl*>{&form.List1, &form.Combo1})
+        list->addItem(kRaw);
+    form.Combo1.setText(kRaw);
+    form.ListView1.columnHeaders().add(kRaw, 2000);
+    form.ListView1.listItems().add(kRaw);
+    qt_face::QtScreen screen;
+    QTimer::singleShot(0, [&] {
+        QWidget& window = *screen.windowOf(form);
+        const auto is = [](const QString& text) { EXPECT_EQ(text.toStdString(), kShown); };
+        is(window.windowTitle());
+        is(window.findChild<QGroupBox*>("Frame1")->title());
+        is(window.findChild<QCheckBox*>("Check1")->accessibleName());
+        EXPECT_EQ(window.findChild<QWidget*>("Check1")->toolTip().indexOf(QChar(0x1B)), -1);
+        is(window.findChild<QListWidget*>("List1")->item(0)->text());
+        is(window.findChild<QComboBox*>("Combo1")->itemText(0));
+        is(window.findChild<QComboBox*>("Combo1")->currentText());
+        const QAbstractItemModel& rows = *window.findChild<QTreeView*>("ListView1")->model();
+        is(rows.headerData(2, Qt::Horizontal).toString());
+        is(rows.data(rows.index(0, 0)).toString());
+
+        auto* field = window.findChild<QLineEdit*>("Text1");
+        is(field->text());
+        field->setCursorPosition(4);
+        QTest::keyClicks(field, "c");
+        EXPECT_EQ(form.Text1.text(), "<b>ac\x1B[2J\u202Eb");
+        fakes::WidgetHand(screen).edit(form.ListView1, 1, std::string(kShown) + "!");
+        EXPECT_EQ(form.ListView1.listItems().item(1).text(), std::string(kRaw) + "!");
+        form.hide();
+    });
+    form.show(screen);
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QMessageBox*>(screen.top());
+        EXPECT_EQ(box->text().toStdString(), std::string(kShown) + "\n");
+        box->findChild<QPushButton*>("OK")->click();
+    });
+    screen.messageBox({std::string(kRaw) + "\r\n", kRaw});
 }
 
 }  // namespace

@@ -9,8 +9,10 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTextBrowser>
 
@@ -50,6 +52,44 @@ TEST_F(MainWindowTest, AnEditedPropertyIsOneUndoStepForAllSelected) {
     window_->action("redo")->trigger();
     EXPECT_EQ(drawing().attributeText(drawing().attributes(doors[3])[1]), "83");
     window_->action("undo")->trigger();
+}
+
+TEST_F(MainWindowTest, ControlCharactersAreShownAndOutliveAnEdit) {
+    const std::string block = "A\x1B\u202EB";
+    std::string bytes = folder_.read("apartment.dxf");
+    for (std::size_t at = 0; (at = bytes.find("PORTE_80", at)) != std::string::npos;)
+        bytes.replace(at, 8, "A^[\\U+202EB");
+    folder_.write("controls.dxf", bytes);
+    window_->open(QString::fromStdString(folder_.file("controls.dxf")));
+    const auto door = referencesOf(drawing(), block).at(0);
+    const drawing::EntityId width = drawing().attributes(door)[1];
+    drawing().setAttributeText(width,
+                               "a\x1B"
+                               "8");
+    window_->canvas().setSelection({door});
+    emit window_->canvas().selectionChanged();
+    PropertyField* shown = field(*window_, "LARGEUR");
+    EXPECT_EQ(shown->text(), "a^[8");
+    shown->setFocus();
+    shown->end(false);
+    QTest::keyClicks(shown, "3");
+    QTest::keyClick(shown, Qt::Key_Return);
+    QTest::qWait(0);
+    EXPECT_EQ(drawing().attributeText(width),
+              "a\x1B"
+              "83");
+    QStringList texts;
+    for (const auto* label : window_->findChildren<QLabel*>()) texts << label->text() << label->toolTip();
+    for (const auto* list : window_->findChildren<QAbstractItemView*>()) {
+        for (int row = 0; list->model() != nullptr && row < list->model()->rowCount(); ++row)
+            texts << list->model()->index(row, 0).data().toString();
+    }
+    EXPECT_GE(texts.count("A^[\\U+202EB"), 2) << "in the list of blocks and over the properties";
+    EXPECT_EQ(texts.filter(QRegularExpression("[\\x1B\\x{202E}]")), QStringList());
+    window_->action("undo")->trigger();
+    EXPECT_EQ(drawing().attributeText(width),
+              "a\x1B"
+              "8");
 }
 
 TEST_F(MainWindowTest, ARefusedValueChangesNothing) {
