@@ -27,9 +27,13 @@ std::string objectAnswer(const host::ObjectPtr& object) {
     return handles;
 }
 
-}  // namespace
+/// Lists may share their parts, and so be far longer than the memory that they take.
+constexpr int kDeepest = 100;
+constexpr int kMostValues = 1'000'000;
 
-std::string promptAnswer(const lisp::Value& value) {
+std::string answerOf(const lisp::Value& value, int depth, int& values) {
+    if (depth > kDeepest || ++values > kMostValues)
+        throw basic::Error(basic::kTypeMismatch, "the list is nested too deep or too long for a prompt");
     if (value.isNil()) return {};
     if (value.isNumber()) return numberText(value.number());
     if (value.text() != nullptr) return *value.text();
@@ -40,10 +44,20 @@ std::string promptAnswer(const lisp::Value& value) {
             std::all_of(items.begin(), items.end(), [](const lisp::Value& item) { return item.isNumber(); });
         std::string answer;
         for (const lisp::Value& item : items)
-            answer.append(answer.empty() ? "" : isPoint ? "," : " ").append(promptAnswer(item));
+            answer.append(answer.empty() ? ""
+                          : isPoint      ? ","
+                                         : " ")
+                .append(answerOf(item, depth + 1, values));
         return answer;
     }
     throw basic::Error(basic::kTypeMismatch, "the value is neither a point nor an entity nor a selection");
+}
+
+}  // namespace
+
+std::string promptAnswer(const lisp::Value& value) {
+    int values = 0;
+    return answerOf(value, 0, values);
 }
 
 }  // namespace shell

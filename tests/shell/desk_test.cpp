@@ -1,4 +1,5 @@
 #include "shell_world.h"
+#include "tests/fakes/error_of.h"
 
 namespace shell {
 namespace {
@@ -58,6 +59,16 @@ TEST_F(DeskTest, LinesThatAreNoCommand) {
     EXPECT_EQ(tell("VNREPLACE now", Outcome::Unknown), "Unknown command \"VNREPLACE now\".\n");
     tell("(defun C:FROB () (princ \"frobbed\") (princ))");
     EXPECT_EQ(tell("frob"), "frobbed");
+}
+
+TEST_F(DeskTest, AnswersFromLispEndInAnErrorWhereListsAreTooDeepOrTooLong) {
+    EXPECT_EQ(desk.answerOf("'((1 2) \"a\" nil ((3.5 4 5)))"), "1,2 a  3.5,4,5");
+    const auto answer = [&] { return fakes::errorOf([&] { desk.answerOf("!l"); }); };
+    desk.run("(repeat 60000 (setq l (list l \"x\")))");
+    EXPECT_EQ(answer(), basic::kTypeMismatch);
+    desk.run(
+        "(setq l nil)(repeat 90 (setq l (list l l)))(princ)");  // 2 to the power of 90 values in 90 cells
+    EXPECT_EQ(answer(), basic::kTypeMismatch);
 }
 
 TEST_F(DeskTest, ObjectsOfTheDrawingBeforeStillBelongToIt) {
