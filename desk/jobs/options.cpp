@@ -1,5 +1,7 @@
 #include "desk/jobs/options.h"
 
+#include "basic/error.h"
+#include "basic/text_file.h"
 #include "faces/text/control_names.h"
 
 #include <algorithm>
@@ -221,6 +223,14 @@ Arguments parseArguments(Verb verb, const std::vector<std::string>& words) {
         values.push_back(value);
     }
     return arguments;
+}
+
+std::string bytesOf(const std::string& option, const std::string& path) {
+    try {
+        return basic::readBytes(path);
+    } catch (const basic::Error& error) {
+        throw UsageError(option + ": " + error.description());
+    }
 }
 
 }  // namespace jobs

@@ -70,4 +70,7 @@ struct Arguments {
 /// option given twice that counts once.
 Arguments parseArguments(Verb verb, const std::vector<std::string>& words);
 
+/// The bytes of the file that an option names; raises UsageError where it can't be read.
+std::string bytesOf(const std::string& option, const std::string& path);
+
 }  // namespace jobs

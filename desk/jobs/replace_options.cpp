@@ -5,7 +5,7 @@
 #include "basic/text.h"
 #include "desk/model/successor.h"
 
-#include <fstream>
+#include <sstream>
 
 namespace jobs {
 
@@ -39,8 +39,7 @@ geometry::Vector3 readScale(const std::string& text) {
 }
 
 void readPairFile(const std::string& path, std::vector<AttributePair>& pairs) {
-    std::ifstream file(path);
-    if (!file) throw UsageError("--map-file: " + path + " can't be read");
+    std::istringstream file(bytesOf("--map-file", path));
     int number = 0;
     for (std::string line; std::getline(file, line);) {
         ++number;

@@ -3,10 +3,9 @@
 #include "basic/code_page.h"
 #include "basic/error.h"
 #include "basic/text.h"
+#include "basic/text_file.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <optional>
 
@@ -141,9 +140,7 @@ std::string toCsv(const Table& table, char separator, Encoding encoding) {
 }
 
 Table readTable(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) throw basic::Error(basic::kFileNotFound, path + ": can't be read");
-    std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::string text = basic::readBytes(path);
     if (text.starts_with(kByteOrderMark)) text.erase(0, kByteOrderMark.size());
     if (!isUtf8(text)) text = basic::fromCodePage(text);
 

@@ -129,8 +129,7 @@ void checkOptions(const Arguments& arguments) {
     }
     if (arguments.verb == kInsert || arguments.verb == kUpdate) {
         require("--data");
-        if (!std::ifstream(arguments.value("--data")))
-            throw UsageError("--data: " + arguments.value("--data") + " can't be read");
+        bytesOf("--data", arguments.value("--data"));
     }
 }
 

@@ -1,15 +1,15 @@
 #include "desk/lisp/interpreter.h"
 
 #include "basic/code_page.h"
+#include "basic/path.h"
 #include "basic/text.h"
+#include "basic/text_file.h"
 #include "desk/lisp/automation.h"
 #include "desk/lisp/call.h"
 #include "desk/lisp/conversion.h"
 #include "desk/lisp/reader.h"
 
-#include <fstream>
 #include <numbers>
-#include <sstream>
 
 namespace lisp {
 
@@ -92,11 +92,7 @@ std::optional<std::filesystem::path> Interpreter::findFile(std::string_view name
 }
 
 Value Interpreter::load(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw basic::Error(basic::kFileNotFound, "File not found: " + file.string());
-    std::ostringstream bytes;
-    bytes << stream.rdbuf();
-    const std::string text = textOf(bytes.str());
+    const std::string text = textOf(basic::readBytes(basic::fromPath(file)));
     Reader reader(text, symbols_);
     Value value;
     while (true) {

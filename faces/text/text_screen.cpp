@@ -97,8 +97,13 @@ fs::path absolutePath(const std::string& folder, std::string_view typed) {
 /// What a desktop's file dialog would say about the path; empty for one that will do.
 std::string objection(const fs::path& path, forms::FileDialogMode mode) {
     std::error_code ignored;
-    if (fs::is_directory(path, ignored)) return path.string() + " is a folder";
+    const fs::file_type type = fs::status(path, ignored).type();
+    if (type == fs::file_type::directory) return path.string() + " is a folder";
+    // Opening a pipe would wait for its other end.
+    if (type == fs::file_type::fifo || type == fs::file_type::socket) return path.string() + " is a pipe";
     if (mode == forms::FileDialogMode::Open) {
+        if (type == fs::file_type::character || type == fs::file_type::block)
+            return path.string() + " is a device";
         return std::ifstream(path).is_open() ? "" : path.string() + " isn't there or can't be read";
     }
     if (!fs::is_directory(path.parent_path(), ignored)) {

@@ -109,6 +109,21 @@ std::string TextReader::readLine() {
     return line;
 }
 
+std::string readBytes(const std::string& path) {
+    std::ifstream file;
+    open(file, path, std::ios::in | std::ios::binary);
+    std::string bytes;
+    std::array<char, 65536> chunk;
+    do {
+        errno = 0;
+        file.read(chunk.data(), chunk.size());
+        if (file.bad()) raise(path, errno);
+        bytes.append(chunk.data(), static_cast<std::size_t>(file.gcount()));
+        if (bytes.size() > kLargestText) raiseAbout(kOutOfStringSpace, path);
+    } while (file);
+    return bytes;
+}
+
 TextWriter::TextWriter(const std::string& path, Mode mode) : path_(path) {
     open(file_, path,
          std::ios::out | std::ios::binary | (mode == Mode::Append ? std::ios::app : std::ios::trunc));

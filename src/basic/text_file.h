@@ -33,6 +33,12 @@ class TextReader {
     std::size_t position_ = 0;
 };
 
+/// The largest file that is read as a whole, in bytes.
+constexpr std::size_t kLargestText = std::size_t{256} << 20;
+
+/// The bytes of a whole file; one larger than kLargestText raises kOutOfStringSpace.
+std::string readBytes(const std::string& path);
+
 /// Writes lines, each ended by carriage return and line feed.
 class TextWriter {
   public:

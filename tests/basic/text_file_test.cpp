@@ -86,6 +86,17 @@ TEST_F(TextFile, RefusesAPipeAndADevice) {
     EXPECT_EQ(readError(path("pipe")), kPathFileAccess);
     EXPECT_EQ(writeError(path("pipe")), kPathFileAccess);
     EXPECT_EQ(readError("/dev/zero"), kPathFileAccess);
+    for (const std::string& name : {path("pipe"), std::string("/dev/zero"), folder_.path()})
+        EXPECT_EQ(errorOf([&] { readBytes(name); }), kPathFileAccess) << name;
+}
+
+TEST_F(TextFile, ReadsAWholeFileUpToALimit) {
+    const std::string bytes = std::string(70000, 'x') + "\n\xE9";
+    EXPECT_EQ(readBytes(write("a", bytes)), bytes);
+    EXPECT_EQ(readBytes(write("b", "")), "");
+    EXPECT_EQ(errorOf([&] { readBytes(path("none")); }), kFileNotFound);
+    fs::resize_file(path("b"), std::uintmax_t{1} << 34);
+    EXPECT_EQ(errorOf([&] { readBytes(path("b")); }), kOutOfStringSpace);
 }
 
 TEST_F(TextFile, WritesAndAppendsInTheCodePage) {

@@ -209,6 +209,27 @@ TEST(ImportOf, BlocksNestedTooDeepIsRefusedAndChangesNothing) {
     EXPECT_EQ(drawing->savedBytes(), before);
 }
 
+/// A drawing without block records lists each block as a finding, stays usable, and takes no block file.
+TEST(ImportOf, ATargetWithoutBlockRecordsSaysSo) {
+    std::string text = PlainDrawing(Kind::R2000).text();
+    const std::size_t table = text.find(groups("0 TABLE 2 BLOCK_RECORD"));
+    text.erase(table, text.find(groups("0 ENDTAB"), table) + groups("0 ENDTAB").size() - table);
+    const auto drawing = Drawing::parse(text, "no_records.dxf");
+    EXPECT_EQ(drawing->findings().size(), 5u);
+    for (const dxf::Finding& finding : drawing->findings()) EXPECT_EQ(finding.kind.code, "K6");
+    try {
+        importBlock(*drawing, *blockFile(Kind::R2000), "WINDOW");
+        ADD_FAILURE() << "it was brought in";
+    } catch (const basic::Error& error) {
+        EXPECT_TRUE(contains(error.description(), "no table of block records")) << error.description();
+    }
+    EXPECT_EQ(drawing->savedBytes(), text);
+    drawing->insertBlock(drawing->blocks().find("DOOR"), {1, 2, 3}, {1, 2, 1}, 0.5);
+    const auto saved = Drawing::parse(drawing->savedBytes(), "saved.dxf");
+    EXPECT_EQ(saved->entityCount(saved->modelSpace()), 1u);
+    EXPECT_EQ(saved->findings().size(), 5u);
+}
+
 TEST(ImportOf, ATargetGetsTheTablesThatItLacks) {
     const std::string text = groups("0 SECTION 2 HEADER 9 $ACADVER 1 AC1009 0 ENDSEC 0 EOF");
     PlainDrawing file(Kind::R12);

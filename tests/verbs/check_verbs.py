@@ -2,6 +2,7 @@
 """What the verbs promise about a user's files, on copies of the samples:  check_verbs.py VORLANE"""
 
 import json
+import os
 import shutil
 import signal
 import subprocess
@@ -23,13 +24,13 @@ class Verbs:
                 shutil.copy(sample, folder)
 
     def run(self, *words, code=0):
-        done = subprocess.run([self.vorlane, *words], cwd=self.folder, capture_output=True, text=True)
+        done = subprocess.run([self.vorlane, *words], cwd=self.folder, capture_output=True, text=True, timeout=120)
         self.hold(done.returncode == code, f"{' '.join(map(str, words))}: exit code {done.returncode}\n{done.stderr}")
         return done
 
     def script(self, lines, drawing="apartment.dxf", code=0):
         done = subprocess.run([self.vorlane, drawing, "--script", "-", "--fresh"], cwd=self.folder, input=lines,
-                              capture_output=True, text=True)
+                              capture_output=True, text=True, timeout=120)
         self.hold(done.returncode == code, f"{lines}: exit code {done.returncode}\n{done.stderr}")
         return done
 
@@ -187,6 +188,44 @@ def pictures_need_no_display(verbs):
     verbs.hold(len(verbs.bytes("erased.svg")) < len(verbs.bytes("pictures/apartment.svg")), "PICTURE shows unsaved changes")
 
 
+def names_may_look_like_options(verbs):
+    """Of drawings, data files, folders, pictures, block files, and in what other programs are started with."""
+    for name in ("--fresh", "-y", "--"):
+        shutil.copy(verbs.folder / "apartment.dxf", verbs.folder / f"{name}.dxf")
+        done = verbs.run(*REPLACE, "--out", f"{name}new.dxf", "--", f"{name}.dxf")
+        verbs.hold("16 replaced" in done.stdout, done.stdout)
+        verbs.run("extract", "--block", "PORTE_80", "--handles", f"--out={name}.csv", "--", f"{name}.dxf")
+        verbs.run("update", f"--data={name}.csv", "--dry-run", "--", f"{name}.dxf")
+        verbs.script(f"OPEN {name}.dxf\nSAVE {name}2.dxf\nVNINSERT\nBtnData\nfile {name}.csv\nBtnClose\n")
+        verbs.hold(verbs.bytes(f"{name}2.dxf") == verbs.bytes("apartment.dxf"), f"SAVE {name}2.dxf")
+        if (verbs.vorlane.parent / "vorlane-picture").exists():
+            verbs.run("picture", f"--out={name}.svg", "--", f"{name}.dxf")
+            verbs.script(f"PICTURE {name}2.svg\n")
+            verbs.hold(verbs.bytes(f"{name}2.svg").startswith(b"<?xml"), f"PICTURE {name}2.svg")
+        # A converter that takes what begins with a dash for an option.
+        converter = verbs.folder / "bin/dwg2dxf"
+        converter.parent.mkdir(exist_ok=True)
+        converter.write_text('#!/bin/sh\n[ "$1 $2" = "-y -o" ] && shift 2\n'
+                             'for word; do case $word in -*) echo option "$word"; exit 1; esac; done\ncp "$2" "$1"\n')
+        converter.chmod(0o755)
+        shutil.copy(verbs.folder / "apartment.dxf", verbs.folder / f"{name}.dwg")
+        path = {**os.environ, "PATH": f"{converter.parent}:{os.environ['PATH']}"}
+        done = subprocess.run([verbs.vorlane, "list", "--", f"{name}.dwg"], cwd=verbs.folder, env=path,
+                              capture_output=True, text=True)
+        verbs.hold(done.returncode == 0 and "PORTE_80" in done.stdout, f"{name}.dwg: {done}")
+
+
+def pipes_and_devices_are_no_files(verbs):
+    os.mkfifo(verbs.folder / "pipe.txt")
+    for name in ("pipe.txt", "/dev/zero"):
+        verbs.run("update", "--data", name, "apartment.dxf", "--dry-run", code=2)
+        verbs.run("insert", "--block", "PORTE_80", "--data", name, "apartment.dxf", "--dry-run", code=2)
+        verbs.run(*REPLACE, "--map-file", name, "apartment.dxf", "--dry-run", code=2)
+        verbs.run("list", name, code=1)
+        verbs.script(f"VNINSERT\nBtnData\nfile {name}\nBtnClose\n", code=1)
+    verbs.script("VNEXTRACT\nBtnSave\nfile pipe.txt\nBtnClose\n", code=1)
+
+
 def control_c_ends_between_drawings(verbs):
     names = []
     for number in range(60):
@@ -209,7 +248,7 @@ def main():
     checks = [files_are_safe, one_bad_drawing_stops_no_other, locked_layers_are_left, properties_are_taken_over, layouts_are_kept,
               attributes_find_partners,
               rows_that_fail, a_round_trip_changes_one_value, pictures_need_no_display,
-              control_c_ends_between_drawings]
+              control_c_ends_between_drawings, names_may_look_like_options, pipes_and_devices_are_no_files]
     for check in checks:
         with tempfile.TemporaryDirectory(prefix="vorlane-verbs-") as name:
             verbs = Verbs(Path(sys.argv[1]).resolve(), Path(name))
