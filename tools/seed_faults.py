@@ -2,13 +2,16 @@
 """Seeds one-line faults in rooms and tells which of them the tests don't notice.
 
     seed_faults.py ROOM... [--count N] [--seed N] [--file TEXT] [--tests NAME,NAME] [--acts NAME,NAME] [--looks N]
-                   [--quick] [--headers] [--list]
+                   [--quick] [--headers] [--list] [--again] [--survivors] [--copy NAME]
 
 A room is a name of cmake/RoomList.cmake. The tool works on a copy of the tree under build/seed (which stays, so that a second
-call builds little), builds there with one job, through ccache where it is installed, and never touches the tree itself. First it runs the rooms' test programs and all
-transcripts and notes which lines each of them reaches. Then it seeds one fault at a time: an operator turned, a constant
-changed, a condition negated, a statement dropped. Each fault is given to the tests that reach its line, the room's own first,
-then the quickest, until one fails. A fault that doesn't compile is replaced by another.
+call builds little), builds there with one job, through ccache where it is installed, and never touches the tree itself. First
+it runs the rooms' test programs and all transcripts and notes which lines each of them reaches. Then it seeds one fault at a
+time: an operator turned, a constant changed, a condition negated, a statement dropped. Each fault is given to the tests that
+reach its line, the room's own first, then the quickest, until one fails. A fault that doesn't compile is replaced by another.
+
+What was found out is kept in the copy's build folder: a run that was stopped goes on where it was, and a test whose sources
+stayed isn't asked again what it reaches. Verdicts are dropped by --again.
 
     --count N      so many faults in each room (30)
     --seed N       another choice of faults (1); the same seed on the same sources makes the same choice
@@ -18,16 +21,22 @@ then the quickest, until one fails. A fault that doesn't compile is replaced by 
     --looks N      at most so many tests look at a fault (all of them); a fault that outlives them counts as a survivor
     --quick        doesn't ask what the tests reach, for which it would build the rooms anew: all of them look at each fault
     --headers      faults in headers too: each rebuilds much
+    --again        tries every fault anew
+    --survivors    tries the earlier survivors anew: after tests were written for them
+    --copy NAME    works in build/NAME (seed): two runs side by side
     --list         prints the faults that would be seeded, and ends
 
 The exit code is 0 however many survive. A survivor may change nothing that can be seen: that is for you to judge."""
 
 import argparse
+import hashlib
 import json
 import os
 import random
 import re
+import resource
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -120,8 +129,8 @@ def choose(files, seed):
 class Copy:
     """The private copy of the tree with its build, and the tests in it."""
 
-    def __init__(self, rooms, more_tests, acts, quick):
-        self.top = ROOT / "build" / "seed"
+    def __init__(self, name, rooms, more_tests, acts, quick):
+        self.top = ROOT / "build" / name
         self.build = self.top / "build" / "test"
         self.acts = acts
         self.own = [name for name in dict.fromkeys([*rooms, *more_tests]) if any((ROOT / "tests" / name).glob("*.cpp"))]
@@ -130,6 +139,8 @@ class Copy:
         options = ["-DVORLANE_COVERAGE=" + ("" if quick else ";".join(rooms)), "-DVORLANE_WERROR=ON"]
         if shutil.which("ccache"):
             options.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
+            os.environ.update(CCACHE_BASEDIR=str(self.top), CCACHE_NOHASHDIR="1",
+                              CCACHE_SLOPPINESS="pch_defines,time_macros,include_file_mtime,include_file_ctime")
         subprocess.run(["cmake", "--preset", "test", *options], cwd=self.top, check=True, stdout=subprocess.DEVNULL)
 
     def refresh(self):
@@ -167,14 +178,18 @@ class Copy:
         return found
 
     def passes(self, command, limit):
+        """Whether a test passes in so many seconds and 4 GB; what it started ends with it."""
         for data in self.build.rglob("*.gcda"):
             data.unlink()
-        try:
-            done = subprocess.run(command, cwd=self.top, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                  stderr=subprocess.DEVNULL, timeout=limit)
-            return done.returncode in (0, 77)
-        except subprocess.TimeoutExpired:
-            return False
+        room = 4 << 30
+        with subprocess.Popen(command, cwd=self.top, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL, start_new_session=True,
+                              preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (room, room))) as test:
+            try:
+                return test.wait(limit) in (0, 77)
+            except subprocess.TimeoutExpired:
+                os.killpg(test.pid, signal.SIGKILL)
+                return False
 
     def reached(self):
         """The lines that the last test reached, by file: the sets of all lines that hold code and of those that ran."""
@@ -205,6 +220,34 @@ def reaches(lines, file, number):
     return bool(ran)
 
 
+class Known:
+    """What earlier runs found out, in a file that is written anew after each finding."""
+
+    def __init__(self, path):
+        self.path = path
+        self.found = json.loads(path.read_text(encoding="utf-8")) if path.exists() else {}
+
+    def get(self, key):
+        return self.found.get(key)
+
+    def put(self, key, value):
+        self.found[key] = value
+        new = self.path.with_suffix(".new")
+        new.write_text(json.dumps(self.found), encoding="utf-8")
+        new.replace(self.path)
+
+    def drop(self, unwanted):
+        self.found = {key: value for key, value in self.found.items() if not unwanted(value)}
+
+
+def digest(top, patterns):
+    """A digest of the files of a tree."""
+    found = hashlib.sha256()
+    for path in sorted({path for pattern in patterns for path in top.glob(pattern) if path.is_file()}):
+        found.update(str(path.relative_to(top)).encode() + b"\0" + path.read_bytes())
+    return found.hexdigest()
+
+
 class Reach:
     """What each test reaches, and how long it takes."""
 
@@ -214,13 +257,25 @@ class Reach:
         if not copy.make(sorted({target for name in self.tests for target in copy.targets(name)})):
             sys.exit("The tree doesn't build.")
         print(f"Running {len(self.tests)} tests without a fault", flush=True)
+        known = Known(copy.build / "reached.json")
+        flags = (copy.build / "CMakeCache.txt").read_text(encoding="utf-8")
+        rooms = re.findall(r"^VORLANE_COVERAGE.*", flags, re.M)
+        sources = digest(copy.top, ["src/**/*", "desk/**/*", "faces/text/*", "samples/*", "resources/**/*", "tests/acts/*.py"])
         for name, command in self.tests.items():
-            start = time.monotonic()
-            if not copy.passes(command, 900):
-                sys.exit(f"{name} fails without a fault.")
-            self.seconds[name] = time.monotonic() - start
-            if not quick:
-                self.lines[name] = copy.reached()
+            own = f"{name}/*" if name.startswith("tests/") else f"tests/{name}.*"
+            key = f"{name} {sources} {digest(copy.top, [own])} {rooms}"
+            if not known.get(key):
+                start = time.monotonic()
+                if not copy.passes(command, 900):
+                    sys.exit(f"{name} fails without a fault.")
+                seconds = time.monotonic() - start
+                lines = {} if quick else copy.reached()
+                known.drop(lambda value: value["test"] == name)
+                known.put(key, {"test": name, "seconds": seconds,
+                                "lines": [[str(path), *map(sorted, sets)] for path, sets in lines.items()]})
+            found = known.get(key)
+            self.seconds[name] = found["seconds"]
+            self.lines[name] = {Path(path): (set(code), set(ran)) for path, code, ran in found["lines"]}
 
     def of(self, room, file, number):
         """The tests that reach a line, in the order in which they are to look."""
@@ -233,35 +288,50 @@ class Reach:
         for name in names:
             if not self.copy.make(self.copy.targets(name)):
                 return None
-            if not self.copy.passes(self.tests[name], 20 + 10 * self.seconds[name]):
+            if not self.copy.passes(self.tests[name], 20 + 5 * self.seconds[name]):
                 return name
         return ""
 
 
-def seed_room(room, reach, chosen, count, looks):
+def verdict_on(fault, reach, room, looks):
+    """Seeds a fault: the test that caught it, "" and how many ran in vain, or None if it doesn't compile."""
+    file, number, _, new = fault
+    original = file.read_text(encoding="utf-8")
+    able = reach.of(room, file, number)[:looks]
+    if not able:
+        return ["", 0]
+    text = original.splitlines(True)
+    text[number - 1] = new
+    try:
+        file.write_text("".join(text), encoding="utf-8")
+        return [reach.catcher(able), len(able)]
+    finally:
+        file.write_text(original, encoding="utf-8")
+
+
+def seed_room(room, reach, known, chosen, count, looks):
     """Seeds faults until `count` of them compiled; how many were caught, and the report's entries for the others."""
     copy, caught, survivors = reach.copy, 0, []
-    for file, number, what, new in chosen:
+    for fault in chosen:
+        file, number, what, new = fault
         if caught + len(survivors) >= count:
             break
-        original = file.read_text(encoding="utf-8")
-        able, catcher = reach.of(room, file, number)[:looks], ""
-        if able:
-            text = original.splitlines(True)
-            text[number - 1] = new
-            file.write_text("".join(text), encoding="utf-8")
-            catcher = reach.catcher(able)
-            file.write_text(original, encoding="utf-8")
-            if catcher is None:
-                continue
-        where = f"{file.relative_to(copy.top)}:{number}: {what}"
+        lines, name = file.read_text(encoding="utf-8").splitlines(), file.relative_to(copy.top)
+        old = lines[number - 1].strip()
+        key = f"{name}: {old} -> {new.strip()} ({lines[:number].count(lines[number - 1])})"
+        if not known.get(key):
+            known.put(key, verdict_on(fault, reach, room, looks))
+        catcher, looked = known.get(key)
+        if catcher is None:
+            continue
+        where = f"{name}:{number}: {what}"
         if catcher:
             caught += 1
             print(f"caught    {where}  ({catcher})", flush=True)
         else:
-            reason = f"{len(able)} tests run it" if able else "no test runs it"
-            survivors.append(f"{where}  ({reason})\n    - {original.splitlines()[number - 1].strip()}\n    + {new.strip()}")
-            print(f"SURVIVED  {where}  ({reason})", flush=True)
+            reason = f"{looked} tests run it" if looked else "no test runs it"
+            survivors.append(f"{where}  ({reason})\n    - {old}\n    + {new.strip()}")
+            print(f"SURVIVED  {survivors[-1]}", flush=True)
     return caught, survivors
 
 
@@ -276,15 +346,20 @@ def main():
     parser.add_argument("--looks", type=int)
     parser.add_argument("--quick", action="store_true")
     parser.add_argument("--headers", action="store_true")
+    parser.add_argument("--again", action="store_true")
+    parser.add_argument("--survivors", action="store_true")
+    parser.add_argument("--copy", default="seed")
     parser.add_argument("--list", action="store_true")
     given = parser.parse_args()
     table = rooms()
     for room in given.rooms:
         if room not in table:
             sys.exit(f"No room {room}; there are {', '.join(table)}.")
-    os.nice(10)
-    copy = Copy(given.rooms, [name for name in given.tests.split(",") if name], tuple(given.acts.split(",")), given.quick)
+    os.nice(5)
+    copy = Copy(given.copy, given.rooms, [name for name in given.tests.split(",") if name], tuple(given.acts.split(",")), given.quick)
     reach = None if given.list else Reach(copy, given.quick)
+    known = Known(copy.build / "verdicts.json")
+    known.drop(lambda verdict: given.again or (given.survivors and verdict[0] == ""))
     report = []
     for room in given.rooms:
         files = [file for file in sorted((copy.top / table[room][0]).glob("*.[ch]*"))
@@ -294,7 +369,7 @@ def main():
             for file, number, what, new in chosen[: given.count]:
                 print(f"{file.relative_to(copy.top)}:{number}: {what}\n    {new.strip()}")
             continue
-        caught, survivors = seed_room(room, reach, chosen, given.count, given.looks)
+        caught, survivors = seed_room(room, reach, known, chosen, given.count, given.looks)
         total = caught + len(survivors)
         report += [f"{room}: caught {caught} of {total} faults ({100 * caught // max(total, 1)} %)", *survivors]
         print(report[-1 - len(survivors)], flush=True)
