@@ -149,7 +149,6 @@ void StatusLine::showCounts(std::size_t notDrawn, std::size_t hidden) {
 void StatusLine::showCursor(double x, double y) {
     cursor_->setText(QString::number(x, 'f', 4) + ", " + QString::number(y, 'f', 4));
 }
-void StatusLine::hideCursor() { cursor_->clear(); }
 
 void StatusLine::setSwitches(bool snap, bool ortho, bool weights) {
     const QSignalBlocker quiet[] = {QSignalBlocker(snap_), QSignalBlocker(ortho_), QSignalBlocker(weights_)};

@@ -27,7 +27,6 @@ class StatusLine : public QWidget {
     void showHint(const QString& text);
     void showCounts(std::size_t notDrawn, std::size_t hidden);
     void showCursor(double x, double y);
-    void hideCursor();
     void setSwitches(bool snap, bool ortho, bool weights);
     void setBlocked(bool blocked);
     /// What takes more than a second: text, share done (below 0: not known) and a button that gives up.
