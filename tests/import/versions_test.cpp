@@ -161,5 +161,61 @@ TEST(ImportVersions, WhatNamesSomethingFollowsOrGoes) {
         "0=SEQEND|8=0|\n");
 }
 
+/// A drawing with a layer, a linetype, a text style and a dimension style of its own, which one text and one
+/// dimension use.
+std::unique_ptr<Drawing> withTables(bool old) {
+    PlainDrawing plain(old ? Kind::R12 : Kind::R2000);
+    plain.layer("80", "OWN 70 5 62 -3 6 DASH 290 0 370 30 390 F 347 E 420 255 1001 ACAD 1000 x");
+    plain.entity("TEXT 5 60 100 AcDbEntity 8 OWN 100 AcDbText 7 TALL 1 a 100 AcDbText");
+    plain.entity("DIMENSION 5 61 100 AcDbEntity 8 0 100 AcDbDimension 2 *D1 70 0 3 METRIC");
+    std::string text = plain.text();
+    const auto insert = [&](const std::string& behind, const std::string& words) {
+        text.insert(text.find(groups(behind)), groups(words, old));
+    };
+    insert("0 LTYPE",
+           "0 LTYPE 5 81 102 {X 360 F 102 } 330 5 100 AcDbSymbolTableRecord 100 AcDbLinetypeTableRecord "
+           "2 DASH 70 0 3 __ 72 65 73 1 40 2.0 49 1.5 74 0");
+    insert("0 STYLE",
+           "0 STYLE 5 82 100 AcDbSymbolTableRecord 100 AcDbTextStyleTableRecord 2 TALL 70 0 40 9.0 3 a.shx");
+    insert("0 ENDSEC 0 SECTION 2 BLOCKS",
+           std::string("0 TABLE 2 DIMSTYLE") + (old ? "" : " 5 A 330 0 100 AcDbSymbolTable") +
+               " 70 1 0 DIMSTYLE" +
+               (old ? " 2 METRIC 70 0 3 mm 5 ARROW 6 A 7 B"
+                    : " 105 83 330 A 100 AcDbSymbolTableRecord 100 "
+                      "AcDbDimStyleTableRecord 2 METRIC 70 0 3 mm 340 82 371 9") +
+               " 40 2.5 140 3.5 170 1 278 44 0 ENDTAB");
+    return Drawing::parse(text, "tables.dxf");
+}
+
+TEST(ImportVersions, TablesComeWithWhatTheReleaseKnows) {
+    const auto entries = [](const char* to, bool old) {
+        const auto target = released(to);
+        importBlock(*target, *withTables(old), "NEW");
+        const std::string text = target->savedBytes();
+        std::string told;
+        dxf::TagReader reader({text, &target->format(), {}}, 0, text.size());
+        bool own = false;
+        for (dxf::Tag tag; reader.next(tag);) {
+            if (tag.code == 0) own = false;
+            if (own || (tag.code == 2 && (tag.raw == "OWN" || tag.raw == "DASH" || tag.raw == "TALL" ||
+                                          tag.raw == "METRIC"))) {
+                told += (own ? "" : "\n") + std::to_string(tag.code) + "=" + tag.text() + "|";
+                own = true;
+            }
+        }
+        return told;
+    };
+    const std::string dash = "\n2=DASH|70=0|3=__|72=65|73=1|40=2.0|49=1.5|",
+                      own = "\n2=OWN|70=5|62=-3|6=DASH|";
+    const std::string young = dash + "74=0|" + own + "290=0|370=30|", tall = "\n2=TALL|70=0|40=9.0|3=a.shx|";
+    const std::string metric = "\n2=METRIC|70=0|3=mm|", sizes = "40=2.5|140=3.5|170=1|";
+    EXPECT_EQ(entries("AC1015", false), young + tall + metric + "340=106|371=9|" + sizes + "278=44|");
+    EXPECT_EQ(entries("AC1018", false),
+              young + "420=255|" + tall + metric + "340=106|371=9|" + sizes + "278=44|");
+    EXPECT_EQ(entries("AC1015", true), young + tall + metric + sizes + "278=44|");
+    for (const bool old : {false, true})
+        EXPECT_EQ(entries("AC1009", old), dash + own + tall + metric + sizes);
+}
+
 }  // namespace
 }  // namespace importing
