@@ -41,7 +41,6 @@ struct MultiLeader {
         std::vector<std::vector<Point3>> lines;
     };
     std::vector<Leader> leaders;
-    double scale = 1;
     double arrowSize = 0;
     std::string text;
     Point3 textPosition;
@@ -79,7 +78,6 @@ class MultiLeaderReader {
     }
     void takeContext(const dxf::Tag& tag) {
         if (takePoint(tag, 12, result.textPosition) || takePoint(tag, 13, result.textDirection)) return;
-        if (tag.code == 40) result.scale = tag.numberOr(1);
         if (tag.code == 41) result.format.height = tag.numberOr(1);
         if (tag.code == 43) result.format.width = tag.numberOr(0);
         if (tag.code == 45) result.format.spacing = tag.numberOr(1);
@@ -263,7 +261,7 @@ Geometry readLeaderArrow(const Drawing& drawing, EntityId id) {
 std::vector<TextPiece> readExtraTexts(const Drawing& drawing, const TextStyles& styles, EntityId id) {
     const std::string_view type = drawing.type(id);
     if (type == "TOLERANCE") return readTolerance(drawing, id).texts;
-    if (type != "MULTILEADER" && type != "MLEADER") return {};
+    if (type != "MULTILEADER") return {};
     MultiLeader leader = readContext(drawing.tags(id));
     if (leader.text.empty() || !(leader.format.height > 0)) return {};
     leader.format.font = styles.find("").font;

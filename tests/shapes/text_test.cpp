@@ -20,6 +20,13 @@ std::string laidOut(const std::string& content, double width = 0, int column = 0
         if (piece.frame.yAxis.y != 1) result += "h" + hundredths(piece.frame.yAxis.y);
         if (piece.underlined) result += "u";
         if (piece.overlined) result += "o";
+        if (piece.struckOut) result += "k";
+        if (piece.font.bold) result += "b";
+        if (piece.font.italic) result += "i";
+        if (piece.font.kind != TextFont::Kind::Sans)
+            result += piece.font.kind == TextFont::Kind::Mono ? "M" : "S";
+        if (piece.frame.xAxis.x != piece.frame.yAxis.y) result += "w" + hundredths(piece.frame.xAxis.x);
+        if (piece.frame.yAxis.x != 0) result += "q" + hundredths(piece.frame.yAxis.x);
         if (piece.color) result += "c" + std::to_string(*piece.color & 0xFFFFFF);
         result += " ";
     }
@@ -34,6 +41,38 @@ TEST(MTextTest, CodesParagraphsAndWrapping) {
     EXPECT_EQ(laidOut("AAA", 10, 2), "AAA@721,-100 ");
     EXPECT_EQ(laidOut("\\A1;%%d\\U+00E9"), "\u00B0@0,-100 \u00E9@84,-100 ");
     EXPECT_EQ(laidOut("\\S1/2;"), "1@0,-35h70 2@0,-135h70o ");
+}
+
+TEST(MTextTest, EachCodeSetsWhatFollowsInItsBraces) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"\\fArial|b1|i1|c0;A\\FTimes;A\\fCourier New|b0|i0;A", "A@0,-100bi A@99,-100S A@189,-100M "},
+        {"\\W2;A\\W0.5x;A\\W0;A", "A@0,-100w200 A@186,-100 A@279,-100 "},
+        {"\\T2;AA\\T1;A", "AA@0,-100 A@373,-100 "},
+        {"\\Q45;A", "A@0,-100q100 "},
+        {"\\C0;A\\C256;A\\C255;A", "A@0,-100 A@93,-100 A@186,-100c255 "},
+        {"\\c255;A\\c16711680;A\\c65280;A", "A@0,-100c16711680 A@93,-100c255 A@186,-100c65280 "},
+        {"\\OA\\oB\\KA\\kB", "A@0,-100o B@93,-100 A@186,-100k B@279,-100 "},
+        {"{\\LA{\\HB;B}C}D", "A@0,-100u B@93,-100u C@186,-100u D@287,-100 "},
+        {"}A", "A@0,-100 "},
+        {"A^IB^JC^D", "A@0,-100 B@493,-100 C@0,-267 ^@101,-267 D@166,-267 "},
+        {"A\tB\nC", "A@0,-100 B@493,-100 C@0,-267 "},
+        {"\\S1^2;A", "1@0,-35h70 2@0,-135h70 A@54,-100 "},
+        {"\\S1#22;", "1@27,-35h70 22@0,-135h70o "},
+        {"\\SA", "A@0,-35h70 "},
+        {"\\pi1,l2;A\\PB", "A@300,-100 B@300,-267 "},
+        {"\\pqc;A\\pqr;B\\PC", "A@407,-100 B@500,-100 C@899,-267 "},
+        {"\\pxqc;A", "A@453,-100 "},
+        {"\\pqj,t5;A", "A@0,-100 "},
+        {"\\H0.5;A\\H2;A\\PA", "A@0,-200h50 A@47,-200h200 A@0,-533h200 "},
+        {"A\\XB\\NC\\", "A@0,-100 B@0,-267 C@0,-433 \\@101,-433 "},
+        {"%%C%%p%%%%%065A", "\u2300@0,-100 \u00B1@84,-100 %@168,-100 A@292,-100 A@385,-100 "},
+        {"%%7\\U+41", "%@0,-100 %@124,-100 7@248,-100 U@326,-100 +41@427,-100 "},
+        {"\\LA B\\l C", "A@0,-100u  @93,-100u B@132,-100u C@264,-100 "},
+    };
+    for (const auto& [text, told] : rows) EXPECT_EQ(laidOut(text, 10), told) << text;
+    EXPECT_EQ(laidOut("A", 10, 1), "A@453,-100 ");
+    EXPECT_EQ(laidOut("AAA\\pqc;  AAA AAA", 4), "AAA@0,-100 AAA@60,-267 AAA@60,-433 ");
+    EXPECT_EQ(laidOut("AAAAAAAA A", 4), "AAAAAAAA@0,-100 A@0,-267 ");
 }
 
 TEST(LineTextTest, PiecesStandWhereTheTextIsAlignedAndFollowItsCodes) {
