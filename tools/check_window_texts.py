@@ -11,7 +11,7 @@ STRING = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 CALL = re.compile(r'\b(?:tr|text|QT_TR_NOOP|QT_TRANSLATE_NOOP)\(\s*(?:"window",\s*)?' + STRING)
 # Texts that reach the translation by a table: labels of properties, names of colours.
 TABLES = {
-    "property_rows.cpp": re.compile(r'(?:add\(|\{)\s*' + STRING + r',\s*(?:PropertyEdit|figure|QString|\[)'),
+    "property_rows.cpp": re.compile(r'(?:add\(|\{)\s*' + STRING + r',\s*(?:PropertyEdit|figure|QString|qt_face::|\[)'),
     "color_choice.cpp": re.compile(r'(?<=[{,])\s*' + STRING + r'(?=[,}])'),
 }
 PLACEHOLDER = re.compile(r"%\d|%n")
