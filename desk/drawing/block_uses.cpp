@@ -42,7 +42,7 @@ bool BlockUses::mayGo(BlockId block) const {
 
 void BlockUses::findHomes() {
     for (EntityId id = 0; id < store_.count(); ++id) {
-        const Record& record = store_.record(id);
+        const Record record = store_.record(id);
         if (record.has(kObject)) {
             homes_[id] = kUnknownHome;
         } else if (record.owner != kNoBlock) {
@@ -81,7 +81,7 @@ void BlockUses::use(BlockId user, BlockId used) {
 }
 
 void BlockUses::readUses(EntityId id) {
-    const Record& record = store_.record(id);
+    const Record record = store_.record(id);
     const BlockTable& blocks = drawing_.blocks();
     const BlockId user = homes_[id];
     const bool isEntity = record.owner != kNoBlock && !record.has(kPart) && !record.has(kObject);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -11,13 +12,17 @@ namespace drawing {
 /// Room for the bytes of new and changed entities. Pieces never move; released ones are given out again.
 class ByteArena {
   public:
+    /// Where a piece stands, below 2^40: the number of its chunk, and the place in there.
+    using Place = std::uint64_t;
+
     /// A copy of `bytes` that stays where it is.
-    const char* store(std::string_view bytes);
+    Place store(std::string_view bytes);
     /// Overwrites a piece of `oldSize` bytes where the new ones fit into its room, else releases it and
     /// stores anew.
-    const char* replace(const char* old, std::size_t oldSize, std::string_view bytes);
+    Place replace(Place old, std::size_t oldSize, std::string_view bytes);
     /// Gives the room of a piece of `size` bytes back.
-    void release(const char* bytes, std::size_t size);
+    void release(Place place, std::size_t size);
+    const char* at(Place place) const { return chunks_[place / kChunk].get() + place % kChunk; }
     /// Bytes taken from the system.
     std::size_t capacity() const { return capacity_; }
 
@@ -27,13 +32,14 @@ class ByteArena {
     static constexpr std::size_t kChunk = std::size_t{1} << 18;
 
     static std::size_t room(std::size_t size) { return (size + kGrain - 1) / kGrain * kGrain; }
-    char* allocate(std::size_t size);
+    Place allocate(std::size_t size);
+    void write(Place place, std::string_view bytes);
 
     std::vector<std::unique_ptr<char[]>> chunks_;
-    char* free_ = nullptr;  ///< what is left of the last chunk
+    Place free_ = 0;  ///< what is left of the chunk begun last
     std::size_t left_ = 0;
     std::size_t capacity_ = 0;
-    std::array<std::vector<char*>, kClasses> released_;  ///< rooms by size in grains
+    std::array<std::vector<Place>, kClasses> released_;  ///< rooms by size in grains
 };
 
 }  // namespace drawing

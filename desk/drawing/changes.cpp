@@ -25,7 +25,7 @@ Changes Drawing::changesSince(std::uint64_t place) const {
     for (std::uint64_t i = 0; i < count && !changes.everything; ++i) {
         EntityId id = touched[i];
         if (store_->record(id).has(kPart)) id = store_->record(id).owner;
-        const Record& record = store_->record(id);
+        const Record record = store_->record(id);
         if (record.owner != kNoBlock) {
             if (blocks_[record.owner].isLayout()) {
                 changes.entities.push_back(id);

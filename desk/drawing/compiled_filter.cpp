@@ -158,7 +158,7 @@ bool CompiledFilter::passes(EntityId id, const Node& node) const {
 bool CompiledFilter::passes(EntityId id, const Test& test) const {
     if (test.relation == Relation::Anything) return true;
     // What the record holds needs no look at the entity's bytes.
-    const Record& record = store_.record(id);
+    const Record record = store_.record(id);
     switch (test.code) {
         case 0:
             return matches(test, store_.typeName(record.type));

@@ -207,7 +207,7 @@ InsertData Drawing::insert(EntityId id) const {
 
 std::string Drawing::name(EntityId id) const {
     requireAlive(id);
-    const Record& record = store_->record(id);
+    const Record record = store_->record(id);
     if (record.type == kInsert) {
         const BlockId block = referencedBlock(id);
         if (block != kNoBlock) return blocks_[block].name;

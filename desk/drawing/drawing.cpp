@@ -26,7 +26,7 @@ std::vector<EntityId> Drawing::tableEntries(std::string_view type) const {
     std::vector<EntityId> result;
     const std::uint16_t wanted = store_->findType(type);
     for (EntityId id = 0; wanted != kNoType && id < store_->count(); ++id) {
-        const Record& record = store_->record(id);
+        const Record record = store_->record(id);
         if (record.type == wanted && record.has(kTableEntry) && !isErased(id)) result.push_back(id);
     }
     return result;
@@ -49,7 +49,7 @@ std::string_view Drawing::typeEvenErased(EntityId id) const {
 
 std::string Drawing::objectName(EntityId id) const {
     requireAlive(id);
-    const Record& record = store_->record(id);
+    const Record record = store_->record(id);
     const std::string_view type = store_->typeName(record.type);
     int flags = 0;
     int columns = 1;
@@ -90,13 +90,13 @@ EntityId Drawing::byHandle(Handle handle) const {
 }
 
 BlockId Drawing::owner(EntityId id) const {
-    const Record& record = store_->record(mainEntity(id));
+    const Record record = store_->record(mainEntity(id));
     return record.owner;
 }
 
 EntityId Drawing::mainEntity(EntityId id) const {
     requireAlive(id);
-    const Record& record = store_->record(id);
+    const Record record = store_->record(id);
     return record.has(kPart) ? record.owner : id;
 }
 
@@ -108,8 +108,9 @@ PartRange Drawing::parts(EntityId id) const {
 std::vector<EntityId> Drawing::attributes(EntityId id) const {
     requireAlive(id);
     std::vector<EntityId> found;
-    found.reserve(store_->record(id).parts);
-    for (EntityId part = id + 1; part <= id + store_->record(id).parts; ++part) {
+    const std::uint32_t parts = store_->record(id).parts;
+    found.reserve(parts);
+    for (EntityId part = id + 1; part <= id + parts; ++part) {
         if (store_->record(part).type == kAttrib) found.push_back(part);
     }
     return found;
@@ -117,7 +118,7 @@ std::vector<EntityId> Drawing::attributes(EntityId id) const {
 
 std::string_view Drawing::bytes(EntityId id) const {
     requireAlive(id);
-    return store_->record(id).view();
+    return store_->view(id);
 }
 
 BlockId Drawing::referencedBlock(EntityId id) const {

@@ -27,7 +27,7 @@ void Drawing::requireEditable(EntityId id) const {
 }
 
 void Drawing::applyEdit(EntityId id, TagEdit& edit) {
-    const std::string_view before = store_->record(id).view();
+    const std::string_view before = store_->view(id);
     const std::string_view after = edit.apply(before);
     if (after == before) return;
     store_->setBytes(id, after);
@@ -90,7 +90,7 @@ void Drawing::moveAttributes(EntityId id, const Placement& from, const Placement
             edit.point(210, kTextPart, data.common.extrusion);
         applyEdit(part, edit);
         if (!before.multiLine) continue;
-        store_->setBytes(part, withEmbeddedPosition(format(), store_->record(part).view(),
+        store_->setBytes(part, withEmbeddedPosition(format(), store_->view(part),
                                                     ocsToWcs(data.position, data.common.extrusion)));
     }
 }
@@ -120,7 +120,7 @@ void Drawing::setAttributeText(EntityId id, std::string_view text) {
     const UndoStep step(*this);
     TagEdit& edit = store_->freshEdit();
     edit.text(1, kTextPart, text);
-    const std::string_view before = store_->record(id).view();
+    const std::string_view before = store_->view(id);
     const TextPlace place = findText(format(), before);
     if (!place.isEmbedded && beginsByWidth(place.horizontal)) {
         const AttribData data = attribute(id);
@@ -133,7 +133,7 @@ void Drawing::setAttributeText(EntityId id, std::string_view text) {
         noteChange();
     }
     if (!place.isEmbedded) return;
-    store_->setBytes(id, withEmbeddedText(format(), store_->record(id).view(), text));
+    store_->setBytes(id, withEmbeddedText(format(), store_->view(id), text));
 }
 
 void Drawing::setText(EntityId id, int code, std::string_view subclass, std::string_view value) {
@@ -179,14 +179,12 @@ void Drawing::refreshRecord(EntityId id) {
             fresh.set(kInvisible, tag.integerOr(0) != 0);
         }
     }
-    const Record& before = store_->record(id);
+    const Record before = store_->record(id);
     const bool indexed = !before.has(kPart) && before.owner != kNoBlock && blocks_[before.owner].isLayout();
     const bool renamed = before.name != fresh.name;
     if (indexed && renamed) store_->unindexName(id);
-    Record& record = store_->change(id);
-    record.layer = fresh.layer;
-    record.name = fresh.name;
-    record.set(kInvisible, fresh.has(kInvisible));
+    store_->setNames(id, fresh.layer, fresh.name);
+    store_->change(id).set(kInvisible, fresh.has(kInvisible));
     if (indexed && renamed) store_->indexName(id);
 }
 

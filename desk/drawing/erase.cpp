@@ -5,7 +5,7 @@ namespace drawing {
 
 void Drawing::erase(EntityId id) {
     requireEditable(id);
-    const Record& record = store_->record(id);
+    const Record record = store_->record(id);
     const bool isEntity = record.owner != kNoBlock && record.type != kSeqEnd && record.type != kVertex &&
                           record.type != kBlockBegin && record.type != kBlockEnd;
     if (!isEntity) raise(kNotApplicable, std::string(type(id)));

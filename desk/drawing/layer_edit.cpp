@@ -39,7 +39,7 @@ void Drawing::setLayerState(std::string_view name, const LayerState& state) {
 
 void Drawing::refreshLayers(const StepLog& log) {
     for (const auto& [id, before] : log.records) {
-        const Record& record = store_->record(id);
+        const Record record = store_->record(id);
         if (record.type != kLayerEntry) continue;
         Layer* layer = layers_.find(store_->names.key(record.name));
         if (layer != nullptr && layer->record == id) layer->readState(store_->reader(id));

@@ -31,8 +31,7 @@ void Drawing::moveToSpace(EntityId id, BlockId space) {
         }
         applyEdit(each, edit);
     }
-    Record& record = store_->change(id);
-    record.set(kPaperSpace, paper);
+    store_->change(id).set(kPaperSpace, paper);
     changeSpace(id, space);
     noteChange();
 }

@@ -183,7 +183,7 @@ void Opener::value(const dxf::Tag& tag) {
 void Opener::endObject() {
     if (!inObject_) return;
     inObject_ = false;
-    // A record counts its bytes in 32 bits, which keeps it at 48 bytes in all.
+    // A record counts its bytes in 32 bits, which keeps it small.
     const char* const end = store_.source().bytes().data() + lastEnd_;
     const auto size = static_cast<std::size_t>(end - record_.bytes);
     if (size > std::numeric_limits<std::uint32_t>::max()) {
@@ -210,7 +210,7 @@ void Opener::attach(EntityId id, Record& record) {
         if (fits) {
             record.set(kPart);
             record.owner = main_;
-            ++store_.whileReading(main_).parts;
+            store_.countPartWhileReading(main_);
             partsOpen_ = record.type != kSeqEnd;
             if (!partsOpen_) main_ = kNoEntity;
             return;
@@ -239,13 +239,13 @@ bool Opener::attachText(EntityId id, Record& record) {
     if (!follows) return false;
     record.set(kPart);
     record.owner = main_;
-    ++store_.whileReading(main_).parts;
+    store_.countPartWhileReading(main_);
     return true;
 }
 
 void Opener::endParts() {
     if (main_ != kNoEntity && partsOpen_) {
-        const Record& main = store_.record(main_);
+        const Record main = store_.record(main_);
         scanner_.report(offsetOf(main_), main.handle, dxf::finding::kNoPartsEnd,
                         "the SEQEND of this " + std::string(kTypeNames[main.type]) + " is missing");
     }

@@ -49,7 +49,7 @@ void Opener::readTables() {
     readHandles();
     addSpaces();
     for (EntityId id = 0; id < store_.count(); ++id) {
-        const Record& record = store_.record(id);
+        const Record record = store_.record(id);
         if (!record.has(kTableEntry)) continue;
         if (record.type == kBlockRecord) addBlockRecord(id);
         if (record.type == kLayerEntry) addLayer(id);
@@ -97,7 +97,7 @@ void Opener::addSpaces() {
         paper = paper || isActivePaperName(name);
     };
     for (EntityId id = 0; id < store_.count(); ++id) {
-        const Record& record = store_.record(id);
+        const Record record = store_.record(id);
         if (record.has(kTableEntry) && record.type == kBlockRecord) note(id);
     }
     for (const BlockRange& range : blockRanges_) note(range.begin);
@@ -228,10 +228,10 @@ void Opener::fillSpaces() {
 
 void Opener::addToBlock(BlockId id, EntityId entity) {
     // A stray attribute or vertex is kept in the file, but belongs to nothing that could show it.
-    Record& record = store_.whileReading(entity);
+    const Record record = store_.record(entity);
     if (record.has(kPart) || record.has(kStray)) return;
     Block& block = drawing_->blocks_[id];
-    record.owner = id;
+    store_.setOwnerWhileReading(entity, id);
     block.entities.push_back(entity);
     // Only references that a space shows are selected by name and counted; those inside of definitions come
     // along with them.

@@ -13,13 +13,12 @@ std::string Drawing::redoName() const { return canRedo() ? store_->undone_.back(
 UndoneStep Drawing::undoneStep(const StepLog& log) const {
     UndoneStep undone;
     for (const auto& [id, before] : log.records) {
-        const Record& record = store_->records_[id];
-        const bool owns = record.bytes != before.bytes;
-        undone.records.push_back({id, record, owns ? std::string(record.view()) : std::string(), owns});
+        const PackedRecord& record = store_->records_[id];
+        const bool owns = !record.sharesBytes(before);
+        undone.records.push_back({id, record, owns ? std::string(store_->view(id)) : std::string(), owns});
     }
     for (EntityId id = log.firstNew; id < store_->count(); ++id) {
-        const Record& record = store_->records_[id];
-        undone.records.push_back({id, record, std::string(record.view()), true});
+        undone.records.push_back({id, store_->records_[id], std::string(store_->view(id)), true});
     }
     for (const auto& [id, before] : log.blocks) undone.blocks.emplace_back(id, blocks_[id]);
     for (const NameKey name : log.layers) undone.layers.emplace_back(name, layers_[name]);
@@ -62,14 +61,15 @@ bool Drawing::redo() {
 void Drawing::redoRecords(UndoneStep& undone) {
     for (UndoneStep::After& after : undone.records) {
         store_->journal.note(after.id);
-        Record& record = store_->records_[after.id];
+        PackedRecord& record = store_->records_[after.id];
         const bool isNew = after.id >= undone.log.firstNew;
         const bool isMain = !after.record.has(kPart) && after.record.owner != kNoBlock;
-        const bool renamed = !isNew && isMain && record.name != after.record.name;
+        const bool renamed =
+            !isNew && isMain && store_->unpack(record).name != store_->unpack(after.record).name;
         if (renamed) store_->unindexName(after.id);
         if (!isNew && isMain && record.owner != after.record.owner) changeSpace(after.id, after.record.owner);
         record = after.record;
-        if (after.ownsBytes) record.bytes = after.bytes.empty() ? nullptr : store_->arena_.store(after.bytes);
+        if (after.ownsBytes) record.setPlace(store_->arena_.store(after.bytes), true);
         const bool appears = isNew && isMain && blocks_[record.owner].isLayout() && !record.has(kErased);
         if (renamed || appears) store_->indexName(after.id);
     }

@@ -86,13 +86,12 @@ void SavePlan::patchRecords() {
     // place. Parts need no care of their own, they have records like any other.
     bool anyErased = false;
     for (EntityId id = 0; id < store_.fileCount(); ++id) {
-        const Record& record = store_.record(id);
         const bool erased = store_.isErased(id);
         anyErased = anyErased || erased;
-        if (!erased && !record.has(kChanged)) continue;
+        if (!erased && !store_.record(id).has(kOwnBytes)) continue;
         const FileRange range = store_.fileRange(id);
         beginPatch(range.begin, range.end);
-        if (!erased) addPiece(record.view());
+        if (!erased) addPiece(store_.view(id));
     }
     if (!anyErased) return;
     for (EntityId id = 0; id < store_.fileCount(); ++id) {
@@ -105,7 +104,7 @@ void SavePlan::patchGroup(EntityId id) {
     constexpr int kMember = 340;
     std::string kept;
     bool lost = false;
-    const std::string_view bytes = store_.record(id).view();
+    const std::string_view bytes = store_.view(id);
     dxf::TagReader reader = store_.reader(id);
     for (dxf::Tag tag; reader.next(tag);) {
         const EntityId member = tag.code == kMember ? store_.handles.find(tag.handle()) : kNoEntity;
@@ -124,7 +123,7 @@ void SavePlan::patchGroup(EntityId id) {
 
 void SavePlan::addRecord(EntityId id) {
     for (EntityId each = id; each <= id + store_.record(id).parts; ++each) {
-        if (!store_.isErased(each)) addPiece(store_.record(each).view());
+        if (!store_.isErased(each)) addPiece(store_.view(each));
     }
 }
 

@@ -8,7 +8,7 @@ namespace drawing {
 namespace {
 
 bool isInSpace(const Drawing& drawing, EntityId id) {
-    const Record& record = Inside::store(drawing).record(id);
+    const Record record = Inside::store(drawing).record(id);
     return !record.has(kPart) && record.owner != kNoBlock && drawing.blocks()[record.owner].isLayout() &&
            !record.has(kErased);
 }

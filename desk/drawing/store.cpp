@@ -6,8 +6,9 @@ namespace drawing {
 
 namespace {
 
-/// A guess from real drawings; a vector that needs more grows.
-constexpr std::size_t kBytesPerRecord = 160;
+/// Room for the records of nearly any drawing: growing costs a copy, while room that nobody touches costs
+/// nothing.
+constexpr std::size_t kBytesPerRecord = 80;
 
 }  // namespace
 
@@ -18,21 +19,54 @@ Store::Store(dxf::Source source) : tagEdit_(source.format()), source_(std::move(
 }
 
 EntityId Store::addFromFile(const Record& record) {
-    records_.push_back(record);
+    PackedRecord packed = pack(record);
+    const auto place = static_cast<std::uint64_t>(record.bytes - source_.bytes().data());
+    if (place > PackedRecord::kHighestPlace) source_.tags().fail(place, "a drawing of more than 1 TB");
+    packed.setPlace(place, false);
+    packed.size = record.size;
+    records_.push_back(packed);
     highestHandle_ = std::max(highestHandle_, record.handle);
     return count() - 1;
 }
 
-FileRange Store::fileRange(EntityId id) const {
-    const auto original = originals_.find(id);
-    if (records_[id].has(kChanged) && original != originals_.end()) return original->second;
-    const auto begin = static_cast<std::size_t>(records_[id].bytes - source_.bytes().data());
-    return {begin, begin + records_[id].size};
+PackedRecord Store::pack(const Record& record) {
+    PackedRecord packed;
+    packed.flags = record.flags;
+    packed.owner = record.owner;
+    packed.kind = kinds_.intern({record.layer, record.name, record.type});
+    if (record.handle > 0xFFFFFFFF || record.parts > kMostParts) {
+        packed.set(kRare);
+        packed.handle = static_cast<std::uint32_t>(rare_.size());
+        rare_.push_back({record.handle, record.parts});
+    } else {
+        packed.handle = static_cast<std::uint32_t>(record.handle);
+        packed.parts = static_cast<std::uint8_t>(record.parts);
+    }
+    return packed;
 }
 
-Record& Store::change(EntityId id) {
+void Store::countPartWhileReading(EntityId id) {
+    PackedRecord& packed = records_[id];
+    if (packed.has(kRare)) {
+        ++rare_[packed.handle].parts;
+    } else if (packed.parts < kMostParts) {
+        ++packed.parts;
+    } else {
+        rare_.push_back({packed.handle, kMostParts + 1});
+        packed.handle = static_cast<std::uint32_t>(rare_.size() - 1);
+        packed.set(kRare);
+    }
+}
+
+FileRange Store::fileRange(EntityId id) const {
+    const PackedRecord& record = records_[id];
+    if (record.has(kOwnBytes)) return originals_.at(id);
+    return {record.place(), record.place() + record.size};
+}
+
+PackedRecord& Store::change(EntityId id) {
     journal.note(id);
-    Record& record = records_[id];
+    PackedRecord& record = records_[id];
     StepLog& log = step();
     if (id < log.firstNew && !record.has(kLogged)) {
         log.records.emplace_back(id, record);
@@ -42,30 +76,34 @@ Record& Store::change(EntityId id) {
 }
 
 void Store::setBytes(EntityId id, std::string_view bytes) {
-    Record& record = change(id);
+    PackedRecord& record = change(id);
     if (record.has(kFresh)) {
-        record.bytes = arena_.replace(record.bytes, record.size, bytes);
+        record.setPlace(arena_.replace(record.place(), record.size, bytes), true);
     } else {
-        if (id < fileCount_ && !record.has(kChanged)) originals_.insert_or_assign(id, fileRange(id));
-        record.bytes = arena_.store(bytes);
+        if (!record.has(kOwnBytes)) originals_.insert_or_assign(id, fileRange(id));
+        record.setPlace(arena_.store(bytes), true);
     }
     record.size = static_cast<std::uint32_t>(bytes.size());
     record.set(kFresh);
-    if (id < fileCount_) record.set(kChanged);
+}
+
+void Store::setNames(EntityId id, NameId layer, NameId name) {
+    PackedRecord& record = change(id);
+    record.kind = kinds_.intern({layer, name, kinds_[record.kind].type});
 }
 
 void Store::dropBytes(EntityId id) {
-    Record& record = records_[id];
-    arena_.release(record.bytes, record.size);
-    record.bytes = nullptr;
+    PackedRecord& record = records_[id];
+    arena_.release(record.place(), record.size);
     record.size = 0;
 }
 
-EntityId Store::add(Record record, std::string_view bytes) {
-    record.bytes = arena_.store(bytes);
-    record.size = static_cast<std::uint32_t>(bytes.size());
-    record.set(kFresh);
-    records_.push_back(record);
+EntityId Store::add(const Record& record, std::string_view bytes) {
+    PackedRecord packed = pack(record);
+    packed.setPlace(arena_.store(bytes), true);
+    packed.size = static_cast<std::uint32_t>(bytes.size());
+    packed.set(kFresh);
+    records_.push_back(packed);
     const EntityId id = count() - 1;
     if (record.handle != 0) handles.put(record.handle, id);
     journal.note(id);
@@ -109,14 +147,14 @@ const std::vector<EntityId>& Store::named(NameKey name) const {
 }
 
 void Store::tidy(NamedList& list, NameKey name) const {
-    std::erase_if(list.ids, [&](EntityId id) { return names.key(records_[id].name) != name; });
+    std::erase_if(list.ids, [&](EntityId id) { return nameOf(id) != name; });
     if (!std::is_sorted(list.ids.begin(), list.ids.end())) std::sort(list.ids.begin(), list.ids.end());
     list.ids.erase(std::unique(list.ids.begin(), list.ids.end()), list.ids.end());
     list.isTidy = true;
 }
 
 void Store::indexName(EntityId id) {
-    const std::size_t name = indexOf(names.key(records_[id].name));
+    const std::size_t name = indexOf(nameOf(id));
     if (name == kNoName) return;
     if (name >= named_.size()) named_.resize(std::max(names.size(), name + 1));
     NamedList& list = named_[name];
@@ -125,7 +163,7 @@ void Store::indexName(EntityId id) {
 }
 
 void Store::unindexNewest(EntityId id) {
-    const std::size_t name = indexOf(names.key(records_[id].name));
+    const std::size_t name = indexOf(nameOf(id));
     if (name == kNoName || name >= named_.size()) return;
     std::vector<EntityId>& list = named_[name].ids;
     if (!list.empty() && list.back() == id) list.pop_back();
@@ -133,7 +171,7 @@ void Store::unindexNewest(EntityId id) {
 
 void Store::unindexName(EntityId id) {
     unindexNewest(id);
-    const std::size_t name = indexOf(names.key(records_[id].name));
+    const std::size_t name = indexOf(nameOf(id));
     if (name != kNoName && name < named_.size()) named_[name].isTidy = false;
 }
 

@@ -5,6 +5,7 @@
 #include "desk/drawing/handle_index.h"
 #include "desk/drawing/header_variables.h"
 #include "desk/drawing/journal.h"
+#include "desk/drawing/kind_table.h"
 #include "desk/drawing/layer_table.h"
 #include "desk/drawing/name_table.h"
 #include "desk/drawing/record.h"
@@ -28,7 +29,7 @@ struct StepLog {
     Handle nextHandle = 0;
     std::uint64_t state = 0;    ///< the drawing's before the step
     std::size_t additions = 0;  ///< Store::additions before the step
-    std::vector<std::pair<EntityId, Record>> records;
+    std::vector<std::pair<EntityId, PackedRecord>> records;
     std::vector<std::pair<BlockId, Block>> blocks;  ///< changed ones
     std::size_t blockCount = 0;
     std::vector<NameKey> layers;  ///< added ones
@@ -55,7 +56,7 @@ struct Addition {
 struct UndoneStep {
     struct After {
         EntityId id;
-        Record record;
+        PackedRecord record;
         std::string bytes;
         bool ownsBytes;  ///< false: the record's bytes are still where they were
     };
@@ -89,13 +90,17 @@ class Store {
     dxf::TagReader reader(std::string_view bytes) const {
         return dxf::TagReader(tags(bytes), 0, bytes.size());
     }
-    dxf::TagReader reader(EntityId id) const { return reader(records_[id].view()); }
+    dxf::TagReader reader(EntityId id) const { return reader(view(records_[id])); }
 
     EntityId count() const { return static_cast<EntityId>(records_.size()); }
     EntityId fileCount() const { return fileCount_; }
-    const Record& record(EntityId id) const { return records_[id]; }
+    /// What is known of an object now; later changes don't show in it.
+    Record record(EntityId id) const { return unpack(records_[id]); }
+    Record unpack(const PackedRecord& packed) const;
+    std::string_view view(EntityId id) const { return view(records_[id]); }
+    std::string_view view(const PackedRecord& packed) const { return {bytesOf(packed), packed.size}; }
     bool isErased(EntityId id) const {
-        const Record& record = records_[id];
+        const PackedRecord& record = records_[id];
         return record.has(kErased) || (record.has(kPart) && records_[record.owner].has(kErased));
     }
     /// The range of the file that a record had when the file was read.
@@ -104,10 +109,14 @@ class Store {
     /// Adds a record while the file is read; its bytes stay where they are.
     EntityId addFromFile(const Record& record);
     void endOfFile() { fileCount_ = count(); }
-    Record& whileReading(EntityId id) { return records_[id]; }
+    void setOwnerWhileReading(EntityId id, std::uint32_t owner) { records_[id].owner = owner; }
+    /// The next record is another part of this one.
+    void countPartWhileReading(EntityId id);
 
     /// A record for change: its old state goes into the open undo step.
-    Record& change(EntityId id);
+    PackedRecord& change(EntityId id);
+    /// Other names for a record.
+    void setNames(EntityId id, NameId layer, NameId name);
     /// New bytes for a record. Bytes that the open step made itself are given up at once, older ones are kept
     /// for undo.
     void setBytes(EntityId id, std::string_view bytes);
@@ -115,7 +124,7 @@ class Store {
     /// is undone.
     void dropBytes(EntityId id);
     /// A new record with a copy of its bytes. A handle is entered into the index.
-    EntityId add(Record record, std::string_view bytes);
+    EntityId add(const Record& record, std::string_view bytes);
 
     /// The number of a type, kNoType if no record has it.
     std::uint16_t findType(std::string_view name) const;
@@ -181,9 +190,25 @@ class Store {
     };
     void tidy(NamedList& list, NameKey name) const;
 
+    /// What few records have: a handle beyond 32 bits, or hundreds of parts.
+    struct Rare {
+        Handle handle = 0;
+        std::uint32_t parts = 0;
+    };
+    static constexpr std::uint32_t kMostParts = 255;  ///< of a record that isn't rare
+
+    /// All of a record but its bytes.
+    PackedRecord pack(const Record& record);
+    const char* bytesOf(const PackedRecord& packed) const {
+        return packed.has(kOwnBytes) ? arena_.at(packed.place()) : source_.bytes().data() + packed.place();
+    }
+    NameKey nameOf(EntityId id) const { return names.key(kinds_[records_[id].kind].name); }
+
     TagEdit tagEdit_;
     dxf::Source source_;
-    std::vector<Record> records_;
+    std::vector<PackedRecord> records_;
+    KindTable kinds_;
+    std::vector<Rare> rare_;
     EntityId fileCount_ = 0;
     NameTable types_;
     ByteArena arena_;
@@ -198,5 +223,21 @@ class Store {
     std::vector<UndoneStep> undone_;  ///< the last one undone at the end; none after another edit
     int depth_ = 0;
 };
+
+inline Record Store::unpack(const PackedRecord& packed) const {
+    const Kind& kind = kinds_[packed.kind];
+    const bool rare = packed.has(kRare);
+    Record record;
+    record.flags = packed.flags;
+    record.type = kind.type;
+    record.size = packed.size;
+    record.bytes = bytesOf(packed);
+    record.handle = rare ? rare_[packed.handle].handle : packed.handle;
+    record.owner = packed.owner;
+    record.layer = kind.layer;
+    record.name = kind.name;
+    record.parts = rare ? rare_[packed.handle].parts : packed.parts;
+    return record;
+}
 
 }  // namespace drawing

@@ -50,8 +50,8 @@ bool Drawing::leavesNothing(const StepLog& log) const {
     }
     return std::all_of(log.records.begin(), log.records.end(), [this](const auto& logged) {
         const auto& [id, before] = logged;
-        const Record& now = store_->record(id);
-        return now.has(kErased) == before.has(kErased) && now.view() == before.view();
+        return store_->records_[id].has(kErased) == before.has(kErased) &&
+               store_->view(id) == store_->view(before);
     });
 }
 
@@ -97,7 +97,7 @@ void Drawing::undoRecords(const StepLog& log) {
     std::set<BlockId> spaces{modelSpace()};
     for (EntityId id = store_->count(); id-- > log.firstNew;) {
         store_->journal.note(id);
-        Record& record = store_->records_[id];
+        PackedRecord& record = store_->records_[id];
         const bool inSpace =
             !record.has(kPart) && record.owner != kNoBlock && blocks_[record.owner].isLayout();
         if (inSpace) spaces.insert(record.owner);
@@ -114,10 +114,11 @@ void Drawing::undoRecords(const StepLog& log) {
     for (auto changed = log.records.rbegin(); changed != log.records.rend(); ++changed) {
         const auto& [id, before] = *changed;
         store_->journal.note(id);
-        Record& record = store_->records_[id];
-        const bool renamed = record.name != before.name && !before.has(kPart) && before.owner != kNoBlock;
+        PackedRecord& record = store_->records_[id];
+        const bool renamed = store_->unpack(record).name != store_->unpack(before).name &&
+                             !before.has(kPart) && before.owner != kNoBlock;
         if (renamed) store_->unindexName(id);
-        if (record.bytes != before.bytes) store_->dropBytes(id);
+        if (!record.sharesBytes(before)) store_->dropBytes(id);
         if (record.owner != before.owner) changeSpace(id, before.owner);
         record = before;
         if (renamed) store_->indexName(id);

@@ -41,13 +41,13 @@ std::string_view markerOf(TypeId table) {
 ImportTables::ImportTables(const Store& from, Store& to, LayerTable& layers, ImportLinks& links)
     : from_(from), to_(to), layers_(layers), links_(links) {
     for (EntityId id = 0; id < from_.count(); ++id) {
-        const Record& record = from_.record(id);
+        const Record record = from_.record(id);
         if (!record.has(kTableEntry) || record.has(kErased) || !isEntryType(record.type)) continue;
         source_.try_emplace(key(static_cast<TypeId>(record.type), from_.names.key(record.name)), id);
     }
     TypeId open = kNoType;
     for (EntityId id = 0; id < to_.count(); ++id) {
-        const Record& record = to_.record(id);
+        const Record record = to_.record(id);
         if (!record.has(kTableEntry) || record.has(kErased)) continue;
         if (record.type == kTable) {
             open = static_cast<TypeId>(to_.findType(to_.names.text(record.name)));

@@ -97,7 +97,7 @@ bool Importer::reaches(const Drawing& drawing, BlockId from, const std::string& 
     // Names are compared, not blocks: the source knows nothing yet of the one that is to be made.
     const Store& store = Inside::store(drawing);
     drawing.forEachEntity(from, [&](EntityId id) {
-        const Record& record = store.record(id);
+        const Record record = store.record(id);
         if (record.type != kInsert) return true;
         const BlockId nested = drawing.referencedBlock(id);
         found = basic::equalIgnoringCase(store.names.text(record.name), name) ||
@@ -112,7 +112,7 @@ Handle Importer::handle(Handle source) {
     // entity, which is in the map if it is of the content. Dictionaries and other objects don't come along.
     const EntityId object = from_.handles.find(source);
     if (object == kNoEntity || from_.isErased(object)) return 0;
-    const Record& record = from_.record(object);
+    const Record record = from_.record(object);
     if (!record.has(kTableEntry)) return given(object);
     const std::string& name = from_.names.text(record.name);
     if (record.type != kBlockRecord) return tables_.require(static_cast<TypeId>(record.type), name);
@@ -263,7 +263,7 @@ void Importer::fill(BlockId target, BlockId source) {
             leave(id, obstacle);
             return true;
         }
-        const Record& record = from_.record(id);
+        const Record record = from_.record(id);
         if (record.type == kInsert || isDimension(from_.typeName(record.type))) {
             block(from_.names.text(record.name));
         }
@@ -297,7 +297,7 @@ void Importer::copyEntity(BlockId target, EntityId id) {
     // Parts follow their main entity. Erased ones have no place in the count by which the records hang
     // together.
     if (translator_.becomesPolyline(id)) return copyPolyline(target, id);
-    const Record& record = from_.record(id);
+    const Record record = from_.record(id);
     scratch_.clear();
     translator_.translate(id, given(id), target_.blocks()[target].handle, scratch_);
     std::uint32_t parts = 0;
@@ -357,7 +357,7 @@ EntityId Importer::addPart(EntityId main, std::uint16_t type, Handle handle, std
 }
 
 void Importer::leave(EntityId id, const std::string& reason) {
-    const Record& record = from_.record(id);
+    const Record record = from_.record(id);
     result_.leftBehind.push_back(std::string(from_.typeName(record.type)) + " " +
                                  dxf::handleText(source_.handle(id)) + " " + reason);
 }

@@ -70,6 +70,43 @@ TEST(Opening, GathersThePartsOfAnEntity) {
     EXPECT_TRUE(drawing->findings().empty());
 }
 
+// A record has little room: large numbers of parts and large handles stand elsewhere, and a name of its own
+// for each of many entities has to be told from the others.
+TEST(Opening, KeepsLargeHandlesManyPartsAndManyNames) {
+    PlainDrawing plain(Kind::R2000);
+    plain.entity("POLYLINE 5 123456789A 8 0 66 1 70 1");
+    for (int i = 0; i < 300; ++i) plain.entity("VERTEX 8 0 10 " + std::to_string(i) + ".0 20 0.0");
+    plain.entity("SEQEND 8 0");
+    for (int i = 0; i < 300; ++i) {
+        const std::string number = std::to_string(i);
+        plain.entity("INSERT 5 1A0000" + std::to_string(1000 + i) + " 8 L" + number + " 2 B" + number +
+                     " 10 0.0 20 0.0");
+    }
+    const auto drawing = plain.make();
+    const std::string before = drawing->savedBytes();
+    const EntityId polyline = drawing->byHandle(0x123456789A);
+    ASSERT_EQ(drawing->handle(polyline), 0x123456789Au);
+    EXPECT_EQ(drawing->parts(polyline).count, 301u);
+    for (int i = 0; i < 300; ++i) {
+        const EntityId insert = polyline + 302 + static_cast<EntityId>(i);
+        const std::string number = std::to_string(i);
+        EXPECT_EQ(drawing->name(insert), std::string("B").append(number));
+        EXPECT_EQ(drawing->layerName(insert), std::string("L").append(number));
+        const Filter filter{{2, std::string("b").append(number)}, {8, std::string("l").append(number)}};
+        EXPECT_EQ(drawing->select(filter), std::vector{insert});
+    }
+    drawing->setText(polyline, 8, "", "WALLS");
+    drawing->erase(polyline);
+    EXPECT_FALSE(contains(drawing->savedBytes(), "VERTEX"));
+    EXPECT_EQ(drawing->handle(drawing->addLine({}, {1, 1, 0})), 0x1A0000129Au);
+    while (drawing->undo()) continue;
+    EXPECT_EQ(drawing->savedBytes(), before);
+    EXPECT_EQ(drawing->parts(drawing->byHandle(0x123456789A)).count, 301u);
+    while (drawing->redo()) continue;
+    EXPECT_FALSE(contains(drawing->savedBytes(), "VERTEX"));
+    EXPECT_NE(drawing->byHandle(0x1A0000129A), kNoEntity);
+}
+
 TEST(Opening, ListsWhatIsWrongAndKeepsItsBytes) {
     PlainDrawing sample(Kind::R2000, "10");
     sample.entity("LINE 5 60 8 0 10 0.0 20 0.0 11 1.0 21 1.0")
