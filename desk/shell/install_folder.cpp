@@ -3,8 +3,10 @@
 #include "basic/error.h"
 #include "basic/text.h"
 #include "basic/text_file.h"
+#include "desk/dxf/file.h"
 
 #include <cstdint>
+#include <ctime>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -20,6 +22,8 @@ namespace {
 constexpr const char* kSettingsFile = "Vorlane.ini";
 /// What was delivered, a line each: checksum, blank, path below the folder.
 constexpr const char* kDeliveryList = "delivered.txt";
+/// What `statesOf` said when all was in order.
+constexpr const char* kDeliveryStates = "delivered.states";
 
 std::string readBytes(const fs::path& path) {
     std::ifstream file(path, std::ios::binary | std::ios::ate);
@@ -62,9 +66,11 @@ Delivery readDelivery(const fs::path& folder) {
     return delivery;
 }
 
+using Files = std::map<std::string, fs::path>;  ///< path below the folder to where it is delivered from
+
 /// The delivered files: language files at the top, as the add-in looks for them there; help in its folder.
-std::map<std::string, fs::path> deliveredFiles(const fs::path& resources) {
-    std::map<std::string, fs::path> files;
+Files deliveredFiles(const fs::path& resources) {
+    Files files;
     std::error_code ignored;
     for (fs::directory_iterator entry(resources / "languages", ignored);
          !ignored && entry != fs::directory_iterator(); entry.increment(ignored)) {
@@ -82,10 +88,31 @@ std::map<std::string, fs::path> deliveredFiles(const fs::path& resources) {
     return files;
 }
 
-void deliver(const fs::path& folder, const fs::path& resources) {
+/// What tells that nobody touched a delivered file, its copy or the list, without reading them. Nothing where
+/// one was changed so lately that the next change might bear the same time.
+std::string statesOf(const fs::path& folder, const Files& files) {
+    constexpr std::int64_t kSettled = 2;
+    const std::int64_t now = std::time(nullptr);
+    std::string states;
+    const auto add = [&](const fs::path& path) {
+        const dxf::FileStamp stamp = dxf::stampOf(path.string());
+        for (const std::uint64_t part : {stamp.device, stamp.node, stamp.size})
+            states.append(std::to_string(part)).append(" ");
+        states.append(std::to_string(stamp.seconds)).append(".");
+        states.append(std::to_string(stamp.nanoseconds)).append("\n");
+        return now - stamp.seconds >= kSettled;
+    };
+    for (const auto& [name, source] : files) {
+        states.append(name).append("\n");
+        if (!add(source) || !add(folder / name)) return {};
+    }
+    return add(folder / kDeliveryList) ? checksum(states) : std::string();
+}
+
+void deliver(const fs::path& folder, const Files& files) {
     const Delivery before = readDelivery(folder);
     Delivery after;
-    for (const auto& [name, source] : deliveredFiles(resources)) {
+    for (const auto& [name, source] : files) {
         const fs::path target = folder / name;
         const std::string wanted = readBytes(source);
         const auto known = before.find(name);
@@ -148,7 +175,15 @@ void prepareInstallFolder(const fs::path& folder, const fs::path& resources, con
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) fail(folder, error.message());
-    deliver(folder, resources);
+    // Nearly always nothing was touched since the start before, and reading it all would be most of a start.
+    const Files files = deliveredFiles(resources);
+    const std::string states = statesOf(folder, files);
+    if (states.empty() || states != readBytes(folder / kDeliveryStates)) {
+        deliver(folder, files);
+        // A folder that can't be written is read again each time.
+        if (!states.empty() && states == statesOf(folder, files))
+            std::ofstream(folder / kDeliveryStates, std::ios::binary | std::ios::trunc) << states;
+    }
     const fs::path settings = folder / kSettingsFile;
     if (fs::symlink_status(settings, error).type() == fs::file_type::not_found)
         writeBytes(folder, settings, {});

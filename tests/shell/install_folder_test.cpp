@@ -4,6 +4,7 @@
 #include "tests/fakes/error_of.h"
 #include "tests/fakes/temp_folder.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -90,6 +91,33 @@ TEST_F(InstallFolderTest, OnlyFilesThatTheUserLeftAloneAreUpdated) {
     fs::remove(path("Francais.LNG"));
     prepare();
     EXPECT_EQ(read("Francais.LNG"), "french 2") << "removed, it comes back as delivered";
+}
+
+TEST_F(InstallFolderTest, WhatIsKnownToBeInOrderIsReadAgainWhenItChanges) {
+    const auto age = [](const fs::path& path) {
+        for (const auto& entry : fs::recursive_directory_iterator(path)) {
+            if (entry.is_regular_file())
+                fs::last_write_time(entry, fs::file_time_type::clock::now() - std::chrono::hours(1));
+        }
+    };
+    prepare();
+    age(path(""));
+    age(resources.path());
+    EXPECT_FALSE(fs::exists(path("delivered.states"))) << "what was just written may change again unseen";
+    prepare();
+    ASSERT_TRUE(fs::exists(path("delivered.states")));
+    prepare();
+    resources.write("languages/English.LNG", "english 2");
+    prepare();
+    EXPECT_EQ(read("English.LNG"), "english 2") << "of the same size";
+    age(path(""));
+    age(resources.path());
+    prepare();
+    fs::remove(path("help/pages/start.html"));
+    resources.write("help/pages/more.html", "help 2");
+    prepare();
+    EXPECT_EQ(read("help/pages/start.html"), "help 1");
+    EXPECT_EQ(read("help/pages/more.html"), "help 2");
 }
 
 TEST_F(InstallFolderTest, WhatHindersItIsToldWithTheFoldersName) {
