@@ -1,5 +1,6 @@
 #include "desk/dxf/code_page_table.h"
 
+#include "basic/code_page.h"
 #include "basic/text.h"
 #include "desk/dxf/code_page_converter.h"
 
@@ -34,11 +35,21 @@ constexpr PageName kPages[] = {
 void define(Encoding::Table& table, std::uint16_t bytes, char16_t character) {
     if (character == 0) return;
     // Where two byte sequences are one character, the first is what is written.
-    if (table.bytes[character] == 0) table.bytes[character] = bytes;
+    if (table.bytesOf(character) == 0) table.setBytes(character, bytes);
     if (bytes < 0x100)
         table.single[bytes] = character;
     else
         table.pairs[bytes] = character;
+}
+
+/// The page of nearly all drawings, for which no converter has to be loaded.
+void defineHousePage(Encoding::Table& table) {
+    for (unsigned byte = 0x80; byte < 0x100; ++byte) {
+        const std::string text = basic::fromCodePage(std::string(1, static_cast<char>(byte)));
+        std::size_t at = 0;
+        define(table, static_cast<std::uint16_t>(byte),
+               static_cast<char16_t>(basic::nextCharacter(text, at)));
+    }
 }
 
 /// What page 874 has beyond the Thai standard that it extends.
@@ -72,13 +83,22 @@ const char* converterName(std::string_view codePageName) {
     return nullptr;
 }
 
+void Encoding::Table::setBytes(char16_t character, std::uint16_t bytes) {
+    auto& row = rows[character / kRow];
+    if (!row) row = std::make_unique<std::array<std::uint16_t, kRow>>();
+    (*row)[character % kRow] = bytes;
+}
+
 std::shared_ptr<const Encoding::Table> makeTable(const char* converterName) {
     auto table = std::make_shared<Encoding::Table>();
-    table->bytes.resize(0x10000);
     // Bytes below 128 are ASCII in all pages, whatever some say about backslash and tilde.
     for (unsigned byte = 0; byte < 0x80; ++byte)
         define(*table, static_cast<std::uint16_t>(byte), static_cast<char16_t>(byte));
 
+    if (std::string_view(converterName) == "CP1252") {
+        defineHousePage(*table);
+        return table;
+    }
     CodePageConverter converter(converterName);
     for (unsigned byte = 0x80; byte < 0x100; ++byte) {
         const char text = static_cast<char>(byte);

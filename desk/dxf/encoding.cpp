@@ -102,7 +102,7 @@ void encodeOne(const Encoding::Table& table, char32_t character, std::string& by
         bytes.push_back(static_cast<char>(character & 0xFF));
         return;
     }
-    const std::uint16_t code = character <= 0xFFFF ? table.bytes[character] : 0;
+    const std::uint16_t code = character <= 0xFFFF ? table.bytesOf(static_cast<char16_t>(character)) : 0;
     if (code == 0) {
         appendUnicodeEscape(bytes, character);
     } else {
