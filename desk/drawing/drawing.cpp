@@ -105,14 +105,12 @@ PartRange Drawing::parts(EntityId id) const {
     return {id + 1, store_->record(id).parts};
 }
 
+bool Drawing::isAttribute(EntityId id) const { return store_->record(id).type == kAttrib; }
+
 std::vector<EntityId> Drawing::attributes(EntityId id) const {
-    requireAlive(id);
     std::vector<EntityId> found;
-    const std::uint32_t parts = store_->record(id).parts;
-    found.reserve(parts);
-    for (EntityId part = id + 1; part <= id + parts; ++part) {
-        if (store_->record(part).type == kAttrib) found.push_back(part);
-    }
+    found.reserve(parts(id).count);
+    forEachAttribute(id, [&](EntityId part) { found.push_back(part); });
     return found;
 }
 

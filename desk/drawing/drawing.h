@@ -126,6 +126,14 @@ class Drawing {
     PartRange parts(EntityId id) const;
     /// The attribute references of an INSERT in the block's order; empty for others.
     std::vector<EntityId> attributes(EntityId id) const;
+    /// Visits them without making a list.
+    template <typename Visit>
+    void forEachAttribute(EntityId id, Visit&& visit) const {
+        const PartRange all = parts(id);
+        for (EntityId part = all.first; part < all.first + all.count; ++part) {
+            if (isAttribute(part)) visit(part);
+        }
+    }
 
     /// The entity's tags as bytes of the file's format, its parts not among them.
     std::string_view bytes(EntityId id) const;
@@ -232,6 +240,7 @@ class Drawing {
     friend class Inside;
     explicit Drawing(dxf::Source source);
     void noteChange() { state_ = ++revision_; }
+    bool isAttribute(EntityId id) const;
     /// Raises kObjectErased or kLockedLayer.
     void requireEditable(EntityId id) const;
     /// Applies an edit inside an open step; bytes that come out the same are no change.

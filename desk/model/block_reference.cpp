@@ -50,13 +50,11 @@ Variant BlockReference::hasAttributes() const {
 Variant BlockReference::getAttributes(Arguments& arguments) {
     requireCount(arguments, 0, 0, "GetAttributes");
     if (context_->environment->watch) context_->environment->watch();
-    drawing().requireAlive(id_);
     basic::Array attributes;
-    const std::vector<drawing::EntityId> ids = drawing().attributes(id_);
-    attributes.reserve(ids.size());
-    for (const drawing::EntityId id : ids) {
+    attributes.reserve(drawing().parts(id_).count);
+    drawing().forEachAttribute(id_, [&](drawing::EntityId id) {
         attributes.emplace_back(std::make_shared<AttributeReference>(context_, id));
-    }
+    });
     return attributes;
 }
 
