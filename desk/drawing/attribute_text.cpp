@@ -1,7 +1,7 @@
 #include "desk/drawing/attribute_text.h"
 
 #include "basic/text.h"
-#include "desk/dxf/near_group.h"
+#include "desk/dxf/tag_reader.h"
 
 #include <cmath>
 
@@ -30,7 +30,7 @@ TextPlace findText(const dxf::Format& format, std::string_view attribute) {
     bool inText = !format.hasSubclasses();
     bool inBraces = false;
     dxf::TagReader reader({attribute, &format, {}}, 0, attribute.size());
-    for (dxf::Tag tag; (dxf::readNear(reader, tag) || reader.next(tag)) && tag.code < 1000;) {
+    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
         if (tag.code == 102) inBraces = tag.raw.starts_with('{');
         if (inBraces) continue;
         if (tag.code == 100) {

@@ -1,6 +1,5 @@
 #include "desk/drawing/drawing.h"
 #include "desk/drawing/store.h"
-#include "desk/dxf/near_group.h"
 
 namespace drawing {
 
@@ -188,8 +187,7 @@ Placement Drawing::placement(EntityId id) const {
     if (store_->record(id).type != kInsert) raise(kNotApplicable, std::string(type(id)));
     Placement placement;
     dxf::TagReader reader = tags(id);
-    for (dxf::Tag tag; (dxf::readNear(reader, tag) || reader.next(tag)) && tag.code < 1000;)
-        readPlacement(tag, placement);
+    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) readPlacement(tag, placement);
     settleExtrusion(placement.extrusion);
     return placement;
 }
@@ -252,7 +250,7 @@ std::string Drawing::attributeText(EntityId id) const {
     std::string text;
     dxf::TagReader reader = tags(id);
     const bool mayBeEmbedded = format().version >= dxf::Version::R2018;
-    for (dxf::Tag tag; (dxf::readNear(reader, tag) || reader.next(tag)) && tag.code < 1000;) {
+    for (dxf::Tag tag; reader.next(tag) && tag.code < 1000;) {
         if (tag.code == 1) {
             text = tag.text();
             if (!mayBeEmbedded) break;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desk/dxf/findings.h"
-#include "desk/dxf/near_group.h"
+#include "desk/dxf/tag_reader.h"
 
 #include <array>
 #include <string_view>
@@ -57,11 +57,9 @@ class Scanner {
     /// the midst of a section that the drawing can't do without, and in strict mode about all findings.
     Event next(Tag& tag) {
         for (;;) {
-            if (!readNear(reader_, tag)) {
-                const TagReader::Step step = reader_.advance(tag);
-                if (step != TagReader::Step::Group) [[unlikely]]
-                    return outOfGroups(step, tag);
-            }
+            const TagReader::Step step = reader_.advance(tag);
+            if (step != TagReader::Step::Group) [[unlikely]]
+                return outOfGroups(step, tag);
             if (tag.code == kComment) continue;
             if (!inSection_) return betweenSections(tag);
             if (tag.code != 0) [[likely]] {

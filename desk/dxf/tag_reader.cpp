@@ -1,5 +1,8 @@
 #include "desk/dxf/tag_reader.h"
 
+#include <bit>
+#include <cstring>
+
 namespace dxf {
 
 namespace {
@@ -26,6 +29,24 @@ int twoBytes(const char* at) {
                                                                              << 8);
 }
 
+const char* findNewline(const char* from, const char* end) {
+    // Values are short, so eight bytes at a time beat a call of memchr.
+    constexpr std::uint64_t kOnes = 0x0101010101010101u;
+    constexpr std::uint64_t kHighs = 0x8080808080808080u;
+    if constexpr (std::endian::native == std::endian::little) {
+        while (end - from >= 8) {
+            std::uint64_t word;
+            std::memcpy(&word, from, 8);
+            word ^= kOnes * '\n';
+            const std::uint64_t hits = (word - kOnes) & ~word & kHighs;
+            if (hits != 0) return from + std::countr_zero(hits) / 8;
+            from += 8;
+        }
+    }
+    while (from != end && *from != '\n') ++from;
+    return from;
+}
+
 }  // namespace
 
 void TagSource::fail(std::size_t offset, std::string_view what) const {
@@ -45,6 +66,29 @@ void TagReader::fail(Step step) const {
     std::string_view line = rest.substr(0, std::min(rest.find('\n'), rest.size()));
     if (line.ends_with('\r')) line.remove_suffix(1);
     source_.fail(position(), "a group code should stand here, not " + quoted(line));
+}
+
+TagReader::Step TagReader::advanceText(Tag& tag) {
+    const char* p = position_;
+    if (p == end_) return Step::End;
+    while (p != end_ && (*p == ' ' || *p == '\t')) ++p;
+    const bool negative = p != end_ && *p == '-';
+    if (negative) ++p;
+    const char* const digits = p;
+    int code = 0;
+    while (p != end_ && static_cast<unsigned char>(*p - '0') < 10 && p - digits < 6)
+        code = code * 10 + (*p++ - '0');
+    if (p == digits) return p == end_ ? Step::CutOff : Step::BadCode;
+    while (p != end_ && (*p == '\r' || *p == ' ' || *p == '\t')) ++p;
+    if (p == end_) return Step::CutOff;
+    if (*p != '\n' || code > 32767) return Step::BadCode;
+    const char* const value = ++p;
+    if (value == end_) return Step::CutOff;
+    p = findNewline(value, end_);
+    const char* const valueEnd = p != value && p[-1] == '\r' ? p - 1 : p;
+    if (p != end_) ++p;
+    take(tag, negative ? -code : code, value, valueEnd, p);
+    return Step::Group;
 }
 
 TagReader::Step TagReader::advanceBinary(Tag& tag) {
@@ -76,12 +120,7 @@ TagReader::Step TagReader::advanceBinary(Tag& tag) {
         behind = 1;
     }
     if (left() < size + behind) return Step::CutOff;
-    tag.code = code;
-    tag.raw = std::string_view(p, size);
-    tag.begin = position();
-    position_ = p + size + behind;
-    tag.end = position();
-    tag.format = source_.format;
+    take(tag, code, p, p + size, p + size + behind);
     return Step::Group;
 }
 

@@ -8,6 +8,10 @@
 #include <string>
 #include <string_view>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace dxf {
 
 /// Bytes with groups in them, the format that they have, and the file's name for errors. The bytes of new
@@ -47,7 +51,10 @@ class TagReader {
 
     enum class Step { Group, End, BadCode, CutOff };
     /// As `next`, but tells of bad bytes instead of raising. The reader then stands before the bad group.
-    Step advance(Tag& tag) { return binary_ ? advanceBinary(tag) : advanceText(tag); }
+    Step advance(Tag& tag) {
+        if (binary_) return advanceBinary(tag);
+        return advanceNear(tag) ? Step::Group : advanceText(tag);
+    }
     /// Raises the ReadError that belongs to a step.
     [[noreturn]] void fail(Step step) const;
 
@@ -59,9 +66,13 @@ class TagReader {
     const TagSource& source() const { return source_; }
 
   private:
+    /// Reads a group as nearly all are in ASCII drawings: a code of three places and a short value. False for
+    /// any other, and near the end of the range.
+    bool advanceNear(Tag& tag);
     Step advanceText(Tag& tag);
     Step advanceBinary(Tag& tag);
-    static const char* findNewline(const char* from, const char* end);
+    /// Hands out the group from the reader's place to `end`.
+    void take(Tag& tag, int code, const char* value, const char* valueEnd, const char* end);
 
     TagSource source_;
     const char* position_;
@@ -69,50 +80,42 @@ class TagReader {
     bool binary_;
 };
 
-inline const char* TagReader::findNewline(const char* from, const char* end) {
-    // Values are short, so eight bytes at a time beat a call of memchr.
-    constexpr std::uint64_t kOnes = 0x0101010101010101u;
-    constexpr std::uint64_t kHighs = 0x8080808080808080u;
-    if constexpr (std::endian::native == std::endian::little) {
-        while (end - from >= 8) {
-            std::uint64_t word;
-            std::memcpy(&word, from, 8);
-            word ^= kOnes * '\n';
-            const std::uint64_t hits = (word - kOnes) & ~word & kHighs;
-            if (hits != 0) return from + std::countr_zero(hits) / 8;
-            from += 8;
-        }
-    }
-    while (from != end && *from != '\n') ++from;
-    return from;
+inline void TagReader::take(Tag& tag, int code, const char* value, const char* valueEnd, const char* end) {
+    tag.code = code;
+    tag.raw = std::string_view(value, static_cast<std::size_t>(valueEnd - value));
+    tag.begin = position();
+    position_ = end;
+    tag.end = position();
+    tag.format = source_.format;
 }
 
-inline TagReader::Step TagReader::advanceText(Tag& tag) {
-    const char* p = position_;
-    if (p == end_) return Step::End;
-    while (p != end_ && (*p == ' ' || *p == '\t')) ++p;
-    const bool negative = p != end_ && *p == '-';
-    if (negative) ++p;
-    const char* const digits = p;
-    int code = 0;
-    while (p != end_ && static_cast<unsigned char>(*p - '0') < 10 && p - digits < 6)
-        code = code * 10 + (*p++ - '0');
-    if (p == digits) return p == end_ ? Step::CutOff : Step::BadCode;
-    while (p != end_ && (*p == '\r' || *p == ' ' || *p == '\t')) ++p;
-    if (p == end_) return Step::CutOff;
-    if (*p != '\n' || code > 32767) return Step::BadCode;
-    const char* const value = ++p;
-    if (value == end_) return Step::CutOff;
-    p = findNewline(value, end_);
-    const char* const valueEnd = p != value && p[-1] == '\r' ? p - 1 : p;
-    if (p != end_) ++p;
-    tag.code = negative ? -code : code;
-    tag.raw = std::string_view(value, static_cast<std::size_t>(valueEnd - value));
-    tag.begin = static_cast<std::size_t>(position_ - source_.bytes.data());
-    tag.end = static_cast<std::size_t>(p - source_.bytes.data());
-    tag.format = source_.format;
-    position_ = p;
-    return Step::Group;
+inline bool TagReader::advanceNear([[maybe_unused]] Tag& tag) {
+#ifdef __SSE2__
+    constexpr int kLook = 16;  // how much of the value is looked at in one go
+    const char* const from = position_;
+    if (end_ - from < 5 + 2 * kLook) return false;
+    const bool hasReturn = from[3] == '\r';
+    const char* const value = from + (hasReturn ? 5 : 4);
+    // A digit becomes its value, a blank 16, any other byte something beyond 9.
+    const auto digit = [from](int at) { return static_cast<unsigned>(from[at] ^ '0'); };
+    const unsigned hundreds = digit(0), tens = digit(1), ones = digit(2);
+    const bool tensFit = tens <= 9 || (tens == 16 && hundreds == 16);
+    if (value[-1] != '\n' || ones > 9 || !tensFit || (hundreds > 9 && hundreds != 16)) return false;
+    const auto feedsOf = [](const char* at) {
+        const __m128i look = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(look, _mm_set1_epi8('\n'))));
+    };
+    unsigned feeds = feedsOf(value);
+    if (feeds == 0) feeds = feedsOf(value + kLook) << kLook;
+    if (feeds == 0) return false;
+    const char* const feed = value + std::countr_zero(feeds);
+    const bool valueReturn = feed != value && feed[-1] == '\r';
+    take(tag, static_cast<int>((hundreds & 15) * 100 + (tens & 15) * 10 + ones), value,
+         feed - (valueReturn ? 1 : 0), feed + 1);
+    return true;
+#else
+    return false;
+#endif
 }
 
 }  // namespace dxf
