@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Checks the window's translations against its sources: each text of the code has a French one with the same
-placeholders, and none is left over."""
+placeholders, each that counts has two, and none is left over; nor is one of English.txt."""
 
 import re
 import sys
@@ -35,27 +35,35 @@ def texts_of_code():
     return found
 
 
-def main():
-    faults = []
-    french = {}
-    for number, line in enumerate((ROOT / "resources/window/French.txt").read_text(encoding="utf-8").splitlines(), 1):
-        if line.startswith("#") or not line:
+def translations(name, faults):
+    texts = {}
+    for number, line in enumerate((ROOT / "resources/window" / name).read_text(encoding="utf-8").splitlines(), 1):
+        if line.startswith("#") or not line or line == "zero = one":
             continue
         english, sign, translated = line.partition(" = ")
         if not sign or not translated:
-            faults.append(f"French.txt:{number}: no translation")
-        if english in french:
-            faults.append(f"French.txt:{number}: {english!r} stands there already")
-        french[english] = translated
+            faults.append(f"{name}:{number}: no translation")
+        if english in texts:
+            faults.append(f"{name}:{number}: {english!r} stands there already")
+        texts[english] = translated.split(" | ")
+    return texts
+
+
+def main():
+    faults = []
     wanted = texts_of_code()
+    texts = {name: translations(name, faults) for name in ("French.txt", "English.txt")}
     for text, source in wanted.items():
-        if text.startswith("$") or not text:
-            continue
-        if text not in french:
+        if text and not text.startswith("$") and text not in texts["French.txt"]:
             faults.append(f"{source}: {text!r} has no French text")
-        elif sorted(PLACEHOLDER.findall(text)) != sorted(PLACEHOLDER.findall(french[text])):
-            faults.append(f"{source}: {text!r} and its French text differ in placeholders")
-    faults += [f"French.txt: {text!r} is in no source" for text in french if text not in wanted]
+    for name, known in texts.items():
+        for text, forms in known.items():
+            if text not in wanted:
+                faults.append(f"{name}: {text!r} is in no source")
+            elif any(sorted(PLACEHOLDER.findall(text)) != sorted(PLACEHOLDER.findall(form)) for form in forms):
+                faults.append(f"{name}: {text!r} and its translation differ in placeholders")
+            elif "%n" in text and len(forms) != 2 and " in %n found" not in text:
+                faults.append(f"{name}: {text!r} counts and has not two translations")
     print("\n".join(faults))
     return 1 if faults else 0
 

@@ -61,9 +61,8 @@ def captions(language):
 
 def window_texts(language):
     """The window's own texts by their English ones."""
-    if language == "en":
-        return {}
-    lines = (ROOT / "resources/window/French.txt").read_text("utf-8").splitlines()
+    name = {"en": "English.txt", "fr": "French.txt"}[language]
+    lines = (ROOT / "resources/window" / name).read_text("utf-8").splitlines()
     pairs = [line.split(" = ", 1) for line in lines if " = " in line and not line.startswith("#")]
     return {plain(english): plain(translated) for english, translated in pairs}
 
@@ -243,8 +242,11 @@ class Window:
         """What stands above the main window, the newest last."""
         return [each for each in self.children(self.application) if each != self.main and self.showing(each)]
 
-    def text(self, english):
-        return self.texts.get(plain(english), plain(english))
+    def text(self, english, count=None):
+        """A text of the window; `count` stands for its number."""
+        one, _, more = self.texts.get(plain(english), plain(english)).partition(" | ")
+        is_one = count == 1 or count == 0 and self.language == "fr"
+        return (more if more and not is_one else one).replace("%n", str(count))
 
     def find(self, name=None, role=None, within=None, nth=0, seconds=15, what=None):
         def search():

@@ -190,7 +190,7 @@ class Tour:
         self.message(w.captions["msg_119"][:20], "replace-done")
         w.press("012_32")
         w.no_dialog()
-        done = w.text("%1 replaced").replace("%1", str(plan.count))
+        done = w.text("%n replaced", plan.count)
         w.await_result(done)
         w.click(w.find(w.text("Show"), "push button", nth=0))
         time.sleep(0.5)
@@ -266,7 +266,7 @@ class Tour:
         w.press("009_13")
         w.no_dialog()
         w.key("F3")
-        w.await_result(w.text("%1 placed").replace("%1", "")[:8].strip())
+        w.await_result(w.text("%n placed", 1))
         w.key("ctrl+z")
         return "a label placed over a polygon of 4 corners, undone"
 
@@ -361,7 +361,7 @@ class Tour:
         self.pictures += 2
         w.press("011_15")
         w.no_dialog()
-        w.await_result(w.text("%1 inserted").replace("%1", str(rows - 2)))
+        w.await_result(w.text("%n inserted", rows - 2))
         w.key("ctrl+z")
         return f"{rows - 2} of {rows} inserted, 2 failed rows shown, undone"
 

@@ -2,6 +2,7 @@
 
 #include "basic/text.h"
 #include "desk/drawing/inside.h"
+#include "desk/drawing/work_watch.h"
 
 #include <limits>
 
@@ -43,7 +44,10 @@ void Opener::scan() {
     // The scanner knows sections and objects and repairs what is damaged in their frame; here the groups
     // inside count.
     dxf::Tag tag;
+    WorkSteps steps;
+    const std::size_t size = store_.source().bytes().size();
     for (dxf::Event event; (event = scanner_.next(tag)) != dxf::Event::End;) {
+        steps.step(tag.begin, size);
         switch (event) {
             case dxf::Event::Value:
                 if (inObject_) {

@@ -1,6 +1,7 @@
 #include "desk/picture/picture.h"
 
 #include "desk/drawing/drawing.h"
+#include "desk/drawing/work_watch.h"
 
 #include <algorithm>
 #include <cstring>
@@ -140,7 +141,9 @@ const Picture::Prepared& Picture::prepared(BlockId block) {
 void Picture::prepare(BlockId block, Prepared& into) {
     const bool inBlock = !drawing_.blocks()[block].isLayout();
     ListBuilder builder(drawing_, *styles_, *textStyles_, pens_);
+    drawing::WorkSteps steps;
     drawing_.forEachEntity(block, [&](EntityId id) {
+        steps.step(id, drawing_.firstFree());
         into.sources.push_back(add(builder, id, inBlock, into.list));
         return true;
     });
@@ -234,7 +237,9 @@ Picture& pictureOf(const Drawing& drawing) {
 }
 
 void prepare(const Drawing& drawing) {
+    drawing::WorkWatch::stage(0.4, 0.8);
     pictureOf(drawing).counts(drawing.modelSpace());
+    drawing::WorkWatch::stage(0.8, 1);
     shapes::sceneOf(drawing).space(drawing.modelSpace());
 }
 

@@ -1,5 +1,7 @@
 #include "desk/shapes/block_shapes.h"
 
+#include "desk/drawing/work_watch.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -122,7 +124,9 @@ const BlockShape& BlockShapes::of(BlockId block) {
 
 BlockShape BlockShapes::read(BlockId block) {
     BlockShape shape;
+    drawing::WorkSteps steps;
     drawing_.forEachEntity(block, [&](EntityId id) {
+        steps.step(id, drawing_.firstFree());
         addEntity(shape, id);
         return true;
     });

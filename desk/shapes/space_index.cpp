@@ -1,5 +1,7 @@
 #include "desk/shapes/space_index.h"
 
+#include "desk/drawing/work_watch.h"
+
 namespace shapes {
 
 bool mayDraw(const Drawing& drawing, EntityId id) {
@@ -39,7 +41,9 @@ SpaceIndex::Entry SpaceIndex::read(EntityId id) {
 
 void SpaceIndex::build() {
     entries_.clear();
+    drawing::WorkSteps steps;
     shapes_.drawing().forEachEntity(space_, [&](EntityId id) {
+        steps.step(id, shapes_.drawing().firstFree());
         entries_.push_back(read(id));
         return true;
     });
@@ -53,7 +57,9 @@ void SpaceIndex::update(const std::vector<EntityId>& entities, const std::vector
         entries_[at] = read(entries_[at].id);
         sumUp(at / kStretch);
     };
+    drawing::WorkSteps steps;
     for (const EntityId id : entities) {
+        steps.step(id, drawing.firstFree());
         const std::size_t at = placeOf(id);
         if (at < entries_.size() && entries_[at].id == id) {
             renew(at);
@@ -66,6 +72,7 @@ void SpaceIndex::update(const std::vector<EntityId>& entities, const std::vector
     }
     if (blocks.empty()) return;
     for (std::size_t at = 0; at < entries_.size(); ++at) {
+        steps.step(at, entries_.size());
         if (entries_[at].block < blocks.size() && blocks[entries_[at].block]) renew(at);
     }
 }

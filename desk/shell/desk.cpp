@@ -2,6 +2,7 @@
 
 #include "basic/border.h"
 #include "basic/text.h"
+#include "desk/drawing/work_watch.h"
 #include "desk/dxf/findings.h"
 #include "desk/lisp/error.h"
 #include "desk/lisp/printer.h"
@@ -127,8 +128,10 @@ std::unique_ptr<drawing::Drawing> Desk::openOrRecover(const std::string& path) {
                                      ". Work on with the copy of them?");
         std::unique_ptr<drawing::Drawing> drawing;
         if (wanted) {
-            const dxf::FileBytes bytes = dxf::readFile(copies.front().string());
-            drawing = drawing::Drawing::parse({bytes.data.get(), bytes.size}, path);
+            drawing = readAside(path, [path, copy = copies.front().string()] {
+                const dxf::FileBytes bytes = dxf::readFile(copy);
+                return drawing::Drawing::parse({bytes.data.get(), bytes.size}, path);
+            });
         } else {
             drawing = readAside(path, [path] { return drawing::Drawing::open(path); });
         }
@@ -147,6 +150,7 @@ std::unique_ptr<drawing::Drawing> Desk::readAside(const std::string& path, Read 
     if (!aside_) return read();
     const auto made = std::make_shared<std::unique_ptr<drawing::Drawing>>();
     aside_(path, [made, read = std::move(read), readied = readied_] {
+        if (readied) drawing::WorkWatch::stage(0, 0.4);
         *made = read();
         if (readied) readied(**made);
     });

@@ -35,7 +35,8 @@ struct DeskOptions {
     /// Runs a reading that takes long, which touches nothing of the desk's, and returns when it is done; for
     /// a program that stays alive meanwhile. What it raises ends the opening. Empty: it is just called.
     std::function<void(const std::string& path, std::function<void()> reading)> aside;
-    /// Called by that reading with what was read, before anybody else has it. May be empty.
+    /// Called by that reading with what was read, before anybody else has it. May be empty. Reading and this
+    /// tell drawing::WorkWatch of their progress.
     std::function<void(const drawing::Drawing&)> readied;
     /// Called again and again while a command works; it may raise UserBreak. May be empty.
     std::function<void()> watch;

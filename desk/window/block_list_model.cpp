@@ -44,10 +44,8 @@ QVariant BlockListModel::data(const QModelIndex& index, int role) const {
     const QString name = qt_face::toShown(shown.name);
     if (role == Qt::DisplayRole) return name;
     if (role == Qt::AccessibleTextRole) {
-        return tr("%1, %2 references, attributes: %3")
-            .arg(name)
-            .arg(shown.references)
-            .arg(joined(shown.tags));
+        const QString references = tr("%n references", nullptr, static_cast<int>(shown.references));
+        return tr("%1, %2, attributes: %3").arg(name, references, joined(shown.tags));
     }
     if (role == Qt::ToolTipRole && !shown.tags.empty())
         return qt_face::plainTip(name + "\n" + joined(shown.tags));

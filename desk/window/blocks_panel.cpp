@@ -71,7 +71,7 @@ void BlocksPanel::filter() {
               !hasDrawing_    ? tr("No drawing is open")
               : rows_.empty() ? tr("The drawing has no blocks")
                               : tr("No block matches"));
-    hiddenCount_->setText(tr("%1 of dimensions (*D…) hidden").arg(hidden));
+    hiddenCount_->setText(tr("%n of dimensions (*D…) hidden", nullptr, static_cast<int>(hidden)));
     hiddenCount_->setVisible(hidden > 0);
     eye_->setIcon(icon(eye_->isChecked() ? "eye-off" : "eye"));
     model_->setRows(std::move(shown));

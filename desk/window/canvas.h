@@ -138,6 +138,8 @@ class Canvas : public QWidget {
     void cornerTakenBack();
     /// A letter, digit or sign typed on the canvas.
     void typed(const QString& text);
+    /// A key for what is typed already: Enter, Space, Backspace or Esc.
+    void typedKey(QKeyEvent* key);
     void cursorMoved(const geometry::Point3& point);
     void snapChanged(bool on);
     void orthoChanged(bool on);

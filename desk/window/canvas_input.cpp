@@ -20,6 +20,12 @@ bool isFar(const QPointF& a, const QPointF& b) {
     return std::abs(a.x() - b.x()) > kDrag || std::abs(a.y() - b.y()) > kDrag;
 }
 
+/// Keys that belong to what is typed as long as there is something: the command line may be hidden.
+bool isForLine(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space ||
+           key == Qt::Key_Backspace || key == Qt::Key_Escape;
+}
+
 }  // namespace
 
 void CanvasState::press(QMouseEvent& event) {
@@ -131,6 +137,10 @@ void CanvasState::wheel(QWheelEvent& event) {
 }
 
 bool CanvasState::key(QKeyEvent& event) {
+    if (!typed.isEmpty() && isForLine(event.key())) {
+        emit canvas.typedKey(&event);
+        return true;
+    }
     switch (event.key()) {
         case Qt::Key_Escape:
             if (zoomsWindow || corner) {
@@ -147,7 +157,7 @@ bool CanvasState::key(QKeyEvent& event) {
         case Qt::Key_Backtab:
             return cycle();
         case Qt::Key_Space:
-            if (typed.isEmpty() && cycle()) return true;
+            if (cycle()) return true;
             emit canvas.finished();
             return true;
         case Qt::Key_Return:
@@ -155,7 +165,7 @@ bool CanvasState::key(QKeyEvent& event) {
             emit canvas.finished();
             return true;
         case Qt::Key_Backspace:
-            if ((prompt.isPolygon || prompt.isFence) && typed.isEmpty()) {
+            if (prompt.isPolygon || prompt.isFence) {
                 emit canvas.cornerTakenBack();
                 return true;
             }

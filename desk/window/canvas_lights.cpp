@@ -40,10 +40,8 @@ void CanvasLights::drawWith(QPainter& painter, const Frame& frame, const Light& 
     picture::RenderOptions options;
     options.frame = frame;
     options.solidLines = true;
-    // What lights up follows the mouse; of more than that time allows a part will do.
-    constexpr qint64 kLongest = 60;
     QElapsedTimer timer;
-    options.leaveOff = [&timer] { return timer.elapsed() > kLongest; };
+    options.leaveOff = [&] { return timer.elapsed() > light.longest; };
     painter::QtCanvas::Style style;
     style.fillOpacity = kFillOpacity;
     const auto drawInto = [&](QPainter& on, double width) {

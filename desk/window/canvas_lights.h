@@ -21,7 +21,8 @@ struct Light {
     double haloOpacity = 0.3;
     bool dotted = false;
     bool dashed = false;
-    double grip = 0;  ///< side of a square at the insertion point
+    double grip = 0;   ///< side of a square at the insertion point
+    int longest = 60;  ///< ms that lines and halo may take each; of what takes longer a part is lit
 };
 
 /// Draws entities of a space over its picture, in device pixels.

@@ -125,10 +125,28 @@ void CanvasState::paintPointer(QPainter& painter) {
         light.drawBlock(painter, prompt.hanging, placement, prompt.hangingValues,
                         {tone(Token::Preview), {}, 1.2, 0, 0, false, true, 0});
     }
+    paintHovered(painter);
+}
+
+/// It stays lit while the mouse moves on over it, so it is kept.
+void CanvasState::paintHovered(QPainter& painter) {
+    constexpr int kLongest = 7;  // the mouse waits for it
     const EntityId hovered = cycleList.chosen();
     if (hovered == drawing::kNoEntity) return;
-    light.draw(painter, {hovered},
-               {{}, scheme == Scheme::Dark ? Qt::white : Qt::black, 2, 7, 0.22, false, false, 0});
+    const QSize size(static_cast<int>(view.width()), static_cast<int>(view.height()));
+    if (hovered != hoverOf_ || hoverLayer_.size() != size) {
+        hoverLayer_ = QImage(size, QImage::Format_ARGB32_Premultiplied);
+        hoverLayer_.fill(Qt::transparent);
+        hoverOf_ = hovered;
+        QPainter on(&hoverLayer_);
+        Light light;
+        light.mixWith = scheme == Scheme::Dark ? Qt::white : Qt::black;
+        light.halo = 7;
+        light.haloOpacity = 0.22;
+        light.longest = kLongest;
+        lights().draw(on, {hovered}, light);
+    }
+    painter.drawImage(QPointF(0, 0), hoverLayer_);
 }
 
 void CanvasState::paintAxes(QPainter& painter) {
@@ -241,6 +259,17 @@ void CanvasState::paintPolygon(QPainter& painter) {
     }
 }
 
+/// Of what hangs at the cursor, in logical pixels; empty for nothing.
+QSizeF CanvasState::hangingSize() const {
+    const bool asksPoint = prompt.asking == Asking::Point || prompt.asking == Asking::Angle;
+    if (prompt.hanging == drawing::kNoBlock || !asksPoint) return {};
+    const geometry::Box box = picture->extents(prompt.hanging);
+    if (box.empty()) return {};
+    const double scale = view.projection().scale() / ratio();
+    return {(box.high.x - box.low.x) * scale * std::abs(prompt.hangingScale.x),
+            (box.high.y - box.low.y) * scale * std::abs(prompt.hangingScale.y)};
+}
+
 void CanvasState::paintCross(QPainter& painter) {
     const bool asksPoint = prompt.asking == Asking::Point || prompt.asking == Asking::Angle;
     const bool picksEntity = prompt.asking == Asking::Entity || prompt.asking == Asking::Selection;
@@ -259,13 +288,8 @@ void CanvasState::paintCross(QPainter& painter) {
                                          : kCrossHair;
         // The cross leaves a hanging label's box, and a pick box, free.
         double free = asksPoint ? 0 : kPickBox / 2;
-        if (prompt.hanging != drawing::kNoBlock && asksPoint) {
-            const geometry::Box box = picture->extents(prompt.hanging);
-            if (!box.empty()) {
-                const double scale = view.projection().scale() / ratio();
-                free = std::hypot(box.high.x - box.low.x, box.high.y - box.low.y) / 2 * scale *
-                       std::max(std::abs(prompt.hangingScale.x), std::abs(prompt.hangingScale.y));
-            }
+        if (const QSizeF hanging = hangingSize(); !hanging.isEmpty()) {
+            free = std::hypot(hanging.width(), hanging.height()) / 2;
         }
         for (const QPointF& along : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)}) {
             painter.drawLine(at + along * free, at + along * (free + arm));

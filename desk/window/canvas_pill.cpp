@@ -98,6 +98,8 @@ void CanvasState::paintPill(QPainter& painter) {
                                            : typed,
                            true, !inSecond});
         rows[0].push_back({inSecond ? typed.mid(comma + 1) : number(at.y), true, inSecond});
+    } else if (!typed.isEmpty()) {
+        rows[0].push_back({shortened(typed), true, true});
     }
     const QFont text = canvas.font();
     QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -129,10 +131,13 @@ void CanvasState::paintPill(QPainter& painter) {
     }
     const QRectF all = QRectF(canvas.rect()).adjusted(4, 4, -4, -4);
     const QSizeF size(width, total);
-    const QPointF places[] = {{cursor.x() + kRight, cursor.y() + kBelow},
-                              {cursor.x() + kRight, cursor.y() - kBelow - total},
-                              {cursor.x() - kRight - width, cursor.y() + kBelow},
-                              {cursor.x() - kRight - width, cursor.y() - kBelow - total}};
+    // A label that hangs at the cursor stays free, unless it fills the view.
+    const double hanging = hangingSize().height() / 2 + kGap;
+    const double below = hanging < all.height() / 4 ? std::max(kBelow, hanging) : kBelow;
+    const QPointF places[] = {{cursor.x() + kRight, cursor.y() + below},
+                              {cursor.x() + kRight, cursor.y() - below - total},
+                              {cursor.x() - kRight - width, cursor.y() + below},
+                              {cursor.x() - kRight - width, cursor.y() - below - total}};
     QRectF box(places[0], size);
     bool found = false;
     for (const bool overLit : {false, true}) {

@@ -126,14 +126,22 @@ void CanvasPrompter::message(const std::string& text) { emit told(qt_face::toSho
 
 void CanvasPrompter::showPrompt() {
     canvas_.ask(prompt_);
-    QString hint = tr("Enter ends, Esc goes back");
-    if (prompt_.asking == Asking::Entity) hint = tr("Tab or Space next, Esc goes back");
+    QString hint = tr("Enter ends, Esc back");
+    QVector<PromptOption> options;
+    if (prompt_.asking == Asking::Entity) {
+        hint = tr("Tab or Space next, Esc back");
+        options = {{tr("Last"), "L"}};
+    }
     if (prompt_.asking == Asking::Selection) {
-        hint = removing_ ? tr("Picks take out of the selection, A adds again, Enter ends")
-                         : tr("W C ALL P L R F, Shift takes out, Enter ends");
+        hint = removing_ ? tr("Picks take out, Enter ends") : tr("Shift takes out, Enter ends");
+        options = {
+            {tr("All"), "ALL"},  {tr("Previous"), "P"},
+            {tr("Last"), "L"},   removing_ ? PromptOption{tr("Add"), "A"} : PromptOption{tr("Remove"), "R"},
+            {tr("Window"), "W"}, {tr("Crossing"), "C"},
+            {tr("Fence"), "F"}};
     }
     if (prompt_.isPolygon || prompt_.isFence) hint = tr("Backspace takes the last corner, Enter ends");
-    line_.setPrompt(prompt_.text, hint);
+    line_.ask(prompt_.text, options, hint);
 }
 
 void CanvasPrompter::wait() {
@@ -346,7 +354,7 @@ void CanvasPrompter::select(const std::vector<EntityId>& found) {
             if (known.insert(id).second) selected.push_back(id);
         }
     }
-    emit told(tr("%1 found, %2 total").arg(found.size()).arg(selected.size()));
+    emit told(tr("%n found, %1 total", nullptr, static_cast<int>(found.size())).arg(selected.size()));
     canvas_.setSelection(std::move(selected));
 }
 

@@ -337,6 +337,7 @@ CanvasLights CanvasState::lights() const { return {*picture, space, view, inks, 
 
 void CanvasState::litChanged() {
     litIsOld_ = true;
+    hoverOf_ = drawing::kNoEntity;
     canvas.update();
 }
 

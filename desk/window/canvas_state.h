@@ -130,6 +130,7 @@ class CanvasState {
   private:
     void paintLit(QPainter& painter);
     void paintPointer(QPainter& painter);
+    void paintHovered(QPainter& painter);
     void paintRectangle(QPainter& painter);
     void paintBands(QPainter& painter);
     void paintPolygon(QPainter& painter);
@@ -144,6 +145,7 @@ class CanvasState {
     void paintAxes(QPainter& painter);
     QStringList tipLines() const;
     QString measures() const;
+    QSizeF hangingSize() const;
     void fitWhenNew();
     void step();
     QPointF logical(const geometry::Point3& point) const;
@@ -151,6 +153,8 @@ class CanvasState {
 
     QImage litLayer_;  ///< selection, marks and flash, kept while neither they nor the view change
     bool litIsOld_ = true;
+    QImage hoverLayer_;  ///< what is lit under the cursor, of `hoverOf_`
+    drawing::EntityId hoverOf_ = drawing::kNoEntity;
     std::vector<QRectF> hiddenLit_;
     QRectF pill_;
 };

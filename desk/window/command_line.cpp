@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -23,6 +24,7 @@ constexpr int kMostLines = 2000;
 constexpr int kOfferedRows = 8;
 constexpr int kOfferFrom = 2;  ///< letters
 constexpr int kShownLines = 3;
+constexpr int kRoomToType = 160;  ///< is left free by the hint at the right
 
 /// A Lisp expression or a text in it: blanks belong to it.
 bool holdsBlanks(const QString& text) { return text.startsWith('(') || text.startsWith('!'); }
@@ -35,7 +37,10 @@ CommandLine::CommandLine(QWidget* parent)
       frame_(new QFrame(this)),
       sign_(new QLabel(">", frame_)),
       prompt_(new QLabel(frame_)),
+      options_(new QWidget(frame_)),
+      optionRow_(new QHBoxLayout(options_)),
       input_(new QLineEdit(frame_)),
+      hint_(new QLabel(frame_)),
       offered_(new QListWidget(this)) {
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     setObjectName("commandLine");
@@ -57,6 +62,13 @@ CommandLine::CommandLine(QWidget* parent)
     bold.setBold(true);
     for (QLabel* label : {sign_, prompt_}) label->setFont(bold);
     prompt_->setTextFormat(Qt::PlainText);
+    prompt_->setMinimumWidth(1);  // a long one is cut rather than that it widens the window
+    optionRow_->setContentsMargins(0, 0, 0, 0);
+    optionRow_->setSpacing(0);
+    options_->setFont(fixed);
+    options_->setMinimumWidth(1);
+    hint_->setObjectName("secondText");
+    hint_->setTextFormat(Qt::PlainText);
     input_->setFont(fixed);
     input_->setFrame(false);
     input_->setObjectName("commandInput");
@@ -65,7 +77,9 @@ CommandLine::CommandLine(QWidget* parent)
     row->setSpacing(8);
     row->addWidget(sign_);
     row->addWidget(prompt_);
+    row->addWidget(options_);
     row->addWidget(input_, 1);
+    row->addWidget(hint_);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(8, 6, 8, 6);
@@ -106,6 +120,47 @@ void CommandLine::setPrompt(const QString& prompt, const QString& hint) {
     input_->setPlaceholderText(hint);
     input_->setAccessibleName(prompt.isEmpty() ? tr("Command line") : prompt.trimmed());
     history_->setAccessibleName(tr("Command history"));
+    while (QLayoutItem* item = optionRow_->takeAt(0)) {
+        item->widget()->hide();  // at once: in a prompt's own loop the deletion waits for its end
+        item->widget()->deleteLater();
+        delete item;
+    }
+    options_->hide();
+    hint_->hide();
+    hint_->clear();
+}
+
+void CommandLine::ask(const QString& question, const QVector<PromptOption>& options, const QString& hint) {
+    setPrompt(question, {});
+    hint_->setText(hint);
+    for (const PromptOption& option : options) addOption(optionRow_->isEmpty() ? "[" : "/", option);
+    if (!options.isEmpty()) {
+        optionRow_->addWidget(new QLabel("]", options_));
+        options_->show();
+    }
+    fitHint();
+}
+
+void CommandLine::addOption(const QString& sign, const PromptOption& option) {
+    optionRow_->addWidget(new QLabel(sign, options_));
+    auto* link = new QPushButton(option.name, options_);
+    link->setObjectName("link");
+    link->setFont(options_->font());
+    link->setToolTip(option.answer);
+    link->setCursor(Qt::PointingHandCursor);
+    link->setFocusPolicy(Qt::NoFocus);
+    connect(link, &QPushButton::clicked, this, [this, answer = option.answer] {
+        clear();
+        emit lineEntered(answer);
+    });
+    optionRow_->addWidget(link);
+}
+
+/// The hint stands where there is room besides what is typed.
+void CommandLine::fitHint() {
+    int used = kRoomToType + sign_->sizeHint().width() + prompt_->sizeHint().width();
+    if (!options_->isHidden()) used += options_->sizeHint().width();
+    hint_->setVisible(!hint_->text().isEmpty() && used + hint_->sizeHint().width() < frame_->width());
 }
 
 void CommandLine::setBlocked(bool blocked, const QString& why) {
@@ -122,6 +177,11 @@ void CommandLine::type(const QString& text) {
     focusInput();
     input_->insert(text);
     offer();
+}
+
+void CommandLine::pass(const QKeyEvent& key) {
+    QKeyEvent copy(QEvent::KeyPress, key.key(), key.modifiers(), key.text());
+    QCoreApplication::sendEvent(input_, &copy);
 }
 
 QString CommandLine::text() const { return input_->text(); }
@@ -257,7 +317,7 @@ void CommandLine::offer() {
         offered_->addItems(middles);
     }
     const bool whole = offered_->count() == 1 && offered_->item(0)->text() == begun;
-    if (offered_->count() == 0 || whole) {
+    if (offered_->count() == 0 || whole || !isVisible()) {
         offered_->hide();
         return;
     }
@@ -288,6 +348,11 @@ void CommandLine::paste(const QString& text) {
 void CommandLine::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) history_->setAccessibleName(tr("Command history"));
+}
+
+void CommandLine::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    fitHint();
 }
 
 void CommandLine::hideEvent(QHideEvent* event) {

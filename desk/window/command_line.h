@@ -1,15 +1,24 @@
 #pragma once
 
 #include <QStringList>
+#include <QVector>
 #include <QWidget>
 
 class QFrame;
+class QHBoxLayout;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
 
 namespace window {
+
+/// An answer that a prompt offers: its name, and what is typed for it.
+struct PromptOption {
+    QString name;
+    QString answer;
+};
 
 /// The command line below the drawing: the last lines of the session, and the input with history and
 /// completion. It knows no command: a line that was entered is a signal.
@@ -27,10 +36,14 @@ class CommandLine : public QWidget {
     void tell(const QString& line);
     /// The prompt in front of the input, and what stands in the empty input.
     void setPrompt(const QString& prompt, const QString& hint);
+    /// A question: its options stand behind it as links, and `hint` at the right.
+    void ask(const QString& question, const QVector<PromptOption>& options, const QString& hint);
     /// While no command can be begun the line shows why and takes nothing.
     void setBlocked(bool blocked, const QString& why = {});
     /// Letters typed elsewhere: they go to the input, which gets the focus.
     void type(const QString& text);
+    /// A key that was pressed elsewhere and acts on what is typed.
+    void pass(const QKeyEvent& key);
     QString text() const;
     void clear();
     void focusInput();
@@ -49,9 +62,12 @@ class CommandLine : public QWidget {
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
   private:
+    void addOption(const QString& sign, const PromptOption& option);
+    void fitHint();
     bool keyPressed(int key, Qt::KeyboardModifiers modifiers);
     void enter();
     void recall(int step);
@@ -63,7 +79,10 @@ class CommandLine : public QWidget {
     QFrame* frame_;
     QLabel* sign_;
     QLabel* prompt_;
+    QWidget* options_;
+    QHBoxLayout* optionRow_;
     QLineEdit* input_;
+    QLabel* hint_;
     QListWidget* offered_;
     QStringList words_;
     QStringList argumentWords_;

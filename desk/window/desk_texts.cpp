@@ -54,8 +54,10 @@ QString deskText(const QString& line) {
     for (const Pattern& pattern : patterns) {
         const QRegularExpressionMatch match = pattern.fits.match(line);
         if (!match.hasMatch()) continue;
-        QString text = QCoreApplication::translate("window", pattern.text);
         const QStringList parts = match.capturedTexts().mid(1);
+        // Of a text that counts, the first part is the number.
+        const int count = parts.isEmpty() ? -1 : parts[0].toInt();
+        const QString text = QCoreApplication::translate("window", pattern.text, nullptr, count);
         if (parts.size() == 1) return text.arg(parts[0]);
         if (parts.size() == 2) return text.arg(parts[0], parts[1]);
         return text;

@@ -8,13 +8,14 @@
 #include "desk/window/work.h"
 #include "faces/qt/qt_text.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QTimer>
+#include <memory>
 
 namespace window {
 
@@ -70,6 +71,7 @@ bool Files::openAsked() {
 }
 
 bool Files::open(const QString& path) {
+    if (isReading()) return false;
     const QString full = QFileInfo(path).absoluteFilePath();
     const QString name = QFileInfo(full).fileName();
     const QFileInfo before(full);
@@ -102,11 +104,18 @@ bool Files::open(const QString& path) {
 }
 
 void Files::readAside(const QString& path, std::function<void()> reading) {
-    if (!workAside(bar_, status_, tr("Opening %1").arg(qt_face::toShown(QFileInfo(path).fileName())),
-                   std::move(reading))) {
+    readName_ = qt_face::toShown(QFileInfo(path).fileName());
+    emit readingChanged();
+    const auto end = [this](const QString*) {
+        readName_.clear();
+        emit readingChanged();
+    };
+    const std::unique_ptr<const QString, decltype(end)> reads(&readName_, end);
+    if (!workAside(bar_, status_, tr("Opening %1").arg(readName_), std::move(reading)))
         throw shell::UserBreak();
-    }
 }
+
+void Files::giveUpReading() { emit status_.cancelAsked(); }
 
 bool Files::save() {
     if (!session_.hasDrawing()) return false;
@@ -146,7 +155,24 @@ bool Files::saveTo(const QString& path) {
     return write(wanted.absoluteFilePath());
 }
 
+/// The disk may take its time with a large drawing: then the window says so beforehand, as it stands still.
+void Files::showSaving(const QString& path) {
+    constexpr qint64 kLarge = 8'000'000;
+    if (QFileInfo(QString::fromStdString(session_.drawing().path())).size() < kLarge) return;
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    bar_.setBusy(true);
+    status_.showWork(tr("Saving %1").arg(QFileInfo(path).fileName()), -1, false);
+    bar_.repaint();
+    status_.repaint();
+    QTimer::singleShot(0, this, [this] {
+        QApplication::restoreOverrideCursor();
+        bar_.setBusy(false);
+        status_.endWork();
+    });
+}
+
 bool Files::write(const QString& path) {
+    showSaving(path.isEmpty() ? QString::fromStdString(session_.drawing().path()) : path);
     try {
         session_.save(path);
     } catch (const basic::Error& error) {

@@ -40,6 +40,11 @@ class Files : public QObject {
     /// Runs a reading with the window alive; raises shell::UserBreak when the user gives up.
     void readAside(const QString& path, std::function<void()> reading);
 
+    /// A drawing is being read: meanwhile the one of before takes no changes, which it would lose.
+    bool isReading() const { return !readName_.isEmpty(); }
+    const QString& readName() const { return readName_; }
+    void giveUpReading();
+
     const QStringList& recent() const { return recent_; }
     void forgetRecent();
     /// The drawing's file name, empty for none.
@@ -48,9 +53,11 @@ class Files : public QObject {
 
   signals:
     void recentChanged();
+    void readingChanged();
 
   private:
     bool write(const QString& path);
+    void showSaving(const QString& path);
     void remember(const QString& path);
     void watch();
     void fileChanged();
@@ -67,6 +74,7 @@ class Files : public QObject {
     QStringList recent_;
     QDateTime stamp_;  ///< of the file as we read or wrote it
     qint64 size_ = -1;
+    QString readName_;
     bool isConverted_ = false;  ///< of a DWG file: it has no file of its own yet
 };
 

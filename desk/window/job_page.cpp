@@ -138,8 +138,9 @@ void JobPage::show(const ReplacementView& view) {
     toPicture_->setPixmap(view.toPicture);
     from_->setText(view.from.isEmpty() ? QString::fromUtf8("—") : qt_face::toShown(view.from));
     to_->setText(view.to.isEmpty() ? QString::fromUtf8("—") : qt_face::toShown(view.to));
-    fromCount_->setText(tr("%1 references").arg(view.fromReferences));
-    toCount_->setText(view.to.isEmpty() ? QString() : tr("%1 references").arg(view.toReferences));
+    fromCount_->setText(tr("%n references", nullptr, static_cast<int>(view.fromReferences)));
+    toCount_->setText(view.to.isEmpty() ? QString()
+                                        : tr("%n references", nullptr, static_cast<int>(view.toReferences)));
     clearRows();
     addRows(tr("Attribute values"), view.values, Rows::Feeding);
     addRows(tr("References"), view.counts, Rows::Counts);

@@ -115,7 +115,32 @@ void JobView::update() {
 
 void JobView::hold(bool on) {
     held_ = on;
+    run_.reset();
     if (!on) update();
+}
+
+/// A replacement takes away what was lit, an insertion adds a reference for each row.
+double JobView::share() {
+    if (watch_.shown().empty() || !session_.hasDrawing()) return -1;
+    const drawing::Drawing& drawing = session_.drawing();
+    forms::Form* form = watch_.shown().back();
+    const bool replaces = form->name() == "fmReplace";
+    if (!replaces && form->name() != "fmReInsert") return -1;
+    if (!run_) {
+        auto* rows = find<forms::ListView>(form, "ListView2");
+        run_ = Run{replaces ? marks_.lit.size()
+                   : rows   ? static_cast<std::size_t>(rows->listItems().count())
+                            : 0,
+                   0, session_.firstOfCommand()};
+    }
+    Run& run = *run_;
+    if (replaces) {
+        while (run.done < run.all && drawing.isErased(marks_.lit[run.done])) ++run.done;
+    } else {
+        for (; run.next < drawing.firstFree(); ++run.next)
+            run.done += drawing.isErased(run.next) || drawing.type(run.next) != "INSERT" ? 0 : 1;
+    }
+    return run.all == 0 ? -1 : static_cast<double>(run.done) / static_cast<double>(run.all);
 }
 
 void JobView::end() {
@@ -186,7 +211,8 @@ void JobView::showReplacement(forms::Form& form) {
     const auto hidden = std::count_if(marks_.lit.begin(), marks_.lit.end(),
                                       [&drawing](EntityId id) { return !drawing.common(id).visible; });
     emit marksChanged(tr("%1 lit").arg(marks_.lit.size()) + "   " +
-                      tr("%1 in view, %2 invisible").arg(canvas_.inView(marks_.lit)).arg(hidden));
+                      tr("%1 in view").arg(canvas_.inView(marks_.lit)) + ", " +
+                      tr("%n invisible", nullptr, static_cast<int>(hidden)));
 }
 
 std::size_t JobView::countOf(const QString& block) {
@@ -271,7 +297,7 @@ void JobView::showExtraction(forms::Form& form) {
     const int rows = table->listItems().count();
     const bool fits = rows > 0 && static_cast<std::size_t>(rows) == marks_.lit.size();
     if (!fits) marks_.lit.clear();
-    QString shown = tr("%1 rows").arg(rows);
+    QString shown = tr("%n rows", nullptr, rows);
     if (fits && table->hasSelectedItem()) {
         const int row = table->selectedItem().index();
         marks_.shownRow = marks_.lit[static_cast<std::size_t>(row - 1)];
@@ -325,8 +351,8 @@ void JobView::showInsertion(forms::Form& form) {
         view.counts.emplace_back(tr("Failed"), QString::number(failedRows_.size()));
         for (const auto& [row, reason] : failedRows_) {
             if (static_cast<int>(view.faults.size()) == kMostFaults) {
-                view.note = tr("and %1 more, marked in the table")
-                                .arg(failedRows_.size() - static_cast<std::size_t>(kMostFaults));
+                view.note = tr("and %n more, marked in the table", nullptr,
+                               static_cast<int>(failedRows_.size()) - kMostFaults);
                 break;
             }
             view.faults.emplace_back(QString::number(row), reason);

@@ -31,6 +31,8 @@ class JobView : public QObject {
     void update();
     /// While the drawing is worked on nothing is shown; what changed is when the hold ends.
     void hold(bool on);
+    /// How far the run of the dialog on top has come, below 0 where that isn't known.
+    double share();
     /// All references that are lit now.
     const std::vector<drawing::EntityId>& lit() const { return marks_.lit; }
     /// Adds what the command in hand wants shown with a prompt.
@@ -80,6 +82,12 @@ class JobView : public QObject {
     QString prefillBlock_;
     std::map<QString, std::size_t> counts_;  ///< references by block, of `countedRevision_`
     std::uint64_t countedRevision_ = 0;
+    struct Run {
+        std::size_t all = 0;   ///< references that it makes or takes away
+        std::size_t done = 0;  ///< of them so far
+        drawing::EntityId next = 0;
+    };
+    std::optional<Run> run_;  ///< the one at hand, from its first question for the share on
 };
 
 }  // namespace window

@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QStyleFactory>
+#include <QTimer>
 #include <csignal>
 #include <exception>
 #include <iostream>
@@ -86,7 +87,10 @@ int main(int argc, char** argv) {
         };
         window::MainWindow window(deskOptions(parser.value(regional)), face, settings, desktop);
         window.show();
-        if (!parser.positionalArguments().isEmpty()) window.open(parser.positionalArguments().front());
+        // From the event loop, so that the window can be closed while it reads.
+        if (!parser.positionalArguments().isEmpty()) {
+            QTimer::singleShot(0, &window, [&] { window.open(parser.positionalArguments().front()); });
+        }
         return QApplication::exec();
     } catch (const basic::Error& error) {
         QMessageBox::critical(nullptr, "Vorlane", qt_face::toShown(error.description()));

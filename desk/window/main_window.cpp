@@ -25,6 +25,7 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTimer>
+#include <algorithm>
 
 namespace window {
 
@@ -62,6 +63,7 @@ MainWindow::MainWindow(const shell::DeskOptions& options, const MakeFace& face, 
     session_ = new Session(options_, *watch_, *prompter_, this);
     files_ = new Files(*this, *session_, *busy_, *status_, *notice_, settings_);
     jobs_ = new JobView(*session_, *watch_, *canvas_, *prompter_, options_.regional, this);
+    work_->setShare([this] { return jobs_->share(); });
     connectParts();
     connectSession();
     // What a command that waits for its user has done so far must survive too.
@@ -92,7 +94,7 @@ void MainWindow::showHelp(const std::filesystem::path& page) {
     help_->showPage(QString::fromStdString(page.string()));
 }
 
-bool MainWindow::isBlocked() const { return session_->isRunning(); }
+bool MainWindow::isBlocked() const { return session_->isRunning() || files_->isReading(); }
 
 void MainWindow::open(const QString& path) { files_->open(path); }
 
@@ -165,6 +167,10 @@ void MainWindow::updatePrompt() {
         commandLine_->setBlocked(false);
         return;
     }
+    if (files_->isReading()) {
+        commandLine_->setBlocked(true, tr("Opening %1").arg(files_->readName()));
+        return;
+    }
     if (isBlocked()) {
         const QString name = watch_->shown().empty()
                                  ? session_->runningName()
@@ -229,7 +235,7 @@ void MainWindow::selectionChanged() {
     properties_->show(drawing(), selected);
     if (!selected.empty()) {
         previousSelection_ = selected;
-        status_->showResult(tr("%1 selected").arg(selected.size()));
+        status_->showResult(tr("%n selected", nullptr, static_cast<int>(selected.size())));
         showsSelection_ = true;
         const drawing::Drawing* open = drawing();
         if (open->type(selected.front()) == "INSERT") {
@@ -253,17 +259,21 @@ void MainWindow::commandEnded(shell::Desk::Outcome outcome) {
         return;
     }
     applyLanguage();
-    const auto count = session_->fresh().size();
     const QString name = session_->runningName();
+    // Of what a job brings in, the references count: a leader line comes with its label.
+    const auto count = static_cast<int>(
+        std::count_if(session_->fresh().begin(), session_->fresh().end(), [&](drawing::EntityId id) {
+            return !name.startsWith("VN") || session_->drawing().type(id) == "INSERT";
+        }));
     const QStringList links{tr("Show"), tr("Undo")};
     if (outcome == shell::Desk::Outcome::Failed) {
         status_->showResult(tr("%1 failed; the history tells why").arg(name), StatusLine::Tone::Failed);
     } else if (count > 0) {
-        const QString done = name == "VNREPLACE"  ? tr("%1 replaced")
-                             : name == "VNLABEL"  ? tr("%1 placed")
-                             : name == "VNINSERT" ? tr("%1 inserted")
-                                                  : tr("%1 added");
-        status_->showResult(done.arg(count), StatusLine::Tone::Done, links);
+        const QString done = name == "VNREPLACE"  ? tr("%n replaced", nullptr, count)
+                             : name == "VNLABEL"  ? tr("%n placed", nullptr, count)
+                             : name == "VNINSERT" ? tr("%n inserted", nullptr, count)
+                                                  : tr("%n added", nullptr, count);
+        status_->showResult(done, StatusLine::Tone::Done, links);
     } else {
         status_->showResult({});
     }
@@ -297,6 +307,11 @@ void MainWindow::chooseSpace(int tab) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
+    if (files_->isReading()) {
+        files_->giveUpReading();
+        QTimer::singleShot(0, this, &QWidget::close);
+        return;
+    }
     if (isBlocked()) {
         // The command holds the drawing: it is ended first, a prompt by breaking it off.
         prompter_->breakOff();

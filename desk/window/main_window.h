@@ -125,7 +125,7 @@ class MainWindow : public QMainWindow {
     Scheme canvasScheme_ = Scheme::Dark;
     Translation translation_;
     QTranslator toolkitTranslation_;  ///< of file dialogs, where Debian's package of it is installed
-    QString language_;                ///< file of the texts in use, empty for English
+    QString language_;                ///< file of the texts in use
 
     QMap<QString, QAction*> actions_;
     QToolBar* tools_ = nullptr;

@@ -153,9 +153,10 @@ void MainWindow::selectCommand(const QString& id) {
 void MainWindow::eraseSelection() {
     const std::vector<drawing::EntityId> selected = canvas_->selection();
     if (selected.empty()) return;
-    session_->edit(tr("Erasure of %1").arg(selected.size()), [&selected](drawing::Drawing& drawing) {
-        for (const drawing::EntityId entity : selected) drawing.erase(entity);
-    });
+    session_->edit(tr("Erasure of %n entities", nullptr, static_cast<int>(selected.size())),
+                   [&selected](drawing::Drawing& drawing) {
+                       for (const drawing::EntityId entity : selected) drawing.erase(entity);
+                   });
 }
 
 void MainWindow::changeLayer(LayerAct act, const QString& layer) {

@@ -108,7 +108,7 @@ QWidget* MainWindow::buildRightDock() {
         return canvas_->blockPicture(block, box, std::nullopt, true);
     };
     const auto edit = [this](const QString& name, const std::function<void(drawing::Drawing&)>& change) {
-        session_->edit(name, change);
+        if (!isBlocked()) session_->edit(name, change);
     };
     properties_ = new PropertiesPanel(picture, edit, this);
     page_ = new JobPage(this);
@@ -183,6 +183,7 @@ void MainWindow::buildTools() {
 void MainWindow::connectParts() {
     connect(canvas_, &Canvas::selectionChanged, this, &MainWindow::selectionChanged);
     connect(canvas_, &Canvas::typed, commandLine_, &CommandLine::type);
+    connect(canvas_, &Canvas::typedKey, this, [this](QKeyEvent* key) { commandLine_->pass(*key); });
     connect(canvas_, &Canvas::brokenOff, this, [this] {
         if (!prompter_->isAsking()) escape();
     });
@@ -310,6 +311,7 @@ void MainWindow::connectSession() {
             text, StatusLine::Tone::Plain,
             text.isEmpty() ? QStringList() : QStringList{tr("Show all"), tr("Previous view")});
     });
+    connect(files_, &Files::readingChanged, this, &MainWindow::updateBlocking);
     connect(files_, &Files::recentChanged, this, [this] {
         QMenu* menu = actions_["recent"]->menu();
         menu->clear();

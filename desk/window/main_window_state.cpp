@@ -56,23 +56,22 @@ void MainWindow::applyScheme() {
 }
 
 void MainWindow::applyLanguage() {
-    QString file;
+    std::string language;
     try {
-        file = translationFile(shell::storedLanguage(options_.installFolder));
+        language = shell::storedLanguage(options_.installFolder);
     } catch (const std::exception&) {
         // Without settings the window speaks English.
     }
+    const QString file = translationFile(language);
     if (file == language_ && !actions_["open"]->text().isEmpty()) return;
     language_ = file;
     QCoreApplication::removeTranslator(&translation_);
     translation_.read(file);
     QCoreApplication::removeTranslator(&toolkitTranslation_);
-    if (!translation_.isEmpty()) {
-        QCoreApplication::installTranslator(&translation_);
-        if (toolkitTranslation_.load(QLocale::French, "qtbase", "_",
-                                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-            QCoreApplication::installTranslator(&toolkitTranslation_);
-    }
+    QCoreApplication::installTranslator(&translation_);
+    const QLocale locale = file == translationFile({}) ? QLocale::English : QLocale::French;
+    if (toolkitTranslation_.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkitTranslation_);
     retranslate();
 }
 

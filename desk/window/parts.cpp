@@ -81,10 +81,8 @@ void EdgeTab::keyPressEvent(QKeyEvent* event) {
 BusyBar::BusyBar(QWidget* parent) : QWidget(parent), timer_(new QTimer(this)) {
     setFixedHeight(2);
     timer_->setInterval(33);
-    connect(timer_, &QTimer::timeout, this, [this] {
-        phase_ = (phase_ + 2) % 100;
-        update();
-    });
+    connect(timer_, &QTimer::timeout, this, qOverload<>(&BusyBar::update));
+    clock_.start();
 }
 
 void BusyBar::setBusy(bool busy, double share) {
@@ -104,7 +102,9 @@ void BusyBar::paintEvent(QPaintEvent*) {
     if (share_ >= 0) {
         painter.fillRect(QRectF(0, 0, width() * share_, height()), accent);
     } else {
-        painter.fillRect(QRectF(width() * (phase_ - 30) / 100.0, 0, width() * 0.3, height()), accent);
+        constexpr int kRound = 1600;  // ms
+        const double phase = static_cast<double>(clock_.elapsed() % kRound) / kRound;
+        painter.fillRect(QRectF(width() * (phase * 1.3 - 0.3), 0, width() * 0.3, height()), accent);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "desk/window/theme.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 class QHBoxLayout;
@@ -63,9 +64,9 @@ class BusyBar : public QWidget {
 
   private:
     QTimer* timer_;
+    QElapsedTimer clock_;  ///< moves the bar also where no timer does
     bool busy_ = false;
     double share_ = -1;
-    int phase_ = 0;
 };
 
 /// A line below the toolbar that tells what needs an answer but not at once, with its answers at the right.

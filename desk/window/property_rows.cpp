@@ -16,7 +16,9 @@ using drawing::EntityId;
 
 namespace {
 
-QString text(const char* english) { return QCoreApplication::translate("window", english); }
+QString text(const char* english, int count = -1) {
+    return QCoreApplication::translate("window", english, nullptr, count);
+}
 
 constexpr std::string_view kCommonPart = "AcDbEntity";
 constexpr double kDegrees = 180 / geometry::kPi;
@@ -243,7 +245,7 @@ PropertyTitle propertyTitle(const Drawing& drawing, const std::vector<EntityId>&
     title.block = commonBlock(drawing, entities);
     if (title.block != drawing::kNoBlock) title.name = qt_face::toShown(drawing.blocks()[title.block].name);
     if (entities.size() > 1) {
-        const QString count = text("%1 selected").arg(entities.size());
+        const QString count = text("%n selected", static_cast<int>(entities.size()));
         title.kind = title.name.isEmpty() ? QString() : count;
         if (title.name.isEmpty()) title.name = count;
         return title;

@@ -8,6 +8,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QKeyEvent>
+#include <utility>
 
 namespace window {
 
@@ -20,7 +21,7 @@ constexpr qint64 kBetweenLooks = 40;
 }  // namespace
 
 RunWatch::RunWatch(BusyBar& bar, StatusLine& status, QObject* parent)
-    : QObject(parent), bar_(bar), status_(status) {
+    : QObject(parent), bar_(bar), status_(status), preparing_([this](double) { see(); }) {
     sinceTurn_.start();
     sinceSeen_.start();
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this, &RunWatch::turned);
@@ -42,7 +43,7 @@ void RunWatch::turned() {
     QApplication::restoreOverrideCursor();
     bar_.setBusy(false);
     status_.endWork();
-    emit heldUp(false);
+    if (std::exchange(held_, false)) emit heldUp(false);
 }
 
 void RunWatch::breathe() {
@@ -53,15 +54,32 @@ void RunWatch::breathe() {
     if (elapsed > kShowBusyAfter) letSee(elapsed);
 }
 
+void RunWatch::showBusy() {
+    if (std::exchange(busy_, true)) return;
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    bar_.setBusy(true);
+}
+
+/// The event loop stays away: only the signs of the work are painted.
+void RunWatch::see() {
+    if (inside_ || sinceSeen_.elapsed() < kBetweenLooks || sinceTurn_.elapsed() < kShowBusyAfter) return;
+    sinceSeen_.restart();
+    showBusy();
+    bar_.repaint();
+    if (sinceTurn_.elapsed() < kOfferCancelAfter) return;
+    status_.showWork(tr("Preparing the picture"), -1, false);
+    status_.repaint();
+}
+
 void RunWatch::letSee(qint64 elapsed) {
     inside_ = true;
-    if (!busy_) {
-        busy_ = true;
-        emit heldUp(true);
-        QApplication::setOverrideCursor(Qt::BusyCursor);
-        bar_.setBusy(true);
+    if (!std::exchange(held_, true)) emit heldUp(true);
+    showBusy();
+    if (elapsed > kOfferCancelAfter) {
+        const double share = share_ ? share_() : -1;
+        bar_.setBusy(true, share);
+        status_.showWork(tr("Working on the drawing"), share, true);
     }
-    if (elapsed > kOfferCancelAfter) status_.showWork(tr("Working on the drawing"), -1, true);
     qApp->installEventFilter(this);
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     qApp->removeEventFilter(this);

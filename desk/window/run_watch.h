@@ -1,15 +1,18 @@
 #pragma once
 
+#include "desk/drawing/work_watch.h"
+
 #include <QElapsedTimer>
 #include <QObject>
+#include <functional>
 
 namespace window {
 
 class BusyBar;
 class StatusLine;
 
-/// Keeps the window alive while a command works on the drawing without a turn of the event loop: beyond 0.2 s
-/// the busy cursor and bar, beyond 1 s a text and a button that gives up.
+/// Shows work that lets the event loop of the window wait: beyond 0.2 s by the busy cursor and bar, beyond 1
+/// s by a text. A command's work on the drawing keeps the window alive besides, and can be given up.
 class RunWatch : public QObject {
     Q_OBJECT
 
@@ -19,6 +22,8 @@ class RunWatch : public QObject {
     /// To be called by the work, as often as it likes. Raises shell::UserBreak when the user has given up:
     /// from then on at each call, until `reset`.
     void breathe();
+    /// How far the command's work has come, below 0 for not known; asked between two of its steps.
+    void setShare(std::function<double()> share) { share_ = std::move(share); }
     /// A command begins or ends.
     void reset();
     /// Whether work goes on around what the event loop does now: the drawing is not to be read.
@@ -35,12 +40,17 @@ class RunWatch : public QObject {
   private:
     void turned();
     void letSee(qint64 elapsed);
+    void see();
+    void showBusy();
 
     BusyBar& bar_;
     StatusLine& status_;
+    drawing::WorkWatch preparing_;  ///< of pictures and picks, which nothing must come between
+    std::function<double()> share_;
     QElapsedTimer sinceTurn_;
     QElapsedTimer sinceSeen_;
     bool busy_ = false;
+    bool held_ = false;
     bool inside_ = false;
     bool givenUp_ = false;
 };

@@ -35,7 +35,7 @@ void Session::run(const QString& line) {
     emit began(runningName_);
 
     const model::Document* const before = hasDrawing() ? &desk_->document() : nullptr;
-    const std::size_t count = hasDrawing() ? drawing().firstFree() : 0;
+    firstOfCommand_ = hasDrawing() ? drawing().firstFree() : 0;
     Outcome outcome = Outcome::Failed;
     try {
         outcome = desk_->run(whole.toStdString());
@@ -50,15 +50,15 @@ void Session::run(const QString& line) {
     if (isOther) {
         emit opened();
     } else if (hasDrawing()) {
-        noteFresh(count);
+        noteFresh();
     }
     emit ended(outcome);
     emit changed();
 }
 
-void Session::noteFresh(std::size_t countBefore) {
+void Session::noteFresh() {
     const drawing::Drawing& now = drawing();
-    for (auto id = static_cast<drawing::EntityId>(countBefore); id < now.firstFree(); ++id) {
+    for (drawing::EntityId id = firstOfCommand_; id < now.firstFree(); ++id) {
         if (now.isErased(id) || now.mainEntity(id) != id) continue;
         const drawing::BlockId owner = now.owner(id);
         if (owner != drawing::kNoBlock && now.blocks()[owner].isLayout()) fresh_.push_back(id);

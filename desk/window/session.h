@@ -48,6 +48,8 @@ class Session : public QObject {
     bool redo();
     /// References and other entities that the last command brought in.
     const std::vector<drawing::EntityId>& fresh() const { return fresh_; }
+    /// What the command at hand brings in begins here.
+    drawing::EntityId firstOfCommand() const { return firstOfCommand_; }
     void tell(const QString& line) { emit told(line); }
 
   signals:
@@ -61,7 +63,7 @@ class Session : public QObject {
     void changed();
 
   private:
-    void noteFresh(std::size_t countBefore);
+    void noteFresh();
 
     LineBuffer lines_;
     std::ostream output_;
@@ -71,6 +73,7 @@ class Session : public QObject {
     QString lastLine_;
     QString runningName_;
     std::vector<drawing::EntityId> fresh_;
+    drawing::EntityId firstOfCommand_ = 0;
 };
 
 }  // namespace window

@@ -8,8 +8,10 @@
 
 namespace window {
 
-/// The window's own texts in another language: a file of lines "English text = translation", "#" in front of
-/// a comment, "\n" for a line's end. What the file lacks stays English.
+/// The window's own texts in a language: a file of lines "English text = translation", "#" in front of a
+/// comment, "\n" for a line's end. A text that counts ("%n references") has two translations, " | " between
+/// them: for one and for more; "zero = one" tells that the language counts nothing as one. What the file
+/// lacks stays as the code has it.
 class Translation : public QTranslator {
     Q_OBJECT
 
@@ -24,9 +26,10 @@ class Translation : public QTranslator {
 
   private:
     QHash<QByteArray, QString> texts_;
+    bool zeroIsOne_ = false;
 };
 
-/// The file of a language's display name ("Français"); the language of a name without a file is English.
+/// The file of a language's display name ("Français"); of a name without a file the English one.
 QString translationFile(const std::string& language);
 
 }  // namespace window

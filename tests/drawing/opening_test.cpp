@@ -1,3 +1,4 @@
+#include "desk/drawing/work_watch.h"
 #include "tests/drawing/plain_drawing.h"
 
 namespace drawing {
@@ -24,6 +25,29 @@ TEST(Opening, ReadsBlocksSpacesAndLayers) {
     const Block& fixed = drawing->blocks()[drawing->blocks().find("FIXED")];
     EXPECT_TRUE(fixed.attributeDefinitions.empty());
     EXPECT_TRUE(fixed.hasAttributes());
+}
+
+TEST(Opening, TellsHowFarItIsAndEndsWhereItsListenerGivesUp) {
+    std::string lines;
+    for (int i = 0; i < 2000; ++i) lines += " 0 LINE 8 0 10 " + std::to_string(i);
+    const std::string text = groups("0 SECTION 2 ENTITIES" + lines + " 0 ENDSEC 0 EOF");
+    std::vector<double> shares;
+    const auto open = [&](std::size_t enough) {
+        const WorkWatch watch([&, enough](double share) {
+            shares.push_back(share);
+            if (shares.size() == enough) throw std::runtime_error("enough");
+        });
+        WorkWatch::stage(0.5, 1);
+        Drawing::parse(text, "many.dxf");
+    };
+    open(0);
+    ASSERT_GT(shares.size(), 5u);
+    EXPECT_TRUE(std::is_sorted(shares.begin(), shares.end()));
+    EXPECT_TRUE(shares.front() >= 0.5 && shares.front() < 0.6 && shares.back() > 0.9 && shares.back() <= 1);
+    shares.clear();
+    EXPECT_THROW(open(3), std::runtime_error);
+    Drawing::parse(text, "many.dxf");
+    EXPECT_EQ(shares.size(), 3u) << "a watch that is gone hears nothing";
 }
 
 TEST(Opening, EntitiesWithoutHandlesAreToldApart) {

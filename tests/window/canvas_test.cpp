@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalSpy>
 #include <QWheelEvent>
 
 namespace window {
@@ -84,14 +85,17 @@ TEST_F(CanvasTest, AnEntityIsPickedAndTabAndSpaceGoThroughWhatLiesThere) {
     click({20, 16, 0});
     EXPECT_EQ(picked, (std::vector<EntityId>{ids[3], ids[2], ids[3], drawing::kNoEntity}));
     EXPECT_EQ(finished, 0);
-    // Over a single thing, and while something is typed, Space is Enter.
+    // Over a single thing Space is Enter; while something is typed it belongs to that.
     move({9, 10, 0});
     key(Qt::Key_Space, " ");
     move({31, 10, 0});
+    QSignalSpy typedKeys(&canvas, &Canvas::typedKey);
     canvas.setTyped("3");
     key(Qt::Key_Space, " ");
+    EXPECT_EQ(typedKeys.count(), 1);
+    canvas.setTyped({});
     click({9, 10, 0}, {}, Qt::RightButton);
-    EXPECT_EQ(finished, 3);
+    EXPECT_EQ(finished, 2);
     key(Qt::Key_Escape);
     EXPECT_EQ(brokenOff, 1);
 }

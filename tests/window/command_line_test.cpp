@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -80,6 +81,19 @@ TEST_F(CommandLineTest, HistoryHoldsEachLineOnceAndComesBackToTheUnfinishedOne) 
     key(Qt::Key_Down);
     key(Qt::Key_Down);
     EXPECT_EQ(line_.text(), "new");
+}
+
+TEST_F(CommandLineTest, OptionsOfAQuestionAreLinksThatAnswerIt) {
+    line_.ask("Select:", {{"All", "ALL"}, {"Previous", "P"}}, "Enter ends");
+    keys("half");
+    const auto links = line_.findChildren<QPushButton*>();
+    ASSERT_EQ(links.size(), 2);
+    links[1]->click();
+    ASSERT_EQ(entered_.count(), 1);
+    EXPECT_EQ(entered_[0][0], "P");
+    EXPECT_EQ(line_.text(), "") << "what was begun isn't part of the answer";
+    line_.setPrompt("Command:", {});
+    EXPECT_FALSE(links[0]->isVisible());
 }
 
 TEST_F(CommandLineTest, BlockedItTakesNothing) {

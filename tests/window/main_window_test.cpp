@@ -224,6 +224,18 @@ TEST_F(MainWindowTest, NarrowItFoldsTheRightDockFirst) {
     EXPECT_TRUE(!right->isVisible() && !left->isVisible() && !window_->commandLine().isVisible());
 }
 
+TEST_F(MainWindowTest, AHiddenCommandLineStillTakesWhatIsTypedOnTheDrawing) {
+    window_->action("commandLine")->setChecked(false);
+    QTest::keyClicks(&window_->canvas(), "(+ 1 22");
+    QTest::keyClick(&window_->canvas(), Qt::Key_Backspace);
+    QTest::keyClicks(&window_->canvas(), ")");
+    QTest::keyClick(&window_->canvas(), Qt::Key_Return);
+    EXPECT_TRUE(window_->commandLine().historyText().endsWith("(+ 1 2)\n3"));
+    QTest::keyClicks(&window_->canvas(), "x");
+    QTest::keyClick(&window_->canvas(), Qt::Key_Escape);
+    EXPECT_EQ(window_->commandLine().text(), "");
+}
+
 TEST_F(MainWindowTest, EachCommandHasATextATipAndNoKeyTwice) {
     QSet<QString> keys;
     for (const Command* command = commandsBegin(); command != commandsEnd(); ++command) {

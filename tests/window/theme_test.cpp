@@ -53,7 +53,24 @@ TEST(TranslationTest, LinesOfTheDeskSpeakTheWindowsLanguage) {
     EXPECT_EQ(deskText("p.dxf is open elsewhere: Anne. Write over it?"),
               QString::fromUtf8("p.dxf est ouvert ailleurs : Anne. L'écraser ?"));
     EXPECT_EQ(deskText("(1 2)"), "(1 2)");
+    EXPECT_EQ(deskText("1 erased"), QString::fromUtf8("1 effacé"));
+    EXPECT_EQ(deskText("2 erased"), QString::fromUtf8("2 effacés"));
     QCoreApplication::removeTranslator(&french);
+}
+
+TEST(TranslationTest, WhatCountsHasASingularByTheRulesOfItsLanguage) {
+    const auto counted = [](const std::string& language) {
+        Translation texts;
+        texts.read(translationFile(language));
+        QCoreApplication::installTranslator(&texts);
+        QStringList counts;
+        for (const int count : {0, 1, 2})
+            counts.append(QCoreApplication::translate("window", "%n references", nullptr, count));
+        QCoreApplication::removeTranslator(&texts);
+        return counts.join(", ");
+    };
+    EXPECT_EQ(counted("English"), "0 references, 1 reference, 2 references");
+    EXPECT_EQ(counted("Fran\u00E7ais"), QString::fromUtf8("0 référence, 1 référence, 2 références"));
 }
 
 }  // namespace
