@@ -20,6 +20,33 @@ constexpr std::size_t kMostHalos = 5'000;
 constexpr double kSmallest = 4;
 constexpr double kFillOpacity = 0.35;
 
+/// Grips that would stand on one another are drawn once: a view holds only so many.
+class GripGrid {
+  public:
+    GripGrid(const Frame& frame, double cell)
+        : frame_(frame),
+          cell_(std::max(cell, 1.0)),
+          columns_(static_cast<std::size_t>(frame.width() / cell_) + 1),
+          taken_(columns_ * (static_cast<std::size_t>(frame.height() / cell_) + 1)) {}
+
+    /// Whether a grip at this place is to be drawn.
+    bool take(const Point2& at) {
+        if (!frame_.contains(at)) return true;  // it may reach into the view
+        const auto column = static_cast<std::size_t>((at.x - frame_.left) / cell_);
+        const auto row = static_cast<std::size_t>((at.y - frame_.top) / cell_);
+        const std::size_t place = std::min(row * columns_ + column, taken_.size() - 1);
+        if (taken_[place]) return false;
+        taken_[place] = true;
+        return true;
+    }
+
+  private:
+    Frame frame_;
+    double cell_;
+    std::size_t columns_;
+    std::vector<bool> taken_;
+};
+
 Frame clipped(const Frame& frame, const Frame& by) {
     return {std::max(frame.left, by.left), std::max(frame.top, by.top), std::min(frame.right, by.right),
             std::min(frame.bottom, by.bottom)};
@@ -122,8 +149,9 @@ void CanvasLights::draw(QPainter& painter, const std::vector<EntityId>& entities
             for (const std::size_t item : items) renderer.drawItem(space_, item, view_.projection());
         });
     }
+    GripGrid grid(view_.frame(), light.grip * ratio_ / 2);
     for (const EntityId entity : grips) {
-        if (const auto at = insertionOf(entity)) drawGrip(painter, *at, used);
+        if (const auto at = insertionOf(entity); at && grid.take(*at)) drawGrip(painter, *at, used);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "desk/window/property_rows.h"
 
 #include "basic/error.h"
+#include "desk/drawing/work_watch.h"
 #include "desk/dxf/tag_reader.h"
 #include "desk/window/color_choice.h"
 #include "faces/qt/qt_text.h"
@@ -43,7 +44,9 @@ std::optional<PropertyRow> common(const Drawing& drawing, const std::vector<Enti
     PropertyRow row;
     row.label = label;
     bool isFirst = true;
+    drawing::WorkSteps steps;
     for (const EntityId id : entities) {
+        steps.step(0, 1);
         const std::optional<QString> value = read(drawing, id);
         if (!value) return std::nullopt;
         if (isFirst) row.value = *value;

@@ -67,7 +67,7 @@ void RunWatch::see() {
     showBusy();
     bar_.repaint();
     if (sinceTurn_.elapsed() < kOfferCancelAfter) return;
-    status_.showWork(tr("Preparing the picture"), -1, false);
+    status_.showWork(tr("Working on the drawing"), -1, false);
     status_.repaint();
 }
 
