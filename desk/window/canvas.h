@@ -9,6 +9,7 @@
 #include "desk/window/theme.h"
 
 #include <QColor>
+#include <QKeyEvent>
 #include <QPixmap>
 #include <QWidget>
 #include <memory>

@@ -3,6 +3,7 @@
 #include "desk/answers/typed_answer.h"
 #include "desk/answers/typed_selection.h"
 #include "desk/window/command_line.h"
+#include "desk/window/desk_texts.h"
 #include "faces/qt/qt_text.h"
 
 #include <QEventLoop>
@@ -126,6 +127,7 @@ void CanvasPrompter::message(const std::string& text) { emit told(qt_face::toSho
 
 void CanvasPrompter::showPrompt() {
     canvas_.ask(prompt_);
+    shown_ = prompt_;
     QString hint = tr("Enter ends, Esc back");
     QVector<PromptOption> options;
     if (prompt_.asking == Asking::Entity) {
@@ -145,18 +147,22 @@ void CanvasPrompter::showPrompt() {
 }
 
 void CanvasPrompter::wait() {
+    if (loop_ != nullptr) {
+        answer_ = Answer::BrokenOff;
+        prompt_ = shown_;
+        return emit told(tr("A prompt is waiting already"));
+    }
     if (prepare_) prepare_(prompt_);
     area_ = Area::None;
     answer_ = Answer::BrokenOff;
     entity_ = drawing::kNoEntity;
     emit told(prompt_.text);
     QEventLoop loop;
-    QEventLoop* const outer = loop_;
     loop_ = &loop;  // from here on it is asking: whoever hears of it may look
     emit asked();
     showPrompt();
     loop.exec();
-    loop_ = outer;
+    loop_ = nullptr;
     canvas_.ask({});
     line_.clear();
     drawing_ = nullptr;
@@ -290,7 +296,7 @@ void CanvasPrompter::answerSelection(const QString& line) {
         found.add(line.toStdString());
         select(found.entities());
     } catch (const answers::AnswerError& error) {
-        refuse(line, qt_face::toShown(error.what()));
+        refuse(line, qt_face::toShown(deskText(QString::fromStdString(error.what()))));
     }
 }
 

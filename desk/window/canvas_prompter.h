@@ -56,7 +56,7 @@ class CanvasPrompter : public QObject, public model::Prompter {
         bool isClosed = false;  ///< the user has ended it; the rest is only handed on
     };
 
-    /// Runs the prompt until it is answered.
+    /// Runs the prompt until it is answered. One from Lisp amid another prompt gets no answer.
     void wait();
     void give(model::Answer answer);
     void finish();
@@ -82,6 +82,7 @@ class CanvasPrompter : public QObject, public model::Prompter {
     std::function<void(CanvasPrompt&)> prepare_;
     QEventLoop* loop_ = nullptr;
     CanvasPrompt prompt_;
+    CanvasPrompt shown_;                         ///< as it was shown last
     const drawing::Drawing* drawing_ = nullptr;  ///< of the prompt in hand, where it needs one
     Polygon polygon_;
     std::optional<geometry::Point3> lastPoint_;  ///< "@" counts from it where there is no base point

@@ -217,6 +217,13 @@ bool CommandLine::eventFilter(QObject* watched, QEvent* event) {
             event->accept();
             return true;
         }
+        // With nothing typed, what edits a text is the drawing's.
+        const bool edits = key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo) ||
+                           key->matches(QKeySequence::SelectAll) || code == Qt::Key_Delete;
+        if (edits && input_->text().isEmpty()) {
+            event->ignore();
+            return true;
+        }
     }
     if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     auto* key = static_cast<QKeyEvent*>(event);

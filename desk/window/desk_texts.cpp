@@ -30,6 +30,22 @@ constexpr const char* kTexts[] = {
     QT_TRANSLATE_NOOP("window", "%1 erased"),
     QT_TRANSLATE_NOOP("window", "%1 findings on reading:"),
     QT_TRANSLATE_NOOP("window", "1 finding on reading:"),
+    QT_TRANSLATE_NOOP("window", "Unknown command \"%1\"."),
+    QT_TRANSLATE_NOOP("window", "References  Block"),
+    QT_TRANSLATE_NOOP("window", "%1 references"),
+    QT_TRANSLATE_NOOP("window", "%1 reference"),
+    QT_TRANSLATE_NOOP("window", "%1 selected"),
+    QT_TRANSLATE_NOOP("window", "%1 blocks purged"),
+    QT_TRANSLATE_NOOP("window", "%1 block purged"),
+    QT_TRANSLATE_NOOP("window",
+                      "is no selection: all, w x,y x,y, c x,y x,y, f x,y x,y..., p, l, r, a, first NAME, "
+                      "@HANDLE..., a point, or esc"),
+    QT_TRANSLATE_NOOP("window", "a window needs two corners, such as w 0,0 10,5"),
+    QT_TRANSLATE_NOOP("window", "a fence needs two points or more"),
+    QT_TRANSLATE_NOOP("window", "no entity of the drawing has the handle %1"),
+    QT_TRANSLATE_NOOP("window", "no reference of %1"),
+    QT_TRANSLATE_NOOP("window", "\"%1\" is no handle"),
+    QT_TRANSLATE_NOOP("window", "\"%1\" is no point"),
 };
 
 struct Pattern {

@@ -100,7 +100,9 @@ void MainWindow::open(const QString& path) { files_->open(path); }
 
 void MainWindow::enterLine(const QString& line) {
     if (prompter_->isAsking()) {
-        prompter_->answer(line);
+        // What Lisp gives is the answer.
+        const bool isLisp = line.startsWith('(') || line.startsWith('!');
+        if (const auto answer = isLisp ? session_->answerOf(line) : line) prompter_->answer(*answer);
     } else {
         runCommand(line);
     }

@@ -162,6 +162,7 @@ void MainWindow::buildTools() {
         auto* button = qobject_cast<QToolButton*>(tools_->widgetForAction(actions_[id]));
         button->setFixedHeight(30);
         button->setFocusPolicy(Qt::TabFocus);
+        button->installEventFilter(this);
         if (named) button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     };
     for (const char* id : {"open", "save"}) add(id, false);

@@ -192,8 +192,9 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
     layOutDocks();
 }
 
-/// Esc in a panel goes to the drawing.
+/// Esc in a panel goes to the drawing; a tool that the mouse leaves takes its hint with it.
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Leave && watched->parent() == tools_) status_->showHint({});
     const bool isDock = watched == leftDock_ || watched == right_;
     if (isDock && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

@@ -22,6 +22,18 @@ void PropertyField::take() {
     emit taken(value_);
 }
 
+/// With nothing typed in it, undo and redo are the drawing's.
+bool PropertyField::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && text() == value_) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            event->ignore();
+            return false;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
 void PropertyField::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && text() != value_) {
         setText(value_);

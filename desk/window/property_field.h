@@ -19,6 +19,7 @@ class PropertyField : public QLineEdit {
     void taken(const QString& text);
 
   protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

@@ -56,6 +56,17 @@ void Session::run(const QString& line) {
     emit changed();
 }
 
+std::optional<QString> Session::answerOf(const QString& expression) {
+    try {
+        return QString::fromStdString(desk_->answerOf(expression.toStdString()));
+    } catch (const std::exception& failure) {
+        const auto* error = dynamic_cast<const basic::Error*>(&failure);
+        const std::string why = error != nullptr ? error->description() : std::string(failure.what());
+        emit told(QString("\"%1\": %2").arg(expression, QString::fromStdString(why)));
+        return std::nullopt;
+    }
+}
+
 void Session::noteFresh() {
     const drawing::Drawing& now = drawing();
     for (drawing::EntityId id = firstOfCommand_; id < now.firstFree(); ++id) {

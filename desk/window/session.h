@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace window {
@@ -35,6 +36,9 @@ class Session : public QObject {
 
     /// Carries out a line of the command line; a second one while a command runs is told off.
     void run(const QString& line);
+    /// What a Lisp expression or "!name" stands for as an answer to a prompt; nothing, and told why, where it
+    /// can't be one.
+    std::optional<QString> answerOf(const QString& expression);
     /// Raise basic::Error, and shell::UserBreak where the user gave up; all is then as before.
     void open(const QString& path);
     void save(const QString& path);

@@ -109,6 +109,17 @@ TEST_F(PrompterTest, ASelectionGrowsByWindowTypedAndByHandleAndShrinksByR) {
     EXPECT_EQ(prompter().selectEntities(drawing(), "").entities, pick.entities) << "the previous one";
 }
 
+TEST_F(PrompterTest, LispAnswersAPromptButDoesNotAskAmidIt) {
+    whenAsked([this] {
+        window_->enterLine("(car 1)");
+        window_->enterLine(
+            "(vla-GetPoint (vla-get-Utility (vla-get-ActiveDocument (vlax-get-acad-object))))");
+        window_->enterLine("(list 3 (+ 1 3))");
+    });
+    EXPECT_EQ(prompter().getPoint(std::nullopt, "Point:").point, (Point3{3, 4, 0}));
+    EXPECT_TRUE(window_->commandLine().historyText().contains("A prompt is waiting already"));
+}
+
 TEST_F(PrompterTest, AMissedPickIsNoAnswer) {
     whenAsked([this] { emit window_->canvas().entityPicked(drawing::kNoEntity, {}); });
     EXPECT_EQ(prompter().getEntity(drawing(), "Pick:").answer, Answer::Missed);
