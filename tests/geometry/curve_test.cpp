@@ -62,6 +62,11 @@ TEST(CurveTest, RectanglesTouchedByCurves) {
     const Rectangle box({10, 6, 0}, {0, 0, 0});
     // Its box overlaps the rectangle, itself passes the corner.
     EXPECT_FALSE(touches(LineCurve{{9, 10, 0}, {14, 4, 0}}, box));
+    // Ends in front of it, begins behind it, runs along its side and beside it.
+    EXPECT_FALSE(touches(LineCurve{{5, 12, 0}, {5, 6.5, 0}}, box));
+    EXPECT_FALSE(touches(LineCurve{{5, -0.5, 0}, {5, -3, 0}}, box));
+    EXPECT_TRUE(touches(LineCurve{{-5, 6, 0}, {20, 6, 0}}, box));
+    EXPECT_FALSE(touches(LineCurve{{-5, 6.1, 0}, {20, 6.1, 0}}, box));
     EXPECT_TRUE(touches(circle({5, 9, 0}, 3.5), box));
     EXPECT_FALSE(touches(circle({5, 9, 0}, 2.5), box));
     // Round about the rectangle, and an arc whose lowest point is missing.
