@@ -105,6 +105,9 @@ TEST(MeasureTest, Hatches) {
     EXPECT_NEAR(area(3, outer + island + core, 0), 100 - kPi + 0.16, 1e-9);
     EXPECT_NEAR(area(3, outer + island + core, 1), 100 - kPi, 1e-9);
     EXPECT_NEAR(area(3, outer + island + core, 2), 100, 1e-9);
+    // A hole that is listed before its outline and begins where that does.
+    const std::string notch = " 92 2 72 0 73 1 93 4 10 0 20 0 10 2 20 0 10 2 20 2 10 0 20 2 97 0";
+    EXPECT_NEAR(area(2, notch + outer, 1), 96, 1e-9);
     // Two holes that overlap by a quarter count by the even-odd rule, curves too.
     const std::string holes =
         " 92 2 72 0 73 1 93 4 10 1 20 1 10 3 20 1 10 3 20 3 10 1 20 3 97 0"

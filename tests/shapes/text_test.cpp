@@ -2,6 +2,9 @@
 #include "desk/shapes/read_text.h"
 #include "tests/drawing/plain_drawing.h"
 
+#include <cmath>
+#include <sstream>
+
 namespace shapes {
 namespace {
 
@@ -92,6 +95,60 @@ TEST(LineTextTest, PiecesStandWhereTheTextIsAlignedAndFollowItsCodes) {
     // Fitted between its points it fills the whole length at its own height.
     const auto fitted = readTexts(*drawing, TextStyles(*drawing), ids[1], true);
     drawing::expectNear(fitted[0].frame.apply({fitted[0].width, 1, 0}), {30, 2, 0});
+}
+
+TEST(TextStyles, TheirFontsComeFromTheFileOrTheExtendedData) {
+    std::string text = PlainDrawing(drawing::Kind::R2000).text();
+    text.insert(text.find(drawing::groups("0 STYLE")),
+                drawing::groups("0 STYLE 2 Mono 41 0.5 50 45 3 consola.ttf "
+                                "0 STYLE 2 Book 3 x 1001 ACAD 1000 Times 1071 50331648 "
+                                "0 STYLE 2 Bold 3 arialbd.ttf 41 0 1001 OTHER 1000 Times 1071 16777216 "
+                                "0 STYLE 2 Slant 1001 ACAD 1071 16777216"));
+    const auto drawing = drawing::Drawing::parse(text, "styles.dxf");
+    const TextStyles styles(*drawing);
+    const auto told = [&](const char* name) {
+        const TextStyle& style = styles.find(name);
+        return std::to_string(static_cast<int>(style.font.kind)) + (style.font.bold ? "b" : "") +
+               (style.font.italic ? "i" : "") + " " + std::to_string(std::lround(style.widthFactor * 100)) +
+               " " + std::to_string(std::lround(style.oblique * 1000));
+    };
+    const auto kind = [](TextFont::Kind font) { return std::to_string(static_cast<int>(font)); };
+    EXPECT_EQ(told("MONO"), kind(TextFont::Kind::Mono) + " 50 785");
+    EXPECT_EQ(told("book"), kind(TextFont::Kind::Serif) + "bi 100 0");
+    EXPECT_EQ(told("Bold"), kind(TextFont::Kind::Sans) + "b 100 0");
+    EXPECT_EQ(told("Slant"), kind(TextFont::Kind::Sans) + "i 100 0");
+    EXPECT_EQ(told(""), told("Standard"));
+}
+
+TEST(TextGround, StandsAboutTheTextAsItsGroupsSay) {
+    struct Row {
+        const char* words;
+        const char* told;
+    };
+    const Row rows[] = {{"45 1.5", "none"},
+                        {"90 1 45 1.5 63 3", "filled c3 0,-1.5 2,3"},
+                        {"90 1 421 255", "filled c255 0,-1.5 2,3"},
+                        {"90 3 45 2 63 3", "filled -1,-2.5 3,4"},
+                        {"90 16 45 1", "framed 1,-0.5 1,2"},
+                        {"90 17 45 1", "filled framed 1,-0.5 1,2"}};
+    for (const Row& row : rows) {
+        const auto drawing =
+            PlainDrawing().entity(std::string("MTEXT 8 0 10 1 20 2 40 2 41 0 71 1 1 A ") + row.words).make();
+        const auto ground =
+            readMTextGround(drawing->tags(drawing::modelEntities(*drawing)[0]), TextStyles(*drawing));
+        std::ostringstream told;
+        if (!ground) {
+            told << "none";
+        } else {
+            if (ground->isFilled) told << "filled ";
+            if (ground->color) told << "c" << (*ground->color & 0xFFFFFF) << " ";
+            if (ground->isFramed) told << "framed ";
+            const Point3 low = startPoint(ground->border[0]), high = startPoint(ground->border[2]);
+            told << low.x << "," << low.y << " "
+                 << std::round((high.x - 2 * textAdvance("A", {})) * 1e6) / 1e6 << "," << high.y;
+        }
+        EXPECT_EQ(told.str(), row.told);
+    }
 }
 
 }  // namespace
