@@ -121,6 +121,38 @@ TEST_F(Edit, AMultiLineTextSaysTheSameInBothPlaces) {
                              "|1=" + std::string(50, 'x') + "|"));
 }
 
+TEST(Groups, OfAnyCodeAreSetWhereTheyBelong) {
+    const auto drawing =
+        PlainDrawing(Kind::R2000)
+            .header("9 $INSBASE 10 1.5 20 2.5 30 3.5 9 $INSUNITS 70 4")
+            .entity(
+                "CIRCLE 5 60 100 AcDbEntity 8 0 100 AcDbCircle 10 0.0 20 0.0 40 1.0 210 0.0 220 0.6 230 -0.8")
+            .entity("INSERT 5 61 100 AcDbEntity 8 0 100 AcDbBlockReference 2 DOOR 10 0.0 20 0.0")
+            .make();
+    const EntityId circle = drawing->byHandle(0x60), door = drawing->byHandle(0x61);
+    drawing->setInteger(circle, 62, "AcDbEntity", 5);
+    drawing->setInteger(circle, 60, "AcDbEntity", 1);
+    drawing->setNumber(circle, 40, "AcDbCircle", 2.5);
+    EXPECT_EQ(errorOf([&] { drawing->setNumber(circle, 40, "AcDbCircle", INFINITY); }), kInvalidInput);
+    EXPECT_TRUE(contains(groupsOf(*drawing, circle), "62=5|60=1|100=AcDbCircle|10=0.0|20=0.0|40=2.5|"))
+        << groupsOf(*drawing, circle);
+    const CommonData common = drawing->common(circle);
+    EXPECT_EQ(common.color, 5);
+    EXPECT_FALSE(common.visible);
+    expectNear(common.extrusion, {0, 0.6, -0.8});
+    EXPECT_TRUE(drawing->common(door).visible);
+    EXPECT_EQ(drawing->common(door).extrusion, (Point3{0, 0, 1}));
+    drawing->setText(door, 2, "AcDbBlockReference", "plain");
+    drawing->setText(door, 8, "AcDbEntity", "WALLS");
+    EXPECT_EQ(drawing->name(door), "PLAIN");
+    EXPECT_EQ(drawing->layerName(door), "WALLS");
+    EXPECT_EQ(drawing->header().point("$INSBASE"), (Point3{1.5, 2.5, 3.5}));
+    EXPECT_EQ(drawing->header().integer("$INSUNITS"), 4);
+    EXPECT_EQ(drawing->header().code("$INSUNITS"), 70);
+    EXPECT_EQ(drawing->header().point("$NOSUCH"), std::nullopt);
+    EXPECT_EQ(drawing->header().code("$NOSUCH"), -1);
+}
+
 TEST(Erasing, TakesWhatTheEntityOwns) {
     const PlainDrawing sample =
         PlainDrawing(Kind::R2000)

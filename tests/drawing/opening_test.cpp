@@ -66,6 +66,23 @@ TEST(Opening, EntitiesWithoutHandlesAreToldApart) {
     }
 }
 
+TEST(Opening, HandlesFarApartAreFound) {
+    PlainDrawing plain;
+    std::vector<Handle> handles;
+    for (Handle i = 1; i <= 300; ++i) handles.push_back(i % 3 == 0 ? 0x100 + i : (i << 40) + (i % 7) * 64);
+    for (const Handle handle : handles) {
+        std::ostringstream words;
+        words << "LINE 5 " << std::hex << handle << " 8 0";
+        plain.entity(words.str());
+    }
+    const auto drawing = plain.make();
+    const auto lines = modelEntities(*drawing);
+    ASSERT_EQ(lines.size(), handles.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(drawing->byHandle(handles[i]), lines[i]) << i;
+    EXPECT_EQ(drawing->byHandle((Handle{1} << 41) + 1), kNoEntity);
+    EXPECT_EQ(drawing->byHandle(4), kNoEntity);
+}
+
 TEST(Opening, MakesTheSpacesOfAnR12FileThatHasNone) {
     const std::string text = PlainDrawing().entity("LINE 8 0 10 0.0 20 0.0 11 1.0 21 1.0").text();
     const auto drawing = Drawing::parse(text, "bare.dxf");

@@ -110,8 +110,10 @@ TEST(ImportBlock, RedefinesABlockOfThatName) {
     const ImportResult first = importBlock(*drawing, *blockFile(Kind::R2000), "Door");
     EXPECT_TRUE(first.redefined);
     EXPECT_EQ(first.block, door);
+    const std::uint64_t revision = drawing->revision();
     const ImportResult second = importBlock(*drawing, *blockFile(Kind::R12), "DOOR");
     EXPECT_EQ(second.block, door);
+    EXPECT_GT(drawing->revision(), revision) << "whoever keeps what a block draws hears of it";
     EXPECT_EQ(second.kept.size(), 2u) << "NEST came with the first";
     const auto saved = Drawing::parse(drawing->savedBytes(), "saved.dxf");
     EXPECT_TRUE(saved->findings().empty());
@@ -238,14 +240,22 @@ TEST(ImportOf, ATargetGetsTheTablesThatItLacks) {
     file.entity("TEXT 8 OWN 7 NONE 10 1.0 20 2.0 40 3.0 1 b");
     const auto drawing = Drawing::parse(text, "bare.dxf");
     importBlock(*drawing, *file.make(), "note");
+    EXPECT_TRUE(drawing->isModified());
     const auto saved = Drawing::parse(drawing->savedBytes(), "saved.dxf");
     EXPECT_EQ(drawing->savedBytes().find("NONE"), std::string::npos);
     EXPECT_EQ(saved->layers().all().size(), 1u);
-    EXPECT_NE(drawing->savedBytes().find("STYLE"), std::string::npos);
+    const auto count = [bytes = drawing->savedBytes()](std::string_view word) {
+        std::size_t found = 0;
+        for (std::size_t at = 0; (at = bytes.find(word, at)) != std::string::npos; ++at) ++found;
+        return found;
+    };
+    EXPECT_EQ(count("  0\r\nTABLE\r\n"), 3u) << "layers, styles, linetypes";
+    EXPECT_EQ(count("  0\r\nENDTAB\r\n"), 3u);
     EXPECT_EQ(entitiesOf(*saved, saved->blocks().find("note")).size(), 2u);
     EXPECT_EQ(saved->findings().size(), 1u) << "ENTITIES is missing as before";
     drawing->undo();
     EXPECT_EQ(drawing->savedBytes(), text);
+    EXPECT_FALSE(drawing->isModified());
 }
 
 }  // namespace
