@@ -29,6 +29,7 @@ TEST(Purge, DeletesWhatNothingNeeds) {
             kind == Kind::R2000 ? std::vector<std::string>{"FIXED", "INNER", "OUTER"}
                                 : std::vector<std::string>{"FIXED", "PLAIN", "INNER", "OUTER"};
         EXPECT_EQ(drawing->purgeBlocks(), expected);
+        EXPECT_TRUE(drawing->isModified());
         const std::string purged = drawing->savedBytes();
         EXPECT_FALSE(contains(purged, "OUTER") || contains(purged, "inside") || contains(purged, "FIXED"));
         EXPECT_EQ(drawing->blocks().find("FIXED"), kNoBlock);
