@@ -65,7 +65,7 @@ FileError folderInPlace() { return {basic::kPathFileAccess, "this is a folder, n
 
 /// The path as the system's calls take it: absolute, and in the form that has no limit of 260 characters.
 std::wstring systemPath(const std::string& path) {
-    const std::wstring given = basic::toWide(path);
+    std::wstring given = basic::toWide(path);
     if (given.starts_with(L"\\\\?\\") || given.starts_with(L"\\\\.\\")) return given;
     std::wstring full(GetFullPathNameW(given.c_str(), 0, nullptr, nullptr), L'\0');
     full.resize(GetFullPathNameW(given.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));

@@ -76,6 +76,8 @@ void FormWindow::makeControls(HINSTANCE module) {
             auto made =
                 std::make_unique<ControlWindow>(module, window_, control, kFirstId + static_cast<int>(i));
             if (control.has(forms::Property::ToolTipText)) made->addToolTip(tips_);
+            if (control.kind() == Kind::ListView)
+                SetWindowSubclass(made->handle(), viewProcedure, 0, reinterpret_cast<DWORD_PTR>(this));
             controls_[&control] = std::move(made);
         }
     }

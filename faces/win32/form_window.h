@@ -46,6 +46,10 @@ class FormWindow {
     static constexpr int kHourglass = 11;  ///< of the model's pointers
 
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l);
+    /// Stands before a list view's own procedure: its header reports to it, and what passes that on to the
+    /// form differs between systems.
+    static LRESULT CALLBACK viewProcedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id,
+                                          DWORD_PTR form);
     bool handle(UINT message, WPARAM w, LPARAM l, LRESULT& result);
     void command(forms::Control& control, HWND window, WORD code);
     bool notify(const NMHDR& header, LRESULT& result);

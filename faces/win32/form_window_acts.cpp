@@ -125,6 +125,19 @@ LRESULT FormWindow::procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
     return DefWindowProcW(window, message, w, l);
 }
 
+LRESULT FormWindow::viewProcedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR, DWORD_PTR form) {
+    const LRESULT result = DefSubclassProc(window, message, w, l);
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, viewProcedure, 0);
+    if (message != WM_NOTIFY) return result;
+    auto* self = reinterpret_cast<FormWindow*>(form);
+    try {
+        self->headerChanged(*reinterpret_cast<const NMHDR*>(l));
+    } catch (...) {
+        self->failure_ = std::current_exception();
+    }
+    return result;
+}
+
 bool FormWindow::handle(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
     switch (message) {
         case WM_APP:
@@ -222,16 +235,13 @@ void FormWindow::command(Control& control, HWND window, WORD code) {
 }
 
 bool FormWindow::notify(const NMHDR& header, LRESULT& result) {
-    if (header.code == HDN_ITEMCHANGEDW || header.code == HDN_ITEMCHANGEDA) {
-        headerChanged(header);
-        return true;
-    }
     Control* control = controlOf(header.hwndFrom);
     return control != nullptr && control->kind() == Kind::ListView &&
            notifyView(static_cast<forms::ListView&>(*control), header, result);
 }
 
 void FormWindow::headerChanged(const NMHDR& header) {
+    if (drawing_ || left_ || (header.code != HDN_ITEMCHANGEDW && header.code != HDN_ITEMCHANGEDA)) return;
     const auto& change = reinterpret_cast<const NMHEADERW&>(header);
     Control* control = controlOf(GetParent(header.hwndFrom));
     if (control == nullptr || change.pitem == nullptr || (change.pitem->mask & HDI_WIDTH) == 0) return;
@@ -249,7 +259,9 @@ bool FormWindow::notifyView(forms::ListView& view, const NMHDR& header, LRESULT&
         case NM_CLICK: {
             keyMovesRow_ = false;
             const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem;
-            return act([&] { row >= 0 ? acts::chooseIndex(view, row + 1) : acts::click(view); });
+            if (row >= 0) return act([&] { acts::chooseIndex(view, row + 1); });
+            mark(view, forms::Change::Selection);  // the click has taken it from the native control
+            return act([&] { acts::click(view); });
         }
         case NM_SETFOCUS:
             if (form_.activeControl() != &view) act([&] { acts::focus(view); });

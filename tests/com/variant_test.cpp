@@ -122,7 +122,9 @@ TEST(OleErrors, HaveTheirClassicNumbers) {
             raiseOle(known.result, info, "Area");
         } catch (const basic::Error& error) {
             EXPECT_EQ(error.number(), known.number);
-            EXPECT_NE(error.description().find("Area"), std::string::npos);
+            // The member where a name helps: what the object lacks, and what has no number of ours.
+            const bool named = known.number == 438 || known.number < 0;
+            EXPECT_EQ(error.description().find("Area") != std::string::npos, named) << error.description();
         }
     }
 }

@@ -6,6 +6,7 @@
 #include "windows/stand_in/dialog_acts.h"
 #include "windows/stand_in/window_form.h"
 
+#include <commctrl.h>
 #include <filesystem>
 #include <fstream>
 
@@ -65,6 +66,7 @@ class NativeFace : public fakes::ContractFace, public forms::Screen {
         if (stand_in::isBox(top)) return answer(top);
         // The acts before are done and drawn: what the controls hold is what the model says.
         EXPECT_EQ(printed(stand_in::WindowForm(top)), printed(*form_));
+        EXPECT_GE(ListView_GetNextItem(stand_in::controlNamed(top, "ListView1"), -1, LVNI_SELECTED), 0);
         for (const std::string& difference : mirror_.differences()) ADD_FAILURE() << difference;
         if (!runs(*form_)) return form_->hide();
         stand_in::performOnWindow(output_, top, takeLine());

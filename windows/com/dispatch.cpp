@@ -112,11 +112,12 @@ const std::string* Dispatch::memberOf(DISPID id) const {
 }
 
 HRESULT Dispatch::invoke(DISPID id, WORD kind, DISPPARAMS& parameters, VARIANT* result) {
-    if (id == DISPID_NEWENUM) return enumerate(result);
-    const std::string* name = memberOf(id);
+    static const std::string walk = "_NewEnum";
+    const std::string* name = id == DISPID_NEWENUM ? &walk : memberOf(id);
     if (name == nullptr) return DISP_E_MEMBERNOTFOUND;
     if (const HRESULT refused = border_.admit(*object_, *name, kind, parameters); FAILED(refused))
         return refused;
+    if (id == DISPID_NEWENUM) return enumerate(result);
     if ((kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0) return put(*name, parameters);
     return call(*name, kind, parameters, result);
 }

@@ -145,9 +145,10 @@ HRESULT check(const Signature& signature, const DISPPARAMS& parameters) {
 
 HRESULT AcadBorder::admit(const host::Object&, const std::string& member, WORD kind,
                           const DISPPARAMS& parameters) {
-    ++calls_;
-    if (!refused_.empty() && basic::equalIgnoringCase(member, refused_)) return kErased;
     const bool put = (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+    const std::string call = put ? member + "=" : member;
+    ++calls_[call];
+    if (!refused_.empty() && basic::equalIgnoringCase(call, refused_)) return kErased;
     if (put && (kind & DISPATCH_PROPERTYPUTREF) != 0) return DISP_E_MEMBERNOTFOUND;
     const Signature* signature = put ? find(kPuts, member) : find(kMethods, member);
     return signature == nullptr ? S_OK : check(*signature, parameters);

@@ -2,6 +2,7 @@
 
 #include "windows/com/border.h"
 
+#include <map>
 #include <string>
 
 namespace stand_in {
@@ -13,14 +14,15 @@ class AcadBorder : public com::Border {
     HRESULT admit(const host::Object& object, const std::string& member, WORD kind,
                   const DISPPARAMS& parameters) override;
 
-    /// Makes each call of a member fail, as on an object that has been erased; empty for none.
+    /// Makes each call of a member fail, as on an object that has been erased; with "=" at its end, each that
+    /// assigns to it. Empty for none.
     void refuse(const std::string& member) { refused_ = member; }
-    /// How many calls came in so far.
-    long calls() const { return calls_; }
+    /// The calls that came in so far, by member, those that assign with "=" at the name's end.
+    const std::map<std::string, long>& calls() const { return calls_; }
 
   private:
     std::string refused_;
-    long calls_ = 0;
+    std::map<std::string, long> calls_;
 };
 
 }  // namespace stand_in

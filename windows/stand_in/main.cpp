@@ -77,8 +77,14 @@ int fail(std::ostream& output, const std::string& text, int code) {
 
 void tellCounts(stand_in::HostSession& session, std::chrono::steady_clock::duration time) {
     const stand_in::AcadBorder& border = session.border();
-    std::cerr << "calls " << border.calls() << ", given " << border.given() << ", taken " << border.taken()
-              << ", " << std::chrono::duration_cast<std::chrono::milliseconds>(time).count() << " ms\n";
+    long calls = 0;
+    std::cerr << "members";
+    for (const auto& [member, count] : border.calls()) {
+        std::cerr << ' ' << member;
+        calls += count;
+    }
+    std::cerr << "\ncalls " << calls << ", given " << border.given() << ", taken " << border.taken() << ", "
+              << std::chrono::duration_cast<std::chrono::milliseconds>(time).count() << " ms\n";
 }
 
 int run(Options options, std::ostream& output) {
