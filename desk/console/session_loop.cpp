@@ -1,7 +1,7 @@
 #include "desk/console/session_loop.h"
 
 #include "basic/text.h"
-#include "desk/shell/listing.h"
+#include "desk/model/listing.h"
 #include "faces/text/completions.h"
 #include "faces/text/control_names.h"
 
@@ -74,7 +74,7 @@ std::vector<std::string> commandCompletions(const shell::Desk& desk, std::string
         return text_face::fileCompletions(before, beginning.substr(blank + 1), {".dxf", ".dwg"});
     std::vector<std::string> lines;
     if (command == "LIST" && desk.hasDrawing()) {
-        for (const shell::BlockLine& line : shell::listBlocks(desk.document().drawing()).lines)
+        for (const model::BlockLine& line : model::listBlocks(desk.document().drawing()).lines)
             lines.push_back(before + line.name);
     } else if (command == "LAYER" && desk.hasDrawing()) {
         for (const drawing::Layer& layer : desk.document().drawing().layers().all())

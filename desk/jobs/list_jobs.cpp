@@ -2,7 +2,7 @@
 #include "desk/dxf/findings.h"
 #include "desk/jobs/job.h"
 #include "desk/jobs/references.h"
-#include "desk/shell/listing.h"
+#include "desk/model/listing.h"
 
 namespace jobs {
 
@@ -16,15 +16,15 @@ void listBlocks(Job& job) {
             return;
         }
         job.result.table.headers = {"handle", "layout", "layer", "x", "y", "z", "attributes"};
-        for (const shell::ReferenceLine& line : shell::listReferences(drawing, block))
+        for (const model::ReferenceLine& line : model::listReferences(drawing, block))
             job.result.table.rows.push_back(
                 {line.handle, line.layout, line.layer, line.x, line.y, line.z, line.attributes});
         job.result.count("references", job.result.table.rows.size());
         return;
     }
     job.result.table.headers = {"references", "block", "kind"};
-    const shell::BlockListing listing = shell::listBlocks(drawing);
-    for (const shell::BlockLine& line : listing.lines)
+    const model::BlockListing listing = model::listBlocks(drawing);
+    for (const model::BlockLine& line : listing.lines)
         job.result.table.rows.push_back(
             {std::to_string(line.references), line.name, line.isXRef ? "external reference" : "block"});
     job.result.count("blocks", job.result.table.rows.size());

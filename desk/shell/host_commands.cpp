@@ -1,13 +1,12 @@
 #include "desk/shell/host_commands.h"
 
 #include "basic/error.h"
+#include "desk/model/listing.h"
 #include "desk/model/prompter.h"
-#include "desk/shell/listing.h"
 #include "desk/shell/picture_program.h"
 #include "desk/shell/surroundings.h"
 
 #include <algorithm>
-#include <iomanip>
 #include <ostream>
 #include <vector>
 
@@ -45,8 +44,8 @@ void listReferencesOf(Desk& desk, const std::string& name) {
     const drawing::Drawing& drawing = desk.document().drawing();
     if (drawing.blocks().find(name) == drawing::kNoBlock)
         throw basic::Error(basic::kInvalidCall, "LIST: the drawing has no block " + name);
-    const std::vector<ReferenceLine> lines = listReferences(drawing, name);
-    for (const ReferenceLine& line : lines) {
+    const std::vector<model::ReferenceLine> lines = model::listReferences(drawing, name);
+    for (const model::ReferenceLine& line : lines) {
         desk.output() << "@" << line.handle << "  at " << line.x << "," << line.y << "," << line.z
                       << "  layer " << line.layer << "  in " << line.layout
                       << (line.attributes.empty() ? "" : "  " + line.attributes) << "\n";
@@ -59,15 +58,7 @@ Outcome list(Desk& desk, const std::string& rest) {
         listReferencesOf(desk, rest);
         return Outcome::Done;
     }
-    const BlockListing listing = listBlocks(desk.document().drawing());
-    desk.output() << "References  Block\n";
-    for (const BlockLine& line : listing.lines) {
-        desk.output() << std::setw(10) << line.references << "  " << line.name
-                      << (line.isXRef ? " (external reference)" : "") << "\n";
-    }
-    if (listing.anonymous > 0)
-        desk.output() << "and " << listing.anonymous
-                      << " without name or references (of dimensions and the like)\n";
+    model::printBlocks(desk.output(), desk.document().drawing());
     return Outcome::Done;
 }
 

@@ -5,11 +5,10 @@
 #include "desk/dxf/findings.h"
 #include "desk/lisp/error.h"
 #include "desk/lisp/printer.h"
+#include "desk/model/listing.h"
 #include "windows/com/ole_errors.h"
 
-#include <iomanip>
 #include <ostream>
-#include <vector>
 
 namespace stand_in {
 
@@ -145,34 +144,13 @@ bool HostSession::hostCommand(const std::string& name, const std::string& rest) 
         drawing().save(rest.empty() ? drawing().path() : rest);
         output_ << "Saved " << drawing().path() << "\n";
     } else if (name == "LIST") {
-        list();
+        model::printBlocks(output_, drawing());
     } else if (name == "U") {
         output_ << (application_->active()->undo() ? "Undone.\n" : "Nothing to undo.\n");
     } else {
         return false;
     }
     return true;
-}
-
-void HostSession::list() {
-    const drawing::Drawing& open = drawing();
-    const drawing::BlockTable& blocks = open.blocks();
-    std::vector<std::size_t> counts(blocks.size());
-    for (drawing::BlockId space = 0; space < blocks.size(); ++space) {
-        if (blocks[space].isErased || !blocks[space].isLayout()) continue;
-        open.forEachEntity(space, [&](drawing::EntityId entity) {
-            if (open.type(entity) != "INSERT") return true;
-            const drawing::BlockId block = blocks.find(open.name(entity));
-            if (block != drawing::kNoBlock) ++counts[block];
-            return true;
-        });
-    }
-    output_ << "References  Block\n";
-    for (drawing::BlockId id = 0; id < blocks.size(); ++id) {
-        if (blocks[id].isErased || blocks[id].isLayout()) continue;
-        output_ << std::setw(10) << counts[id] << "  " << blocks[id].name
-                << (blocks[id].isXRef() ? " (external reference)" : "") << "\n";
-    }
 }
 
 }  // namespace stand_in

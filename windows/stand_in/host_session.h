@@ -37,7 +37,6 @@ class HostSession {
     void evaluate(const std::string& expression);
     Outcome command(const std::string& line);
     bool hostCommand(const std::string& name, const std::string& rest);
-    void list();
     drawing::Drawing& drawing() const;
 
     AcadBorder border_;

@@ -2,11 +2,12 @@
 
 #include "desk/drawing/drawing.h"
 
+#include <iosfwd>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace shell {
+namespace model {
 
 /// A block definition that is no space, with the number of its references in model space and all layouts;
 /// those inside other blocks aren't counted.
@@ -22,6 +23,8 @@ struct BlockListing {
     std::size_t anonymous = 0;
 };
 BlockListing listBlocks(const drawing::Drawing& drawing);
+/// The same as the command LIST prints it.
+void printBlocks(std::ostream& output, const drawing::Drawing& drawing);
 
 /// A reference as a list tells it; numbers with a decimal point.
 struct ReferenceLine {
@@ -34,4 +37,4 @@ struct ReferenceLine {
 /// The references of a block in model space and all layouts.
 std::vector<ReferenceLine> listReferences(const drawing::Drawing& drawing, std::string_view block);
 
-}  // namespace shell
+}  // namespace model

@@ -1,11 +1,13 @@
-#include "desk/shell/listing.h"
+#include "desk/model/listing.h"
 
 #include "basic/numbers.h"
 #include "basic/text.h"
 
+#include <iomanip>
+#include <ostream>
 #include <sstream>
 
-namespace shell {
+namespace model {
 
 namespace {
 
@@ -43,6 +45,17 @@ BlockListing listBlocks(const drawing::Drawing& drawing) {
     return listing;
 }
 
+void printBlocks(std::ostream& output, const drawing::Drawing& drawing) {
+    const BlockListing listing = listBlocks(drawing);
+    output << "References  Block\n";
+    for (const BlockLine& line : listing.lines) {
+        output << std::setw(10) << line.references << "  " << line.name
+               << (line.isXRef ? " (external reference)" : "") << "\n";
+    }
+    if (listing.anonymous > 0)
+        output << "and " << listing.anonymous << " without name or references (of dimensions and the like)\n";
+}
+
 std::vector<ReferenceLine> listReferences(const drawing::Drawing& drawing, std::string_view block) {
     const basic::Regional english = basic::Regional::english();
     std::vector<ReferenceLine> lines;
@@ -69,4 +82,4 @@ std::vector<ReferenceLine> listReferences(const drawing::Drawing& drawing, std::
     return lines;
 }
 
-}  // namespace shell
+}  // namespace model
