@@ -17,6 +17,8 @@ if [ $# -eq 0 ]; then
     packaging/windows/build.sh
     say "Testing registration, failures and the installer"
     /usr/bin/python3 tests/windows/check_server.py build/windows
+    say "Testing a host that refuses each member in turn"
+    /usr/bin/python3 tests/windows/check_refusals.py build/windows
 fi
 say "Playing the transcripts"
 /usr/bin/python3 tests/windows/play_acts.py build/windows build/test/vorlane-console "$@"

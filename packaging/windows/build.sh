@@ -16,10 +16,12 @@ mkdir -p "$bundle/Contents"
 cp packaging/windows/PackageContents.xml "$bundle/"
 cp resources/vorlane.lsp resources/languages/*.LNG "$bundle/Contents/"
 x86_64-w64-mingw32-strip -o "$bundle/Contents/Vorlane.dll" "$build/Vorlane.dll"
-# The compiled help needs a compiler that isn't everywhere; without it F1 opens nothing.
-if [ -x /usr/bin/chmcmd ]; then
+# The compiled help needs programs that aren't everywhere; without it F1 opens nothing.
+if [ -x /usr/bin/chmcmd ] && [ -x /usr/bin/extract_chmLib ]; then
     /usr/bin/python3 tools/make_help_file.py "$build/help"
     cp "$build/help/Vorlane.chm" "$bundle/Contents/"
+else
+    say "Without the help: chmcmd (fp-utils) or extract_chmLib (libchm-bin) isn't installed"
 fi
 # An unpacked bundle works without the installer, and the add-in never makes its settings file itself.
 printf 'Lng=English\r\n' >"$bundle/Contents/Vorlane.ini"

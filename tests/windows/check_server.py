@@ -110,29 +110,6 @@ def check_failures(prefix):
     prefix.must("regsvr32", "/s", wine.windows_path(prefix.build / "Vorlane.dll"))
 
 
-# What a replacement tells when the host refuses a member (0x80200009, an object that was erased).
-REFUSED = {
-    # the report of a failure that left a handler
-    "! Error -2145386487: ": ("ModelSpace", "SelectionSets", "Count", "Add", "InsertBlock", "InsertionPoint", "XScaleFactor",
-                              "YScaleFactor", "ZScaleFactor", "Rotation", "Update"),
-    # the dialog's own handler
-    "|  The following error has occurred": ("Blocks", "Select", "Name", "IsLayout", "IsXRef", "Delete"),
-    # no Lisp, no command code: no command runs
-    "|  Erreur 91": ("Application", "GetInterfaceObject"),
-    # not asked for here, or errors are ignored
-    "+-- Quillet 1.0 (i)": ("hasAttributes", "GetAttributes", "TextString", "TagString", "Visible", "ObjectName"),
-}
-
-
-def check_refusals(prefix):
-    """A host that refuses each member in turn: the box that belongs there, and the host goes on."""
-    for told, members in REFUSED.items():
-        for member in members:
-            run = Run(prefix, REPLACE, options=("--refuse", member, "--lenient"))
-            expect(f"refusing {member} tells \"{told}\", and the host lives on",
-                   run.code == 0 and told in run.text and "calls " in run.text)
-
-
 def check_installer(prefix):
     setup = prefix.build / "Vorlane-1.0-setup.exe"
     prefix.must("regsvr32", "/s", "/u", wine.windows_path(prefix.build / "Vorlane.dll"))
@@ -160,7 +137,7 @@ def check_installer(prefix):
 def main():
     build = Path(sys.argv[1]).resolve()
     with wine.Prefix(build / "prefix", build) as prefix:
-        for check in (check_registration, check_commands, check_lisp, check_failures, check_refusals, check_installer):
+        for check in (check_registration, check_commands, check_lisp, check_failures, check_installer):
             check(prefix)
     print(f"{len(failed)} wrong")
     return 1 if failed else 0

@@ -24,6 +24,8 @@ class HostSession {
     void open(const std::string& path);
     /// Carries out the script's lines at the command prompt. Raises text_face::ScriptError.
     void run();
+    /// One line more.
+    void runOne(const std::string& line) { execute(line); }
 
     AcadBorder& border() { return border_; }
     /// The objects of the component that are alive.

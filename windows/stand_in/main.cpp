@@ -1,9 +1,10 @@
 // A program in AutoCAD's place for the tests of the add-in: see docs/autocad.md.
 //
 //   stand_in DRAWING --script FILE --lisp vorlane.lsp [--regional fr|en] [--install FOLDER] [--refuse MEMBER]
-//            [--keep-registry] [--lock FILE] [--lenient | --hold] [--counts]
+//            [--then LINE] [--keep-registry] [--lock FILE] [--lenient | --hold] [--counts]
 //
-// --install writes the install folder into the registry unless --keep-registry; --lock keeps others from
+// --refuse makes a member of the host's objects fail until the script's end, --then carries out a line after
+// it; --install writes the install folder into the registry unless --keep-registry; --lock keeps others from
 // writing a file, as in a folder where the user may only read; --lenient answers what comes after the
 // script's end, so that a script needn't know which boxes a failure brings; --hold leaves the dialog that is
 // up at the end as it is.
@@ -110,6 +111,8 @@ int run(Options options, std::ostream& output) {
     const auto start = std::chrono::steady_clock::now();
     try {
         session->run();
+        session->border().refuse("");
+        if (options.count("--then") != 0) session->runOne(options["--then"]);
     } catch (const text_face::ScriptError& error) {
         return fail(output, error.what(), stand_in::Story::kStopped);
     }
