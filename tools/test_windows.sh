@@ -8,7 +8,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
 
 need_packages g++ cmake ninja-build python3 python3-ezdxf libgtest-dev googletest g++-mingw-w64-x86-64-posix \
-    wine wine64 xvfb nsis
+    wine wine64 xvfb nsis || {
+    echo "./test windows runs nothing without these packages (about 180 MB), and they couldn't be installed." >&2
+    exit 1
+}
 build_preset test vorlane-console make-big-drawing
 build_preset windows
 say "Testing the border to automation"

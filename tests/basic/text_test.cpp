@@ -115,6 +115,14 @@ TEST(CodePage, TranslatesEveryByteBothWays) {
 TEST(CodePage, AsksForWhatItLacks) {
     EXPECT_EQ(toCodePage("Ж→œ\u0080"), "??\x9C?");
     EXPECT_EQ(toCodePage("\xE9t\xE9"), "\xE9t\xE9");
+
+    // A system of another one: 0xE9 is a Cyrillic letter, and the letter of before is lost.
+    CodePage cyrillic = windows1252();
+    cyrillic[0xE9 - 0x80] = U'й';
+    useCodePage(cyrillic);
+    EXPECT_EQ(fromCodePage("\xE9\x80"), "й€");
+    EXPECT_EQ(toCodePage("йé€"), "\xE9?\x80");
+    useCodePage(windows1252());
 }
 
 }  // namespace

@@ -102,9 +102,14 @@ def check_failures(prefix):
 
     one_box("a missing settings file", "Erreur 53", spoil=lambda r: r.settings.unlink())
     one_box("a missing install folder", "Erreur 76", spoil=lambda r: r.install.rename(r.folder / "elsewhere"))
-    run = Run(prefix, ABOUT + "LIST\n", options=("--lock", r"install\Vorlane.ini"))
+    # A folder where the user may only read: the choice of a language can't be written either.
+    choice = "VNABOUT\nCombo1 : Français\nOKButton\nLIST\n"
+    run = Run(prefix, choice, options=("--lock", r"install\Vorlane.ini"))
     expect("a settings file that can't be written is passed over, and stays as it was",
-           run.code == 0 and "[fmAbout] hidden" in run.text and "Erreur" not in run.text and "V_" not in run.saved)
+           run.code == 0 and "[fmAbout] hidden" in run.text and "rreur" not in run.text and run.saved == "Lng=English\r\n")
+    run = Run(prefix, choice, spoil=lambda r: (r.install / "Vorlane.ini~").mkdir())
+    expect("where nothing can be put beside it, the file itself is written",
+           run.code == 0 and run.saved.startswith("Lng=Fran\xe7ais\r\n") and run.saved.count("V_") == 155)
     prefix.run(["reg", "delete", r"HKLM\Software\Merovane", "/f"], timeout=60)
     one_box("no registry value", "Erreur ", options=("--keep-registry",))
     prefix.must("regsvr32", "/s", wine.windows_path(prefix.build / "Vorlane.dll"))

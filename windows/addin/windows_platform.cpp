@@ -1,5 +1,6 @@
 #include "windows/addin/windows_platform.h"
 
+#include "basic/code_page.h"
 #include "basic/error.h"
 #include "basic/wide.h"
 #include "windows/addin/module_path.h"
@@ -47,6 +48,20 @@ std::string localeText(LCTYPE kind) {
     return basic::fromWide(text);
 }
 
+/// The system's code page, where its characters have one byte each and lie in the first plane.
+std::optional<basic::CodePage> systemCodePage() {
+    CPINFO info{};
+    if (GetCPInfo(CP_ACP, &info) == FALSE || info.MaxCharSize != 1) return std::nullopt;
+    basic::CodePage page{};
+    for (std::size_t i = 0; i < page.size(); ++i) {
+        const char byte = static_cast<char>(0x80 + i);
+        wchar_t character = 0;
+        if (MultiByteToWideChar(CP_ACP, 0, &byte, 1, &character, 1) != 1) return std::nullopt;
+        page[i] = character;
+    }
+    return page;
+}
+
 bool isAbsolute(std::string_view path) {
     return path.size() > 2 && path[1] == ':' && (path[2] == '\\' || path[2] == '/');
 }
@@ -67,7 +82,9 @@ HtmlHelpFunction helpViewer() {
 }  // namespace
 
 WindowsPlatform::WindowsPlatform(void* module, std::function<std::string()> language)
-    : module_(module), language_(std::move(language)) {}
+    : module_(module), language_(std::move(language)) {
+    if (const auto page = systemCodePage()) basic::useCodePage(*page);
+}
 
 std::optional<RegistryValue> WindowsPlatform::queryRegistry(platform::RegistryRoot root,
                                                             std::string_view keyPath,
