@@ -2,6 +2,7 @@
 
 #include "about/fm_help_hidden.h"
 #include "tests/about/about_world.h"
+#include "tests/fakes/layout_check.h"
 
 namespace about {
 namespace {
@@ -29,7 +30,11 @@ TEST_F(Help, TheHiddenDialogOpensTheStartPageAndIsNeverDrawn) {
 }
 
 TEST_F(Help, TheOtherHelpStaysFrenchAndHidesItselfToo) {
+    session.form("fmAbout");
+    const int before = platform.commonControls;
     auto& dialog = session.form<fmHelp>("fmHelp");
+    EXPECT_EQ(platform.commonControls, before + 1);
+    expectTidy(dialog);
     EXPECT_EQ(dialog.caption(), "Aide Quillet 1.0");
     EXPECT_EQ(dialog.cmdOK.caption(), "Annuler");
     EXPECT_EQ(dialog.BtnHelp.caption(), "Aide local");

@@ -142,6 +142,7 @@ TEST_F(TextFile, ReportsAFullDiskAtCloseAndWhileWriting) {
     EXPECT_EQ(errorOf([&] { small.close(); }), kDiskFull);
     TextWriter large("/dev/full", TextWriter::Mode::Append);
     EXPECT_EQ(errorOf([&] { large.writeLine(std::string(1 << 20, 'x')); }), kDiskFull);
+    EXPECT_EQ(errorOf([&] { large.close(); }), kDeviceError) << "told again to who skipped it";
 }
 
 }  // namespace

@@ -13,13 +13,21 @@ namespace {
 TEST(Utf8, KeepsWellFormedAndIllFormedTexts) {
     // Every length of sequence, then a stray continuation, a cut sequence, overlong forms, a surrogate, too
     // high.
-    for (const char* text : {"aé€\U0001D11E", "\x80x", "\xE9t\xE9", "\xC3", "\xC0\xAF", "\xE0\x80\x80",
-                             "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF\xFE"}) {
+    for (const char* text :
+         {"aé€\U0001D11E", "\u0800\uFFFD\U00010000\U0010FFFF", "\u0080\u07FF", "\x80x", "\xE9t\xE9", "\xC3",
+          "\xC0\xAF", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF\xFE"}) {
         std::string copy;
         const std::string_view view(text);
         for (std::size_t position = 0; position < view.size();)
             appendCharacter(copy, nextCharacter(view, position));
         EXPECT_EQ(copy, text);
+    }
+    for (const char32_t whole : {0x80, 0x7FF, 0x800, 0xFFFD, 0x10000, 0x10FFFF}) {
+        std::string text;
+        appendCharacter(text, whole);
+        std::size_t end = 0;
+        EXPECT_EQ(nextCharacter(text, end), whole);
+        EXPECT_EQ(end, text.size());
     }
     std::size_t position = 0;
     EXPECT_EQ(nextCharacter("€", position), 0x20ACu);

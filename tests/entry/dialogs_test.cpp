@@ -5,6 +5,7 @@
 #include "forms/text_metric.h"
 #include "tests/fakes/dialog_world.h"
 #include "tests/fakes/fake_platform.h"
+#include "tests/fakes/layout_check.h"
 #include "tests/fakes/recording_screen.h"
 
 #include <gtest/gtest.h>
@@ -35,6 +36,31 @@ TEST_P(Dialogs, EveryCaptionHasRoom) {
         const forms::Form& form = session.form(name);
         // The face enlarges a dialog to no more than that.
         EXPECT_LT(forms::growthToFit(form, metric), forms::kMostGrowth) << name;
+    }
+}
+
+TEST_P(Dialogs, AreTidyAndKnowWhatEnterAndEscapePress) {
+    const std::pair<const char*, const char*> rows[] = {{"fmReplace", "Esc BtnClose "},
+                                                        {"fmAttSet", "Enter OKButton "},
+                                                        {"fmLabels", "Esc OKButton "},
+                                                        {"fmAttFormat", "Enter OKButton Esc CancelButton "},
+                                                        {"fmParamIns", "Enter OKButton "},
+                                                        {"fmExtract", "Esc BtnClose "},
+                                                        {"fmVnMessage", "Enter OKButton Esc CancelButton "},
+                                                        {"fmReInsert", "Esc BtnClose "},
+                                                        {"fmAbout", "Enter OKButton Esc OKButton "},
+                                                        {"fmHelp", "Esc cmdOK "}};
+    for (const auto& [name, keys] : rows) {
+        const forms::Form& form = session.form(name);
+        expectTidy(form);
+        std::string told;
+        for (const forms::Control* control : form.controls()) {
+            const auto* button = dynamic_cast<const forms::Button*>(control);
+            if (button == nullptr) continue;
+            if (button->isDefault()) told += "Enter " + button->name() + " ";
+            if (button->isCancel()) told += "Esc " + button->name() + " ";
+        }
+        EXPECT_EQ(told, keys) << name;
     }
 }
 

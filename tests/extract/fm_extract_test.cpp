@@ -107,6 +107,19 @@ TEST_F(ExtractTest, LetsFailuresOutInALaterPassOfThePick) {
     EXPECT_EQ(headers(table()).size(), 8U) << "the columns as far as they got";
 }
 
+TEST_F(ExtractTest, ASecondPickEmptiesTheTableAlsoWhenItIsGivenUp) {
+    extract(first, {first, second});
+    pick(bench);
+    look([&] { EXPECT_EQ(table().listItems().count(), 2); });
+    screen.click("BtnNew");
+    screen.click("CancelButton");
+    look([&] {
+        EXPECT_EQ(table().listItems().count(), 0);
+        EXPECT_EQ(extraction().Label1.caption(), "bench");
+    });
+    closeUnsaved();
+}
+
 TEST_F(ExtractTest, CountsAsSavedAfterAFailedSaveAndWritesTheOldPathAfterACancel) {
     extract(first, {first, second});
     screen.click("BtnSave");

@@ -1,4 +1,5 @@
 // The life of a form: load, nested shows, unload; the focus.
+#include "forms/reading_order.h"
 #include "tests/fakes/recording_screen.h"
 #include "tests/fakes/sample_form.h"
 
@@ -106,6 +107,7 @@ TEST_F(FormTest, TheCloseBoxBringsTheDesignBackButKeepsTranslatedCaptions) {
     form.setCaption("Muster");
     form.Check1.setCaption("Drehen");
     form.Check1.setHelpContextId(109900);
+    form.setIcon("house");
     form.rememberDesign();
 
     form.onLoad = [&] { form.fillLists(); };
@@ -114,6 +116,7 @@ TEST_F(FormTest, TheCloseBoxBringsTheDesignBackButKeepsTranslatedCaptions) {
     form.Text1.setEnabled(true);
     form.Check1.setValue(1);
     form.Check1.setCaption("changed later");
+    form.setIcon("later");
     form.Option2.setValue(true);
     form.Combo1.setText("free");
     form.Button1.setTop(1);
@@ -127,6 +130,7 @@ TEST_F(FormTest, TheCloseBoxBringsTheDesignBackButKeepsTranslatedCaptions) {
     EXPECT_EQ(form.taken(), (Events{"Activate", "Resize"}));
     EXPECT_FALSE(form.loaded() || form.visible());
     EXPECT_EQ(form.caption(), "Muster");
+    EXPECT_EQ(form.icon(), "house");
     EXPECT_EQ(form.width(), 6000);
     EXPECT_EQ(form.Check1.caption(), "Drehen");
     EXPECT_EQ(form.Check1.helpContextId(), 109900);
@@ -180,6 +184,21 @@ TEST_F(FormTest, TabGoesRoundInReadingOrderWithAGroupOfOptionsAsOneStop) {
     });
     screen.closeBox();
     form.show(screen);
+}
+
+TEST(ReadingOrder, GoesByRowsAndOneWithoutAHeightIsARowOfItsOwn) {
+    struct Rows : forms::Form {
+        Rows() : Form("fmRows", "098", "Rows") {
+            flat.place(0, 0, 100, 0);
+            right.place(500, 10, 100, 100);
+            left.place(0, 50, 100, 100);
+            below.place(0, 61, 100, 100);
+        }
+        forms::Button flat{*this, "flat"}, right{*this, "right"}, left{*this, "left"}, below{*this, "below"};
+    } rows;
+    std::string names;
+    for (const forms::Control* control : forms::readingOrder(rows)) names += control->name() + " ";
+    EXPECT_EQ(names, "flat left right below ");
 }
 
 TEST_F(FormTest, WhatAShortFrameCutsOffCannotBeActedOn) {

@@ -213,6 +213,13 @@ TEST(ImportVersions, TablesComeWithWhatTheReleaseKnows) {
     EXPECT_EQ(entries("AC1018", false),
               young + "420=255|" + tall + metric + "340=106|371=9|" + sizes + "278=44|");
     EXPECT_EQ(entries("AC1015", true), young + tall + metric + sizes + "278=44|");
+    const auto target = released("AC1015");
+    importBlock(*target, *withTables(false), "NEW");
+    ASSERT_EQ(target->layers().all().size(), 7u);
+    const Layer& layer = target->layers().all().back();
+    EXPECT_EQ(layer.name, "OWN");
+    EXPECT_EQ(layer.color, 3);
+    EXPECT_TRUE(layer.off && layer.frozen && layer.locked);
     for (const bool old : {false, true})
         EXPECT_EQ(entries("AC1009", old), dash + own + tall + metric + sizes);
 }
