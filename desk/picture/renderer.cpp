@@ -198,13 +198,12 @@ bool Renderer::isSeen(const State& state, const Item& item) {
 
 /// Draws what an item has of its own, from a stroke on. Returns whether that is all of it.
 bool Renderer::drawOwn(const State& state, const Item& item, std::uint32_t& strokesDone) {
-    constexpr std::size_t kMostAtOnce = 20'000;  // points
     const DisplayList& list = *state.list;
     if (strokesDone == 0) {
         for (std::uint32_t i = item.firstFill; i < item.fillEnd; ++i) drawFill(state, list.fills[i]);
     }
     for (; item.firstStroke + strokesDone < item.strokeEnd; ++strokesDone) {
-        if (lastCost_ > kMostAtOnce && strokesDone > 0) return false;
+        if (lastCost_ > options_.pointsAtOnce && strokesDone > 0) return false;
         const Stroke& stroke = list.strokes[item.firstStroke + strokesDone];
         drawStroke(state, stroke);
         lastCost_ += stroke.count;

@@ -11,7 +11,7 @@ namespace {
 constexpr int kDeepest = 100;
 /// A look at a place, which follows the mouse, stops after so many items, long before the budget of its
 /// question does.
-constexpr std::size_t kMostNear = 100'000;
+constexpr std::size_t kMostNear = 20'000;
 
 /// The whole numbers from `low` to `high` among 0 to `count` - 1, as begin and end.
 std::pair<int, int> within(double low, double high, int count) {

@@ -14,8 +14,10 @@ using picture::Point2;
 
 namespace {
 
-/// Above this many no halos are drawn.
+/// Above so many entities or points no halos are drawn.
 constexpr std::size_t kMostHalos = 5'000;
+constexpr std::size_t kMostHaloPoints = 50'000;
+constexpr std::size_t kPointsAtOnce = 500;  ///< wide lines take their time
 /// A reference smaller than this on the screen, in logical pixels, is its grip alone.
 constexpr double kSmallest = 4;
 constexpr double kFillOpacity = 0.35;
@@ -67,6 +69,7 @@ void CanvasLights::drawWith(QPainter& painter, const Frame& frame, const Light& 
     picture::RenderOptions options;
     options.frame = frame;
     options.solidLines = true;
+    options.pointsAtOnce = kPointsAtOnce;
     QElapsedTimer timer;
     options.leaveOff = [&] { return timer.elapsed() > light.longest; };
     painter::QtCanvas::Style style;
@@ -127,6 +130,7 @@ void CanvasLights::draw(QPainter& painter, const std::vector<EntityId>& entities
     std::vector<std::size_t> items;
     std::vector<EntityId> grips;
     Frame frame;
+    std::size_t points = 0;
     const picture::DisplayList& list = picture_.list(space_);
     for (const EntityId entity : entities) {
         const auto number = picture_.itemOf(space_, entity);
@@ -138,11 +142,12 @@ void CanvasLights::draw(QPainter& painter, const std::vector<EntityId>& entities
         const bool isSmall = where.width() < kSmallest * ratio_ && where.height() < kSmallest * ratio_;
         if (isSmall && light.grip > 0 && item.placement != picture::Item::kNone) continue;
         items.push_back(*number);
+        for (std::uint32_t i = item.firstStroke; i < item.strokeEnd; ++i) points += list.strokes[i].count;
         frame.add({where.left, where.top});
         frame.add({where.right, where.bottom});
     }
     Light used = light;
-    if (items.size() > kMostHalos) used.halo = 0;
+    if (items.size() > kMostHalos || points > kMostHaloPoints) used.halo = 0;
     if (!items.empty()) {
         const Frame seen = clipped(frame.widened(8 * ratio_), view_.frame());
         drawWith(painter, seen, used, [&](picture::Renderer& renderer) {
