@@ -241,6 +241,7 @@ void prepare(const Drawing& drawing) {
     pictureOf(drawing).counts(drawing.modelSpace());
     drawing::WorkWatch::stage(0.8, 1);
     shapes::sceneOf(drawing).space(drawing.modelSpace());
+    shapes::sceneOf(drawing).blocks().prepareLarge(drawing.modelSpace());
 }
 
 Transform placedTransform(const Drawing& drawing, const shapes::Placed& placed, int column, int row) {

@@ -155,6 +155,13 @@ const BlockShape* BlockShapes::large(EntityId id) {
     return large_.back().second.get();
 }
 
+void BlockShapes::prepareLarge(BlockId space) {
+    drawing_.forEachEntity(space, [&](EntityId id) {
+        if (drawing_.isDisplayed(id)) large(id);
+        return large_.size() < kMostKept;
+    });
+}
+
 void BlockShapes::forgetLarge(const std::vector<EntityId>& changed) {
     std::erase_if(large_, [&](const auto& kept) {
         return std::binary_search(changed.begin(), changed.end(), kept.first);

@@ -51,6 +51,8 @@ class BlockShapes {
     /// What an entity of a space draws by itself where that is so much that it is kept, up to the next change
     /// of the entity; null for others.
     const BlockShape* large(EntityId id);
+    /// Reads those of a space that are kept, which a first pick would wait for.
+    void prepareLarge(BlockId space);
     void forgetLarge(const std::vector<EntityId>& changed);
 
     /// The block that an entity shows, see `readPlaced`.

@@ -122,7 +122,10 @@ bool ShapeWalk::walkItem(const ShapeItem& item, const Transform& toWorld, bool s
     // A reference on layer 0 hands on what holds for it; its own text stands on layer 0 itself.
     const bool shown = showsZero || !item.onLayerZero;
     const bool hasOwn = !item.geometry.empty() || !item.geometry.insertions.empty();
-    if (shown && hasOwn && !visit_(item.geometry, toWorld)) return false;
+    if (shown && hasOwn) {
+        near_ += item.geometry.strokes.size();
+        if (!visit_(item.geometry, toWorld)) return false;
+    }
     if (!item.placed) return true;
     const bool inner = item.onLayerZero ? showsZero : !item.hidesZero;
     return walk(*item.placed, toWorld, inner, depth + 1);
