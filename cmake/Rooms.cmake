@@ -45,7 +45,7 @@ function(vorlane_together target)
     if(VORLANE_TOGETHER)
         set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 4)
         # GCC takes an included file's unnamed namespace for one of a header.
-        target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     endif()
 endfunction()
 

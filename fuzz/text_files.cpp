@@ -3,6 +3,7 @@
 #include "extract/block_data_file.h"
 #include "fuzz/fuzz_input.h"
 #include "session/entry_file.h"
+#include "tests/fakes/fake_platform.h"
 
 namespace {
 
@@ -14,11 +15,13 @@ void readData(const std::string& file) {
 /// A value written comes back, whatever else stands in the file.
 void writeSetting(const std::string& file) {
     using session::Overwrite;
+    fakes::FakePlatform platform;
+    session::EntryFiles files(platform);
     for (const char* key : {"Lng", ":Language", "msg_101", "V_0_1"})
-        session::entryValue(key, file, 0, "", Overwrite::Always);
-    session::hasBareLineFeeds(file);
-    session::entryValue("V_0_1", file, -1, "kept", Overwrite::Always);
-    fuzz::require(session::entryValue("V_0_1", file, 0, "", Overwrite::Always) == "kept");
+        files.value(key, file, 0, "", Overwrite::Always);
+    files.hasBareLineFeeds(file);
+    files.value("V_0_1", file, -1, "kept", Overwrite::Always);
+    fuzz::require(files.value("V_0_1", file, 0, "", Overwrite::Always) == "kept");
 }
 
 }  // namespace

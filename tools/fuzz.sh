@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs the fuzz targets of fuzz/ under the address and undefined-behaviour sanitizers, one after the other.
 #   tools/fuzz.sh MINUTES [TARGET...]    so many minutes for all of them together (0.5 is half a minute)
-#   tools/fuzz.sh --ci                   20 s for each
+#   tools/fuzz.sh --ci                   20 s for each; nothing where clang can't be had
 # Each starts from what fuzz/corpus/TARGET holds and from the samples; what it learns stays in build/fuzz/corpus. An input
 # that breaks something, or takes more than 5 s, ends the run with exit code 1 and lies in build/fuzz/found.
 set -euo pipefail
@@ -12,7 +12,11 @@ minutes=${1:?how many minutes?}
 shift
 targets=("$@")
 [ ${#targets[@]} -gt 0 ] || targets=(drawing import lisp acts text_files)
-need_packages clang cmake ninja-build libclang-rt-14-dev
+if ! need_packages clang cmake ninja-build libclang-rt-14-dev; then
+    [ "$minutes" = --ci ] || exit 1
+    say "No clang to be had: not fuzzed"
+    exit 0
+fi
 say "Building the fuzz targets"
 cmake --preset fuzz >/dev/null
 ninja -C build/fuzz "${targets[@]/#/fuzz_}"
