@@ -13,7 +13,15 @@ namespace fuzz {
 /// broken off, which comes with the last answer.
 class Answers : public model::Prompter {
   public:
-    model::EntityPick getEntity(const drawing::Drawing&, const std::string&) override { return {next()}; }
+    model::EntityPick getEntity(const drawing::Drawing& drawing, const std::string&) override {
+        model::EntityPick pick{next()};
+        drawing.forEachEntity(drawing.modelSpace(), [&](drawing::EntityId id) {
+            pick.entity = id;
+            return drawing.type(id) != "INSERT" || ++picked_ % 2 == 0;  // references mostly, not always the first
+        });
+        if (pick.entity == drawing::kNoEntity) pick.answer = model::Answer::BrokenOff;
+        return pick;
+    }
     model::PointPick getPoint(const std::optional<drawing::Point3>&, const std::string&) override {
         return {next(), {1, 2, 0}};
     }
@@ -32,6 +40,7 @@ class Answers : public model::Prompter {
     }
 
     int asked_ = 0;
+    int picked_ = 0;
 };
 
 /// A drawing behind its automation objects.

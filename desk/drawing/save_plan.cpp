@@ -180,10 +180,6 @@ bool SavePlan::beginAddition(dxf::SectionKind kind, std::string_view name) {
                                : next != nullptr  ? next->begin
                                                   : store_.outline.eof;
     beginPatch(offset, offset);
-    const std::string_view file = store_.source().bytes();
-    // The last line of a file that something cut off has no end of its own.
-    const bool lineIsOpen = !store_.format().binary && offset > 0 && file[offset - 1] != '\n';
-    if (lineIsOpen) addPiece(store_.format().newline());
     if (section != nullptr) return false;
     dxf::TagWriter opening(store_.format(), own());
     opening.plain(0, "SECTION");
@@ -241,6 +237,10 @@ void SavePlan::joinPieces() {
     };
     for (const Patch& patch : patches_) {
         copyUpTo(patch.begin);
+        // The last line of a file that something cut off has no end of its own.
+        const bool isOpen = !pieces_.empty() && !pieces_.back().empty() && pieces_.back().back() != '\n';
+        if (isOpen && patch.pieceCount > 0 && !store_.format().binary)
+            pieces_.push_back(store_.format().newline());
         for (std::size_t i = 0; i < patch.pieceCount; ++i)
             pieces_.push_back(newPieces_[patch.firstPiece + i]);
         position = std::max(position, patch.end);
