@@ -43,7 +43,9 @@ void Drawing::endStep() {
 
 bool Drawing::leavesNothing(const StepLog& log) const {
     if (!log.blocks.empty() || !log.layers.empty() || !log.variables.empty()) return false;
-    if (blocks_.size() != log.blockCount) return false;
+    for (auto block = static_cast<BlockId>(log.blockCount); block < blocks_.size(); ++block) {
+        if (!blocks_[block].isErased) return false;
+    }
     if (store_->additions.size() != log.additions) return false;
     for (EntityId id = store_->count(); id-- > log.firstNew;) {
         if (!isErased(id)) return false;

@@ -3,6 +3,7 @@
 #include "basic/text.h"
 #include "desk/drawing/class_names.h"
 #include "desk/drawing/inside.h"
+#include "desk/drawing/savepoint.h"
 #include "desk/dxf/number_text.h"
 #include "desk/dxf/tag_writer.h"
 
@@ -365,9 +366,15 @@ void Importer::leave(EntityId id, const std::string& reason) {
 ImportResult importBlock(Drawing& target, const Drawing& source, const std::string& name) {
     // One step: undo takes back the block with all that came along, layers and styles too.
     const UndoStep step(target);
-    ImportResult result = Importer(target, source).import(name);
-    Inside::forgetDefinitions(target);
-    return result;
+    drawing::Savepoint before(target);
+    try {
+        ImportResult result = Importer(target, source).import(name);
+        Inside::forgetDefinitions(target);
+        return result;
+    } catch (...) {  // amid it: the source may be damaged anywhere, and memory run out
+        before.takeBack();
+        throw;
+    }
 }
 
 }  // namespace importing

@@ -211,6 +211,48 @@ TEST(ImportOf, BlocksNestedTooDeepIsRefusedAndChangesNothing) {
     EXPECT_EQ(drawing->savedBytes(), before);
 }
 
+/// A value that can't be read stands behind much that came in already: all of it goes, within a step too.
+TEST(ImportOf, AFileThatFailsOnItsWayChangesNothing) {
+    PlainDrawing file(Kind::R2000);
+    file.layer("1D", "OWN 70 0 62 3").block("FRESH").inBlock("POINT 5 91 8 OWN 10 0.0 20 0.0");
+    file.entity("INSERT 5 92 8 0 2 FRESH 10 0.0 20 0.0")
+        .entity(
+            "LWPOLYLINE 5 93 100 AcDbEntity 8 0 100 AcDbPolyline 90 2.5 70 1 10 1.0 20 2.0 10 3.0 20 4.0");
+    const auto source = file.make();
+    for (const char* name : {"WINDOW", "DOOR"}) {
+        const auto drawing = PlainDrawing(Kind::R2000).entity("INSERT 5 60 8 0 2 DOOR 10 0.0 20 0.0").make();
+        const std::string before = drawing->savedBytes();
+        const auto content = contentOf(*drawing, "DOOR");
+        EXPECT_NE(errorOf([&] { importBlock(*drawing, *source, name); }), 0) << name;
+        EXPECT_EQ(drawing->savedBytes(), before) << name;
+        EXPECT_FALSE(drawing->canUndo()) << name;
+        {
+            const UndoStep step(*drawing);
+            drawing->insertBlock(drawing->blocks().find("DOOR"), {1, 2, 3}, {1, 1, 1}, 0);
+            const std::string amid = drawing->savedBytes();
+            EXPECT_NE(errorOf([&] { importBlock(*drawing, *source, name); }), 0) << name;
+            EXPECT_EQ(drawing->savedBytes(), amid) << name;
+            EXPECT_EQ(contentOf(*drawing, "DOOR"), content) << name;
+            EXPECT_EQ(drawing->blocks().find("FRESH"), kNoBlock) << name;
+            importBlock(*drawing, *blockFile(Kind::R2000), name);
+        }
+        EXPECT_TRUE(Drawing::parse(drawing->savedBytes(), "saved.dxf")->findings().empty()) << name;
+        drawing->undo();
+        EXPECT_EQ(drawing->savedBytes(), before) << name;
+    }
+}
+
+/// BLOCKS and ENTITIES both come behind a last line without its end.
+TEST(ImportOf, ATargetThatBreaksOffCanBeReadAgain) {
+    const std::string text = "0\nSECTION\n2\nSPARE\n0\nSE";
+    const auto drawing = Drawing::parse(text, "open.dxf");
+    const ImportResult made = importBlock(*drawing, *blockFile(Kind::R2000), "WINDOW");
+    drawing->insertBlock(made.block, {1, 2, 3}, {1, 1, 1}, 0);
+    const auto saved = Drawing::parse(drawing->savedBytes(), "saved.dxf");
+    EXPECT_EQ(saved->entityCount(saved->modelSpace()), 1u);
+    EXPECT_EQ(saved->entityCount(saved->blocks().find("WINDOW")), drawing->entityCount(made.block));
+}
+
 /// A drawing without block records lists each block as a finding, stays usable, and takes no block file.
 TEST(ImportOf, ATargetWithoutBlockRecordsSaysSo) {
     std::string text = PlainDrawing(Kind::R2000).text();
