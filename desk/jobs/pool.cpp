@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace jobs {
@@ -68,8 +69,6 @@ class Worker {
         results_ = results[0];
     }
     ~Worker() {
-        close(orders_);
-        close(results_);
         if (child_ > 0) await();
     }
     Worker(const Worker&) = delete;
@@ -80,7 +79,8 @@ class Worker {
 
     void give(std::size_t piece) {
         piece_ = piece;
-        writeAll(orders_, &piece, sizeof piece);
+        // A worker that hears of no more pieces ends, which is told like any other end of it.
+        if (!writeAll(orders_, &piece, sizeof piece)) hangUp(orders_);
     }
     /// The result of the piece in hand; nothing where the worker died.
     std::optional<Result> take() {
@@ -91,8 +91,10 @@ class Worker {
         piece_.reset();
         return decode(bytes);
     }
-    /// Waits for the end; what it died of, in words.
+    /// Lets the worker end, if it hasn't; what it died of, in words.
     std::string await() {
+        hangUp(orders_);
+        hangUp(results_);
         int status = 0;
         while (waitpid(child_, &status, 0) < 0 && errno == EINTR) {
         }
@@ -102,13 +104,21 @@ class Worker {
     }
 
   private:
+    static void hangUp(int& file) {
+        if (file >= 0) close(std::exchange(file, -1));
+    }
+    /// Never returns, and lets nothing out: the child must not take the parent's folders away.
     [[noreturn]] static void serve(int orders, int results, std::size_t number, const Work& work) {
         // Ctrl-C reaches the whole process group: the drawing in hand is finished, the parent gives no other.
         std::signal(SIGINT, SIG_IGN);
-        for (std::size_t piece = 0; readAll(orders, &piece, sizeof piece);) {
-            const std::string bytes = encode(work(piece, number));
-            const std::size_t size = bytes.size();
-            if (!writeAll(results, &size, sizeof size) || !writeAll(results, bytes.data(), size)) break;
+        try {
+            for (std::size_t piece = 0; readAll(orders, &piece, sizeof piece);) {
+                const std::string bytes = encode(work(piece, number));
+                const std::size_t size = bytes.size();
+                if (!writeAll(results, &size, sizeof size) || !writeAll(results, bytes.data(), size)) break;
+            }
+        } catch (...) {  // no memory even to tell of it
+            _exit(1);
         }
         _exit(0);
     }
