@@ -1,6 +1,7 @@
 #include "desk/shell/autosave.h"
 
 #include "basic/error.h"
+#include "basic/path.h"
 #include "desk/drawing/drawing.h"
 #include "desk/dxf/file.h"
 #include "desk/shell/surroundings.h"
@@ -81,11 +82,10 @@ std::vector<fs::path> Autosave::leftBehind(const fs::path& folder, const std::st
     const std::string name = nameOf(path);
     std::vector<std::pair<fs::file_time_type, fs::path>> found;
     std::error_code error, unseen;
-    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
-         entry.increment(error)) {
-        const pid_t process = processOf(entry->path().filename().string(), name);
+    for (const fs::directory_entry& entry : basic::folderEntries(folder, error)) {
+        const pid_t process = processOf(entry.path().filename().string(), name);
         if (process <= 0 || worksOn(process)) continue;
-        found.emplace_back(entry->last_write_time(unseen), entry->path());
+        found.emplace_back(entry.last_write_time(unseen), entry.path());
     }
     std::sort(found.rbegin(), found.rend());
     std::vector<fs::path> copies;

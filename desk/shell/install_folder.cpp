@@ -1,6 +1,7 @@
 #include "desk/shell/install_folder.h"
 
 #include "basic/error.h"
+#include "basic/path.h"
 #include "basic/text.h"
 #include "basic/text_file.h"
 #include "desk/dxf/file.h"
@@ -71,19 +72,21 @@ using Files = std::map<std::string, fs::path>;  ///< path below the folder to wh
 /// The delivered files: language files at the top, as the add-in looks for them there; help in its folder.
 Files deliveredFiles(const fs::path& resources) {
     Files files;
-    std::error_code ignored;
-    for (fs::directory_iterator entry(resources / "languages", ignored);
-         !ignored && entry != fs::directory_iterator(); entry.increment(ignored)) {
-        const std::string name = entry->path().filename().string();
-        std::error_code unseen;
-        if (entry->is_regular_file(unseen) && !name.starts_with('.')) files[name] = entry->path();
+    std::error_code unseen;
+    for (const fs::directory_entry& entry : basic::folderEntries(resources / "languages", unseen)) {
+        const std::string name = entry.path().filename().string();
+        if (entry.is_regular_file(unseen) && !name.starts_with('.')) files[name] = entry.path();
     }
-    for (fs::recursive_directory_iterator entry(resources / "help", ignored);
-         !ignored && entry != fs::recursive_directory_iterator(); entry.increment(ignored)) {
-        std::error_code unseen;
-        if (!entry->is_regular_file(unseen)) continue;
-        files["help/" + entry->path().lexically_relative(resources / "help").generic_string()] =
-            entry->path();
+    std::vector<fs::path> folders{resources / "help"};
+    while (!folders.empty()) {
+        const fs::path folder = folders.back();
+        folders.pop_back();
+        for (const fs::directory_entry& entry : basic::folderEntries(folder, unseen)) {
+            if (entry.is_directory(unseen) && !entry.is_symlink(unseen)) folders.push_back(entry.path());
+            if (!entry.is_regular_file(unseen)) continue;
+            files["help/" + entry.path().lexically_relative(resources / "help").generic_string()] =
+                entry.path();
+        }
     }
     return files;
 }

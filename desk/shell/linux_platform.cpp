@@ -1,6 +1,7 @@
 #include "desk/shell/linux_platform.h"
 
 #include "basic/error.h"
+#include "basic/path.h"
 #include "basic/text.h"
 #include "desk/shell/help_pages.h"
 #include "desk/shell/html_text.h"
@@ -37,9 +38,8 @@ std::vector<std::string> LinuxPlatform::folderFiles(const std::string& folder) {
     std::error_code error, unseen;
     std::vector<std::string> files;
     // A name that leads nowhere, to itself or where we may not look, a pipe or a device is no file.
-    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
-         entry.increment(error)) {
-        if (entry->is_regular_file(unseen)) files.push_back(entry->path().string());
+    for (const fs::directory_entry& entry : basic::folderEntries(folder, error)) {
+        if (entry.is_regular_file(unseen)) files.push_back(entry.path().string());
     }
     if (error) throw basic::Error(basic::kPathNotFound, "Path not found: " + folder);
     std::sort(files.begin(), files.end());

@@ -1,5 +1,6 @@
 #include "faces/text/completions.h"
 
+#include "basic/path.h"
 #include "basic/text.h"
 #include "faces/text/control_names.h"
 #include "forms/controls.h"
@@ -44,7 +45,7 @@ std::vector<std::string> fileCompletions(std::string_view before, std::string_vi
     std::vector<std::string> lines;
     std::error_code error;
     for (const auto& entry :
-         fs::directory_iterator(folder.empty() ? fs::path(".") : expandHome(folder), error)) {
+         basic::folderEntries(folder.empty() ? fs::path(".") : expandHome(folder), error)) {
         const std::string name = entry.path().filename().string();
         const bool isFolder = entry.is_directory(error);
         const std::string extension = entry.path().extension().string();

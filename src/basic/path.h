@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <vector>
 
 namespace basic {
 
@@ -18,5 +20,9 @@ inline std::string fromPath(const std::filesystem::path& path) {
     const std::u8string text = path.u8string();
     return {reinterpret_cast<const char*>(text.data()), text.size()};
 }
+
+/// What stands in a folder, in no order; nothing and `error` where it can't be read.
+std::vector<std::filesystem::directory_entry> folderEntries(const std::filesystem::path& folder,
+                                                            std::error_code& error);
 
 }  // namespace basic
