@@ -281,10 +281,13 @@ Desk::Outcome Desk::run(const std::string& line) {
     nextCopy_ = std::chrono::steady_clock::now() + autosaveInterval_;
     const model::ContextPtr context = hasDrawing() ? document().context() : nullptr;
     const std::uint64_t revision = context ? context->drawing->revision() : 0;
+    const int shortages = basic::memoryShortages();
     try {
         const Outcome outcome = basic::acrossBorder(
             [&] { return text.starts_with('(') || text.starts_with('!') ? evaluate(text) : command(text); });
         keepCopy();
+        if (outcome == Outcome::Done && basic::memoryShortages() != shortages)
+            return fail(Outcome::Failed, "Memory ran out: a part of the command may not have been done.");
         return outcome;
     } catch (const UserBreak& userBreak) {
         fail(Outcome::Failed, userBreak.what());

@@ -1,5 +1,6 @@
 #include "basic/border.h"
 
+#include <atomic>
 #include <cerrno>
 #include <filesystem>
 #include <new>
@@ -23,7 +24,16 @@ ErrorNumber numberOf(const std::error_code& code) {
     return kDeviceError;
 }
 
+std::atomic<int> shortages = 0;
+
+[[noreturn]] void raiseShortage() {
+    ++shortages;
+    throw Error(kOutOfMemory);
+}
+
 }  // namespace
+
+int memoryShortages() { return shortages; }
 
 void rethrowAcrossBorder() {
     try {
@@ -33,9 +43,9 @@ void rethrowAcrossBorder() {
     } catch (const Interruption&) {
         throw;
     } catch (const std::bad_alloc&) {
-        throw Error(kOutOfMemory);
+        raiseShortage();
     } catch (const std::length_error&) {
-        throw Error(kOutOfMemory);
+        raiseShortage();
     } catch (const std::system_error& error) {  // files above all: its text names them
         throw Error(numberOf(error.code()), error.what());
     } catch (const std::out_of_range& error) {

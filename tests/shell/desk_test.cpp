@@ -61,6 +61,22 @@ TEST_F(DeskTest, LinesThatAreNoCommand) {
     EXPECT_EQ(tell("frob"), "frobbed");
 }
 
+TEST_F(DeskTest, AShortageOfMemoryThatAHandlerWentOverIsTold) {
+    struct : fakes::ScriptedPrompter {
+        model::EntityPick getEntity(const drawing::Drawing&, const std::string&) override {
+            throw std::bad_alloc();
+        }
+    } shortOfMemory;
+    Desk other(optionsIn(folder), screen, shortOfMemory, output);
+    other.open(house);
+    told();
+    EXPECT_EQ(other.run("(vl-catch-all-apply 'vla-GetEntity (list (vla-get-Utility (vla-get-ActiveDocument "
+                        "(vlax-get-acad-object))) 'entity 'point))"),
+              Outcome::Failed);
+    EXPECT_TRUE(told().ends_with("Memory ran out: a part of the command may not have been done.\n"));
+    EXPECT_EQ(other.run("(+ 1 1)"), Outcome::Done);
+}
+
 TEST_F(DeskTest, AnswersFromLispEndInAnErrorWhereListsAreTooDeepOrTooLong) {
     EXPECT_EQ(desk.answerOf("'((1 2) \"a\" nil ((3.5 4 5)))"), "1,2 a  3.5,4,5");
     const auto answer = [&] { return fakes::errorOf([&] { desk.answerOf("!l"); }); };
