@@ -1,6 +1,6 @@
-// Preloaded into a program, fails the call number FAIL_AT of a kind, FAIL_KIND: "file" (open, read, write,
-// fsync, rename, close, unlink) or "memory" (malloc and its like). At the end, with FAIL_COUNT set, it writes
-// how many calls there were into that file. tools/failing_calls.py uses it.
+// Preloaded into a program, fails the call number FAIL_AT of a kind, FAIL_KIND: "file" (open, read, write, ftruncate,
+// fchmod, fsync, rename, close, unlink) or "memory" (malloc and its like). At its end, with FAIL_COUNT set, each process
+// adds a line to that file: how many calls there were, its parent's before it counted in. tools/failing_calls.py uses it.
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -50,7 +50,7 @@ __attribute__((destructor)) void end() {
     isReady = false;
     const char* name = getenv("FAIL_COUNT");
     if (name == nullptr) return;
-    const int file = next<int (*)(const char*, int, ...)>("open")(name, O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    const int file = next<int (*)(const char*, int, ...)>("open")(name, O_WRONLY | O_CREAT | O_APPEND, 0600);
     dprintf(file, "%ld %ld\n", fileCalls, memoryCalls);
 }
 
@@ -60,6 +60,12 @@ mode_t modeOf(int flags, va_list arguments) { return (flags & O_CREAT) != 0 ? va
 
 extern "C" {
 
+/// A worker of the verbs ends so.
+void _exit(int code) {
+    end();
+    next<void (*)(int)>("_exit")(code);
+    __builtin_unreachable();
+}
 void* malloc(size_t size) { return failsAllocation() ? nullptr : __libc_malloc(size); }
 void* calloc(size_t count, size_t size) { return failsAllocation() ? nullptr : __libc_calloc(count, size); }
 void* realloc(void* block, size_t size) { return failsAllocation() ? nullptr : __libc_realloc(block, size); }
@@ -95,6 +101,15 @@ ssize_t write(int file, const void* data, size_t size) {
 ssize_t writev(int file, const iovec* vectors, int count) {
     if (file > 2 && failsFile(ENOSPC)) return -1;
     return next<ssize_t (*)(int, const iovec*, int)>("writev")(file, vectors, count);
+}
+int ftruncate(int file, off_t size) {
+    return failsFile(EIO) ? -1 : next<int (*)(int, off_t)>("ftruncate")(file, size);
+}
+int ftruncate64(int file, off64_t size) {
+    return failsFile(EIO) ? -1 : next<int (*)(int, off64_t)>("ftruncate64")(file, size);
+}
+int fchmod(int file, mode_t mode) {
+    return failsFile(EPERM) ? -1 : next<int (*)(int, mode_t)>("fchmod")(file, mode);
 }
 int fsync(int file) { return failsFile(EIO) ? -1 : next<int (*)(int)>("fsync")(file); }
 int rename(const char* from, const char* to) {
