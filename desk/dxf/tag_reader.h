@@ -2,6 +2,7 @@
 
 #include "desk/dxf/tag.h"
 
+#include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -89,18 +90,30 @@ inline void TagReader::take(Tag& tag, int code, const char* value, const char* v
     tag.format = source_.format;
 }
 
+/// The lines of group codes as drawings have them, three characters wide, by their code; the first byte
+/// lowest. The places behind 999 are those of lines that are none.
+inline constexpr auto kCodeLines = [] {
+    std::array<std::uint32_t, 15 * 111 + 1> lines{};
+    for (std::uint32_t code = 0; code < 1000; ++code) {
+        const std::uint32_t hundreds = code > 99 ? '0' + code / 100 : ' ';
+        const std::uint32_t tens = code > 9 ? '0' + code / 10 % 10 : ' ';
+        lines[code] = hundreds | tens << 8 | ('0' + code % 10) << 16;
+    }
+    return lines;
+}();
+
 inline bool TagReader::advanceNear([[maybe_unused]] Tag& tag) {
 #ifdef __SSE2__
     constexpr int kLook = 16;  // how much of the value is looked at in one go
     const char* const from = position_;
     if (end_ - from < 5 + 2 * kLook) return false;
-    const bool hasReturn = from[3] == '\r';
-    const char* const value = from + (hasReturn ? 5 : 4);
-    // A digit becomes its value, a blank 16, any other byte something beyond 9.
-    const auto digit = [from](int at) { return static_cast<unsigned>(from[at] ^ '0'); };
-    const unsigned hundreds = digit(0), tens = digit(1), ones = digit(2);
-    const bool tensFit = tens <= 9 || (tens == 16 && hundreds == 16);
-    if (value[-1] != '\n' || ones > 9 || !tensFit || (hundreds > 9 && hundreds != 16)) return false;
+    std::uint32_t line;
+    std::memcpy(&line, from, sizeof line);
+    // The low halves of digits are what they count, that of a blank is 0.
+    const std::uint32_t code = (line & 15) * 100 + (line >> 8 & 15) * 10 + (line >> 16 & 15);
+    if ((line & 0xFFFFFF) != kCodeLines[code]) return false;
+    const char* const value = from + (from[3] == '\r' ? 5 : 4);
+    if (value[-1] != '\n') return false;
     const auto feedsOf = [](const char* at) {
         const __m128i look = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
         return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(look, _mm_set1_epi8('\n'))));
@@ -110,8 +123,7 @@ inline bool TagReader::advanceNear([[maybe_unused]] Tag& tag) {
     if (feeds == 0) return false;
     const char* const feed = value + std::countr_zero(feeds);
     const bool valueReturn = feed != value && feed[-1] == '\r';
-    take(tag, static_cast<int>((hundreds & 15) * 100 + (tens & 15) * 10 + ones), value,
-         feed - (valueReturn ? 1 : 0), feed + 1);
+    take(tag, static_cast<int>(code), value, feed - (valueReturn ? 1 : 0), feed + 1);
     return true;
 #else
     return false;

@@ -51,3 +51,28 @@ TEST(NumberText, shortestWithAPoint) {
     EXPECT_EQ(handleText(0x2FA0), "2FA0");
     EXPECT_EQ(handleText(0), "0");
 }
+
+// A group amid others is read another way than one at the end of its range: both ways find the same.
+TEST(TagReader, findsTheSameGroupAmidOthersAndAlone) {
+    const Format format;
+    const std::string others(120, ' ');
+    for (const std::string code :
+         {"  0", " 10",  "100", "0",   "10",   "007", "0 1", "1 2",  "  -", " -1",  "-10",
+          "999", "1071", "  :", " 1/", "\t 8", "12a", "   ", "   8", "8 ",  "70000"}) {
+        for (const std::string end : {"\n", "\r\n", "\r\r\n"}) {
+            for (std::size_t length = 0; length < 40; ++length) {
+                const std::string value = std::string(length, 'x').append(end == "\n" ? "" : "\r");
+                const std::string group = code + end + value + "\n", text = group + "  0\nX\n" + others;
+                Tag alone, amid;
+                TagReader aloneReader({group, &format, {}}, 0, group.size());
+                TagReader amidReader({text, &format, {}}, 0, text.size());
+                const TagReader::Step step = aloneReader.advance(alone);
+                ASSERT_EQ(amidReader.advance(amid), step) << code << length;
+                EXPECT_EQ(amidReader.position(), aloneReader.position()) << code << length;
+                EXPECT_EQ(amid.code, alone.code);
+                EXPECT_EQ(amid.raw, alone.raw) << code << length;
+                EXPECT_EQ(amid.end, alone.end);
+            }
+        }
+    }
+}
