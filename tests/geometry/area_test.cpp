@@ -64,6 +64,7 @@ TEST(FlatLoopTest, HoldsAndCuts) {
     const Row rows[] = {
         {box(2, 2, 3, 2), true, false, "inside"},
         {box(12, 0, 3, 3), false, false, "beside"},
+        {outline({{12, 1, 0}, {12, 5, 0}, {10, 2, 0}}), false, false, "touching with a corner"},
         {box(-5, -5, 30, 30), false, false, "round about"},
         {box(8, 2, 6, 2), false, true, "half inside"},
         {box(-2, 2, 14, 1), false, true, "across"},

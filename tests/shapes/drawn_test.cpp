@@ -96,6 +96,7 @@ TEST(Drawn, EachKindByItsGroups) {
         {{"SPLINE 8 0 70 1 71 3 11 0 21 0 11 4 21 0 11 4 21 4 11 0 21 4"}, "(0,0 4,4 0,0)"},
         {{"SPLINE 8 0 71 3 12 0 22 1 13 0 23 -1 11 0 21 0 11 4 21 0"}, "(0,0 2,1 4,0)"},
         {{"SPLINE 8 0 71 2 10 0 20 0 41 1 10 2 20 2 41 3 10 4 20 0 41 1"}, "(0,0 2,1.5 4,0)"},
+        {{"CIRCLE 8 0 10 1 20 2"}, "(1,2 1,2 1,2)"},
         {{"POINT 8 0 10 1 20 2 30 3"}, "dot 1,2,3"},
         {{"RAY 8 0 10 1 20 2 11 0 21 1"}, "ray 1,2~0,1"},
         {{"XLINE 8 0 10 1 20 2 11 1 21 0"}, "both 1,2~1,0"},
@@ -148,6 +149,7 @@ TEST(Drawn, EachKindByItsGroups) {
          "1,3>2,3 2,3>2,1 2,1>1,1 1,1>1,3"},
         {{"OLE2FRAME 8 0 10 0 20 4 11 6 21 0"}, "0,4>6,4 6,4>6,0 6,0>0,0 0,0>0,4"},
         {{"VIEWPORT 8 0 69 2 10 5 20 5 40 4 41 2"}, "3,4>7,4 7,4>7,6 7,6>3,6 3,6>3,4"},
+        {{"VIEWPORT 8 0 10 5 20 5 40 4 41 2"}, "3,4>7,4 7,4>7,6 7,6>3,6 3,6>3,4"},
         {{"VIEWPORT 8 0 69 1 10 5 20 5 40 4 41 2"}, ""},
         {{"MULTILEADER 8 0 300 CONTEXT_DATA{ 40 2 10 0 20 0 41 0.5 140 0.6 43 2 45 2 171 1 304 Note~book 12 "
           "10 22 "
@@ -202,6 +204,33 @@ TEST(Drawn, TextsByTheirAlignment) {
         {"MTEXT 8 0 10 1 20 2 1 A", ""},
     };
     for (const auto& [words, told] : rows) EXPECT_EQ(drawn({words}), told) << words;
+}
+
+TEST(Drawn, DimensionsAndTablesShowTheBlockThatTheyName) {
+    const auto drawing = PlainDrawing()
+                             .block("*D1")
+                             .block("*T1")
+                             .entity("DIMENSION 8 0 2 *D1 10 1 20 2 12 3 22 4 2 *T1")
+                             .entity("ACAD_TABLE 8 0 2 *T1 10 5 20 6 11 0 21 2 12 9 22 9")
+                             .entity("ARC_DIMENSION 8 0 2 *D1 10 1 20 2 11 0 21 2")
+                             .entity("DIMENSION 8 0 2 *D9")
+                             .entity("LINE 8 0 2 *D1")
+                             .make();
+    const auto ids = drawing::modelEntities(*drawing);
+    struct Row {
+        const char* block;
+        Point3 insertion;
+        double rotation;
+    };
+    const Row rows[] = {{"*D1", {3, 4, 0}, 0}, {"*T1", {5, 6, 0}, geometry::kPi / 2}, {"*D1", {0, 0, 0}, 0}};
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        const auto placed = readPlaced(*drawing, ids.at(i));
+        ASSERT_TRUE(placed) << i;
+        EXPECT_EQ(placed->block, drawing->blocks().find(rows[i].block)) << i;
+        drawing::expectNear(placed->placement.insertion, rows[i].insertion);
+        EXPECT_NEAR(placed->placement.rotation, rows[i].rotation, 1e-12) << i;
+    }
+    EXPECT_FALSE(readPlaced(*drawing, ids.at(3)) || readPlaced(*drawing, ids.at(4)));
 }
 
 }  // namespace
