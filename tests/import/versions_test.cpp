@@ -142,13 +142,13 @@ TEST(ImportVersions, WhatNamesSomethingFollowsOrGoes) {
                  "TEXT 5 63 100 AcDbEntity 8 0 100 AcDbText 7 NOSTYLE 1 a 100 AcDbText",
                  "TOLERANCE 5 64 100 AcDbEntity 8 0 100 AcDbFcf 3 NOSTYLE 1 x",
                  "SHAPE 5 65 100 AcDbEntity 8 0 100 AcDbShape 3 x 2 NAME",
-                 "CIRCLE 5 66 100 AcDbEntity 8 0 100 AcDbCircle 40 1 1001 MINE 1005 63 1005 1F"}),
+                 "CIRCLE 5 66 100 AcDbEntity 8 0 100 AcDbCircle 40 1 1001 MINE 1005 63 1005 1F 1005 30"}),
         "0=HATCH|8=0|100=AcDbHatch|71=0|70=1|91=1|92=1|97=0|75=0|98=0|\n"
         "0=LEADER|8=0|100=AcDbLeader|340=103|\n"
         "0=TEXT|8=0|100=AcDbText|1=a|100=AcDbText|\n"
         "0=TOLERANCE|8=0|100=AcDbFcf|1=x|\n"
         "0=SHAPE|8=0|100=AcDbShape|3=x|2=NAME|\n"
-        "0=CIRCLE|8=0|100=AcDbCircle|40=1|1001=MINE|1005=103|1005=0|\n");
+        "0=CIRCLE|8=0|100=AcDbCircle|40=1|1001=MINE|1005=103|1005=0|1005=30|\n");
     // The lock and the lines of an attribute are written anew from R2010 on.
     EXPECT_EQ(
         carried(
