@@ -29,6 +29,7 @@ std::string carried(const std::string& from, const std::string& to,
         const auto parts = target->parts(id);
         for (EntityId each = id; each <= id + parts.count; ++each) {
             const std::string groups = groupsOf(*target, each);
+            EXPECT_TRUE(groups.starts_with("0=" + std::string(target->type(each)) + "|")) << groups;
             told += groups.substr(0, groups.find('|') + 1) + groups.substr(groups.find("8=")) + "\n";
         }
     }
