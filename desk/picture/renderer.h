@@ -14,10 +14,10 @@ namespace picture {
 struct RenderOptions {
     Frame frame;                                ///< the part of the picture that is seen
     std::optional<double> pixelsPerMillimetre;  ///< for lineweights; without it all lines are hairlines
-    double smallest = 0.75;             ///< what is smaller on the picture, in device units, becomes a dot
-    double legible = 2.5;               ///< texts with capitals below this become lines
-    bool solidLines = false;            ///< without linetypes, for highlights
-    std::size_t pointsAtOnce = 20'000;  ///< of one thing, before it is asked whether to leave off
+    double smallest = 0.75;            ///< what is smaller on the picture, in device units, becomes a dot
+    double legible = 2.5;              ///< texts with capitals below this become lines
+    bool solidLines = false;           ///< without linetypes, for highlights
+    std::size_t pointsAtOnce = 2'000;  ///< of one thing, before it is asked whether to leave off
     /// Asked every few things by what can't be resumed: true leaves the picture as it is then.
     std::function<bool()> leaveOff;
 };
