@@ -2,7 +2,7 @@
 
 namespace drawing {
 
-std::uint32_t KindTable::add(const Kind& kind, std::size_t slot) {
+std::uint32_t KindTable::add(const RecordKind& kind, std::size_t slot) {
     const auto number = static_cast<std::uint32_t>(kinds_.size());
     kinds_.push_back(kind);
     slots_[slot] = number;

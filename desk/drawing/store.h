@@ -225,7 +225,7 @@ class Store {
 };
 
 inline Record Store::unpack(const PackedRecord& packed) const {
-    const Kind& kind = kinds_[packed.kind];
+    const RecordKind& kind = kinds_[packed.kind];
     const bool rare = packed.has(kRare);
     Record record;
     record.flags = packed.flags;
