@@ -17,7 +17,8 @@ class Answers : public model::Prompter {
         model::EntityPick pick{next()};
         drawing.forEachEntity(drawing.modelSpace(), [&](drawing::EntityId id) {
             pick.entity = id;
-            return drawing.type(id) != "INSERT" || ++picked_ % 2 == 0;  // references mostly, not always the first
+            return drawing.type(id) != "INSERT" ||
+                   ++picked_ % 2 == 0;  // references mostly, not always the first
         });
         if (pick.entity == drawing::kNoEntity) pick.answer = model::Answer::BrokenOff;
         return pick;

@@ -19,8 +19,8 @@ class Interruption : public std::runtime_error {
 /// in a catch block.
 [[noreturn]] void rethrowAcrossBorder();
 
-/// How often memory has run out at a border. A regime may go on over it; whoever began the work can tell by this
-/// that a part of it may be missing.
+/// How often memory has run out at a border. A regime may go on over it; whoever began the work can tell by
+/// this that a part of it may be missing.
 int memoryShortages();
 
 /// Runs `operation` at a border between rooms or programs, so that no other exception than Error and

@@ -1,6 +1,7 @@
-// Preloaded into a program, fails the call number FAIL_AT of a kind, FAIL_KIND: "file" (open, read, write, ftruncate,
-// fchmod, fsync, rename, close, unlink) or "memory" (malloc and its like). At its end, with FAIL_COUNT set, each process
-// adds a line to that file: how many calls there were, its parent's before it counted in. tools/failing_calls.py uses it.
+// Preloaded into a program, fails the call number FAIL_AT of a kind, FAIL_KIND: "file" (open, read, write,
+// ftruncate, fchmod, fsync, rename, close, unlink) or "memory" (malloc and its like). At its end, with
+// FAIL_COUNT set, each process adds a line to that file: how many calls there were, its parent's before it
+// counted in. tools/failing_calls.py uses it.
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
