@@ -70,7 +70,7 @@ std::wstring fieldText(const std::string& text) {
         if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) lines += '\r';
         lines += text[i];
     }
-    return basic::toWide(lines);
+    return toShown(lines);
 }
 
 /// An ampersand is doubled, one more stands before the letter to underline.
@@ -80,7 +80,7 @@ std::wstring markedCaption(const std::string& caption, std::size_t accelerator) 
         if (caption[i] == '&' || i == accelerator) marked += '&';
         marked += caption[i];
     }
-    return basic::toWide(marked);
+    return toShown(marked);
 }
 
 TOOLINFOW toolOf(HWND control) {
@@ -138,7 +138,7 @@ void ControlWindow::draw(const forms::Changes& changes, const Scale& scale, std:
         EnableWindow(handle_, control_.operable());
     if (control_.has(forms::Property::Caption)) drawCaption(accelerator);
     if (changes.has(Change::ToolTip) && control_.has(forms::Property::ToolTipText)) {
-        std::wstring text = basic::toWide(control_.toolTipText());
+        std::wstring text = toShown(control_.toolTipText());
         TOOLINFOW tool = toolOf(handle_);
         tool.lpszText = text.data();
         SendMessageW(tips, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
@@ -198,12 +198,12 @@ void ControlWindow::drawEntries(const forms::Changes& changes, forms::ListContro
         SendMessageW(handle_, combo ? CB_RESETCONTENT : LB_RESETCONTENT, 0, 0);
         for (int i = 0; i < list.listCount(); ++i)
             SendMessageW(handle_, combo ? CB_ADDSTRING : LB_ADDSTRING, 0,
-                         reinterpret_cast<LPARAM>(basic::toWide(list.list(i)).c_str()));
+                         reinterpret_cast<LPARAM>(toShown(list.list(i)).c_str()));
     }
     if (SendMessageW(handle_, combo ? CB_GETCURSEL : LB_GETCURSEL, 0, 0) != list.listIndex())
         SendMessageW(handle_, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(list.listIndex()), 0);
     if (combo && static_cast<forms::ComboBox&>(list).editable())
-        setWindowText(handle_, basic::toWide(static_cast<forms::ComboBox&>(list).text()));
+        setWindowText(handle_, toShown(static_cast<forms::ComboBox&>(list).text()));
 }
 
 void ControlWindow::drawTable(const forms::Changes& changes, forms::ListView& view, const Scale& scale) {
@@ -224,7 +224,7 @@ void ControlWindow::drawColumns(forms::ListView& view, const Scale& scale) {
     while (Header_GetItemCount(header) > columns)
         ListView_DeleteColumn(handle_, Header_GetItemCount(header) - 1);
     for (int i = 0; i < columns; ++i) {
-        std::wstring text = basic::toWide(view.columnHeaders().item(i + 1).text);
+        std::wstring text = toShown(view.columnHeaders().item(i + 1).text);
         LVCOLUMNW column{};
         column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
         column.cx = scale.pixels(view.columnHeaders().item(i + 1).width);
@@ -245,7 +245,7 @@ void ControlWindow::drawRows(forms::ListView& view) {
     for (int row = 0; row < rows; ++row) {
         const forms::ListItem& item = view.listItems().item(row + 1);
         for (int column = 0; column < columns; ++column) {
-            std::wstring text = basic::toWide(column == 0 ? item.text() : item.subItem(column));
+            std::wstring text = toShown(column == 0 ? item.text() : item.subItem(column));
             LVITEMW cell{};
             cell.mask = LVIF_TEXT;
             cell.iItem = row;

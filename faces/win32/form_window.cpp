@@ -185,7 +185,7 @@ void FormWindow::drawPointer() const {
 }
 
 void FormWindow::drawForm(const forms::Changes& changes) {
-    setWindowText(window_, basic::toWide(form_.caption()));
+    setWindowText(window_, toShown(form_.caption()));
     if (changes.has(Change::Icon)) drawIcon();
     if (!changes.has(Change::Bounds)) return;
     // The model counts a frame of its own; what must fit is the inside.

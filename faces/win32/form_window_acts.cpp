@@ -1,6 +1,5 @@
 // What the user does in a form's window, as acts.
 
-#include "basic/wide.h"
 #include "faces/win32/form_window.h"
 #include "forms/acts.h"
 
@@ -201,7 +200,9 @@ void FormWindow::moved() {
 
 void FormWindow::command(Control& control, HWND window, WORD code) {
     const auto chosen = [&](UINT current) { return static_cast<int>(SendMessageW(window, current, 0, 0)); };
-    const auto typed = [&] { act([&] { acts::type(control, basic::fromWide(windowText(window))); }); };
+    const auto typed = [&](const std::string& before) {
+        act([&] { acts::type(control, fromShown(before, windowText(window))); });
+    };
     const auto focused = [&] {
         if (form_.activeControl() != &control) act([&] { acts::focus(control); });
     };
@@ -216,7 +217,7 @@ void FormWindow::command(Control& control, HWND window, WORD code) {
             if (code == STN_CLICKED) act([&] { acts::click(control); });
             break;
         case Kind::TextBox:
-            if (code == EN_CHANGE) typed();
+            if (code == EN_CHANGE) typed(static_cast<forms::TextBox&>(control).text());
             if (code == EN_SETFOCUS) focused();
             break;
         case Kind::ListBox:
@@ -226,7 +227,7 @@ void FormWindow::command(Control& control, HWND window, WORD code) {
         case Kind::ComboBox:
             // The field still shows the text of before: the entry is asked for.
             if (code == CBN_SELCHANGE) act([&] { acts::chooseIndex(control, chosen(CB_GETCURSEL)); });
-            if (code == CBN_EDITCHANGE) typed();
+            if (code == CBN_EDITCHANGE) typed(static_cast<forms::ComboBox&>(control).text());
             if (code == CBN_SETFOCUS) focused();
             break;
         default:
@@ -286,7 +287,10 @@ bool FormWindow::notifyView(forms::ListView& view, const NMHDR& header, LRESULT&
         case LVN_ENDLABELEDITW: {
             const wchar_t* text = reinterpret_cast<const NMLVDISPINFOW&>(header).item.pszText;
             result = text != nullptr ? TRUE : FALSE;
-            if (text != nullptr) act([&] { acts::endEdit(view, basic::fromWide(text)); });
+            if (text == nullptr) return true;
+            const int row = reinterpret_cast<const NMLVDISPINFOW&>(header).item.iItem;
+            const std::string before = view.listItems().item(row + 1).text();
+            act([&] { acts::endEdit(view, fromShown(before, text)); });
             return true;
         }
         default:

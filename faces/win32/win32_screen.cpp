@@ -22,7 +22,7 @@ HWND asWindow(void* handle) { return static_cast<HWND>(handle); }
 std::wstring filterText(const forms::FileDialog& dialog) {
     std::wstring filter;
     for (const auto& entry : dialog.filterEntries()) {
-        filter += basic::toWide(entry.label) + L'\0';
+        filter += toShown(entry.label) + L'\0';
         for (std::size_t i = 0; i < entry.patterns.size(); ++i)
             filter += (i > 0 ? L";" : L"") + basic::toWide(entry.patterns[i]);
         filter += L'\0';
@@ -95,8 +95,8 @@ forms::Answer Win32Screen::messageBox(const forms::MessageDialog& box) {
     UINT kind = static_cast<UINT>(box.icon) | MB_TASKMODAL;
     if (box.buttons == forms::MessageDialog::Buttons::OkCancel) kind |= MB_OKCANCEL;
     if (box.buttons == forms::MessageDialog::Buttons::YesNo) kind |= MB_YESNO;
-    return static_cast<forms::Answer>(MessageBoxW(asWindow(owner()), basic::toWide(box.text).c_str(),
-                                                  basic::toWide(box.title).c_str(), kind));
+    return static_cast<forms::Answer>(
+        MessageBoxW(asWindow(owner()), toShown(box.text).c_str(), toShown(box.title).c_str(), kind));
 }
 
 std::optional<std::string> Win32Screen::fileDialog(const forms::FileDialog& dialog,
@@ -104,7 +104,7 @@ std::optional<std::string> Win32Screen::fileDialog(const forms::FileDialog& dial
     const VisualStyles::Active styled(*styles_);
     drawAll();
     const std::wstring filter = filterText(dialog);
-    const std::wstring title = basic::toWide(dialog.dialogTitle());
+    const std::wstring title = toShown(dialog.dialogTitle());
     const std::wstring folder = basic::toWide(dialog.initDir());
     std::vector<wchar_t> path(32768);  // the system's longest path
     OPENFILENAMEW ask{};
@@ -125,8 +125,7 @@ void Win32Screen::reportFailure(std::int32_t number, const std::string& descript
     const VisualStyles::Active styled(*styles_);
     drawAll();
     const std::string text = "Error " + std::to_string(number) + ": " + description;
-    MessageBoxW(asWindow(owner()), basic::toWide(text).c_str(), L"Vorlane",
-                MB_ICONEXCLAMATION | MB_TASKMODAL);
+    MessageBoxW(asWindow(owner()), toShown(text).c_str(), L"Vorlane", MB_ICONEXCLAMATION | MB_TASKMODAL);
 }
 
 }  // namespace win32_face

@@ -1,20 +1,43 @@
 #include "faces/win32/windows_api.h"
 
+#include "basic/shown_text.h"
 #include "basic/wide.h"
 
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace win32_face {
 
 namespace {
 constexpr float kTwipsPerInch = 1440;
+constexpr std::string_view kLineEnd = "\r\n";
+
+std::string replaced(std::string text, std::string_view from, std::string_view to) {
+    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+    return text;
+}
 }  // namespace
 
 std::wstring windowText(HWND window) {
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;
+}
+
+std::wstring toShown(std::string_view text) {
+    std::string shown;
+    for (std::size_t end = text.find(kLineEnd); end != std::string_view::npos; end = text.find(kLineEnd)) {
+        shown.append(basic::shownText(text.substr(0, end))).append(kLineEnd);
+        text.remove_prefix(end + kLineEnd.size());
+    }
+    return basic::toWide(shown + basic::shownText(text));
+}
+
+std::string fromShown(std::string before, const std::wstring& edited) {
+    const std::string bare = replaced(basic::fromWide(edited), kLineEnd, "\n");
+    return replaced(basic::meantText(replaced(std::move(before), kLineEnd, "\n"), bare), "\n", kLineEnd);
 }
 
 void setWindowText(HWND window, const std::wstring& text) {

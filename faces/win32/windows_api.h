@@ -11,10 +11,17 @@
 // clang-format on
 
 #include <string>
+#include <string_view>
 
 namespace win32_face {
 
 std::wstring windowText(HWND window);
+/// A text as a window shows it: with no control character that a drawing or a file brought
+/// (basic::shownText). Line ends stay as they are.
+std::wstring toShown(std::string_view text);
+/// What a text means that was shown in a field and edited there to `edited`; its lines end in both
+/// characters.
+std::string fromShown(std::string before, const std::wstring& edited);
 /// Sets a window's text unless it has it already.
 void setWindowText(HWND window, const std::wstring& text);
 bool isClass(HWND window, const wchar_t* name);

@@ -1,5 +1,6 @@
 // The contract of all faces on native controls, by clicks, pastes and keys.
 #include "faces/win32/win32_screen.h"
+#include "faces/win32/windows_api.h"
 #include "tests/fakes/face_contract.h"
 #include "tests/fakes/mirror.h"
 #include "windows/stand_in/box_acts.h"
@@ -96,6 +97,13 @@ TEST(Win32ContractTest, TheWin32FaceKeepsTheContract) {
     NativeFace face;
     fakes::expectContract(face);
     EXPECT_EQ(face.failures, std::vector<std::string>{"1000failed"});
+}
+
+TEST(Win32TextTest, ControlCharactersAreShownAndOutliveAnEdit) {
+    const std::string before = "a\x1B[31m\r\nb\xE2\x80\xAE";
+    EXPECT_EQ(win32_face::toShown(before), L"a^[[31m\r\nb\\U+202E");
+    EXPECT_EQ(win32_face::fromShown(before, L"a^[[31m\r\nnew b\\U+202E"), "a\x1B[31m\r\nnew b\xE2\x80\xAE");
+    EXPECT_EQ(win32_face::fromShown(before, win32_face::toShown(before)), before);
 }
 
 }  // namespace
