@@ -297,6 +297,7 @@ void MainWindow::resultLink(int index) {
         session_->undo();
         status_->showResult({});
     }
+    canvas_->setFocus();
 }
 
 void MainWindow::chooseSpace(int tab) {

@@ -312,7 +312,10 @@ void MainWindow::connectSession() {
             text, StatusLine::Tone::Plain,
             text.isEmpty() ? QStringList() : QStringList{tr("Show all"), tr("Previous view")});
     });
-    connect(files_, &Files::readingChanged, this, &MainWindow::updateBlocking);
+    connect(files_, &Files::readingChanged, this, [this] {
+        updateBlocking();
+        if (!files_->isReading()) canvas_->setFocus();
+    });
     connect(files_, &Files::recentChanged, this, [this] {
         QMenu* menu = actions_["recent"]->menu();
         menu->clear();

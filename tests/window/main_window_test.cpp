@@ -12,9 +12,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTextBrowser>
+#include <QToolButton>
 
 namespace window {
 namespace {
@@ -253,6 +255,19 @@ TEST_F(MainWindowTest, EachCommandHasATextATipAndNoKeyTwice) {
         EXPECT_TRUE(!takesKeys || isNamed)
             << each->metaObject()->className() << " " << each->objectName().toStdString();
     }
+}
+
+TEST_F(MainWindowTest, KeysGoToTheDrawingAfterALinkOrAnOpening) {
+    window_->status().showResult("done", StatusLine::Tone::Done, {"Show", "Undo"});
+    QTest::qWait(0);
+    auto* undo = window_->status().findChildren<QPushButton*>("link").last();
+    undo->setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), undo);
+    undo->click();
+    EXPECT_EQ(QApplication::focusWidget(), &window_->canvas());
+    window_->status().findChild<QToolButton*>("switch")->setFocus();
+    window_->open(QString::fromStdString(folder_.file("apartment.dxf")));
+    EXPECT_EQ(QApplication::focusWidget(), &window_->canvas());
 }
 
 }  // namespace
